@@ -1,0 +1,26 @@
+# Language level, warnings, sanitizers and output folders for the whole tree.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
+endif()
+
+option(TARROW_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+set(TARROW_SANITIZE "" CACHE STRING "Sanitizers to build with, for example address,undefined")
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
+if(TARROW_WARNINGS_AS_ERRORS)
+  add_compile_options(-Werror)
+endif()
+if(TARROW_SANITIZE)
+  add_compile_options(-fsanitize=${TARROW_SANITIZE} -fno-sanitize-recover=undefined)
+  add_link_options(-fsanitize=${TARROW_SANITIZE})
+endif()
+
+find_program(TARROW_CCACHE ccache)
+if(TARROW_CCACHE)
+  set(CMAKE_C_COMPILER_LAUNCHER ${TARROW_CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${TARROW_CCACHE})
+endif()

@@ -1,0 +1,23 @@
+# Everything comes from the system's packages: scripts/packages.txt lists them.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Network Multimedia Svg OpenGL OpenGLWidgets)
+find_package(ZLIB REQUIRED)
+
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_AUTORCC ON)
+# Qt's lower-case keywords would clash with Python's headers.
+add_compile_definitions(QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+# Another interpreter may stand first on PATH: the templates run in the system's.
+set(Python_EXECUTABLE /usr/bin/python3 CACHE FILEPATH "Interpreter whose library the templates run in")
+set(PYBIND11_FINDPYTHON ON)
+find_package(Python 3.11 REQUIRED COMPONENTS Interpreter Development.Module Development.Embed)
+find_package(pybind11 REQUIRED)
+
+if(TARROW_TESTS)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+endif()
+if(TARROW_BENCHMARKS)
+  find_package(benchmark REQUIRED)
+endif()

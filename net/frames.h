@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QByteArrayView>
+
+#include <optional>
+
+/// The 13 bytes in front of every payload, little-endian on the wire:
+/// type (1 byte), length (4, signed), param (4), command (4).
+struct FrameHeader {
+    static constexpr qsizetype kSize = 13;
+    enum Type : quint8 { NoPayload = 0, Plain = 1, Compressed = 2 };
+
+    quint8 type = NoPayload;
+    qint32 length = 0;
+    quint32 param = 0;
+    quint32 command = 0;
+
+    /// Null with fewer than kSize bytes; the values are taken as they are.
+    static std::optional<FrameHeader> decode(QByteArrayView bytes);
+    void appendTo(QByteArray &bytes) const;
+};
+
+/// A whole frame as the client sends it: type 0, the payload in plain form.
+QByteArray encodeFrame(quint32 command, QByteArrayView payload, quint32 param = 0);
+/// A whole frame of another type as a Dispatcher sends it; a compressed payload is deflated here, behind its size.
+QByteArray encodeFrame(FrameHeader::Type type, quint32 command, QByteArrayView payload, quint32 param = 0);

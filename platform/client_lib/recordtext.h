@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace TClientLib {
+
+/// Writes a record's values, one per line; within a value '\' becomes "\\" and a line feed "\n".
+class TRecordWriter {
+public:
+    void add(std::string_view value);
+    void add(std::int64_t value);
+    const std::string &text() const { return m_text; }
+
+private:
+    std::string m_text;
+    bool m_first = true;
+};
+
+/// Takes a record's values one after the other; what is missing reads as empty or 0, a number that does not parse or
+/// does not fit as 0. The list must outlive the reader.
+class TRecordReader {
+public:
+    explicit TRecordReader(const std::vector<std::string> &values);
+
+    std::size_t remaining() const { return m_values.size() - m_next; }
+    std::string text();
+    std::int64_t integer();
+    std::int32_t integer32();
+    /// A count of groups of `valuesEach` values, never more than the values left can fill.
+    std::size_t count(std::size_t valuesEach);
+
+private:
+    const std::vector<std::string> &m_values;
+    std::size_t m_next = 0;
+};
+
+} // namespace TClientLib

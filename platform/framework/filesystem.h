@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace TFramework {
+
+struct TDirectoryEnumeration;
+
+/// Folders, files and numbered sequences. Paths are UTF-8.
+class TFileSystem {
+public:
+    /// The user's home folder (%APPDATA% on Windows), or with `user` false the folder for all users (/etc,
+    /// %PROGRAMDATA%); no trailing separator.
+    static std::string GetAppSettingsFolder(bool user);
+    /// Both parts with one of the platform's separators between them; an empty part adds nothing.
+    static std::string JoinPath(const std::string &folder, const std::string &name);
+    /// True when the folder stands afterwards.
+    static bool MakeDirectory(const std::string &path, bool recursive);
+    /// The folder part of a path, without its trailing separator ("/" stays); empty when there is none.
+    static std::string GetFilePath(const std::string &path);
+    /// True when the path names an existing file (not a folder).
+    static bool CheckFile(const std::string &path);
+
+    /// Starts to list a folder and gives its first entry's bare name in no particular order, without "." and "..".
+    /// Null when the folder cannot be read or is empty; otherwise end with EnumDirClose().
+    static TDirectoryEnumeration *EnumDirFirstFile(const std::string &folder, std::string &name);
+    static bool EnumDirNextFile(TDirectoryEnumeration *enumeration, std::string &name);
+    static void EnumDirClose(TDirectoryEnumeration *enumeration);
+
+    /// Path of one frame of a mask: "/a/b.####.exr" and 7 give "/a/b.0007.exr". `#` runs, `@` runs and `%04d` are
+    /// read; the last field of the file name counts; a negative frame is '-' and the padded number.
+    /// Empty when the path is no mask.
+    static std::string GetFileFromMask(const std::string &mask, std::int64_t frame);
+    /// Mask of a numbered file: the last run of digits of the file name becomes as many `#`. With `keepPath` the folder
+    /// stays in front. `frame` is the file's number, with its sign where a '-' that is not part of a name precedes it.
+    /// Empty, with `frame` 0, when the name holds no number that fits 32 bits.
+    static std::string GetSequenceMask(const std::string &path, bool keepPath, std::int32_t &frame);
+};
+
+} // namespace TFramework

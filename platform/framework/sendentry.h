@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace TFramework {
+
+/// What a program shares under its name so that templates can send over the program's link.
+/// `send` copies the payload and returns false when there is no link or the message is refused.
+struct TSendEntry {
+    void *owner = nullptr;
+    bool (*send)(void *owner, std::uint32_t command, const char *payload, std::size_t size, std::uint32_t param)
+        = nullptr;
+};
+
+} // namespace TFramework
