@@ -1,0 +1,118 @@
+#include "farmoptions.h"
+
+#include <QtCore/QCommandLineParser>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr int kUsageError = 2;
+
+struct OptionRow {
+    const char *name;
+    const char *value; ///< null for a switch
+    const char *help;
+};
+
+constexpr OptionRow kRows[] = {
+    {"port", "port", "Listen on this port (9883); 0 takes any free one."},
+    {"jobs", "count", "Jobs of the night (12); 0 for a night without an end."},
+    {"rate", "events", "Events a second, on average (2)."},
+    {"seed", "number", "The same seed plays the same night (1)."},
+    {"burst", "events", "Send so many events as fast as the client takes them, in place of a night."},
+    {"compress", nullptr, "Compress the payloads."},
+    {"fragment", "bytes", "Write so many bytes at a time."},
+    {"deny-login", nullptr, "Refuse every log-in."},
+    {"drop-after", "seconds", "Hang up so long after each log-in."},
+    {"garbage", nullptr, "Send broken frames between the events, a seventh as many."},
+    {"once", nullptr, "End when the night is played and the clients have taken everything."},
+};
+
+/// Reads the values and notes the first one that cannot be used.
+class ValueReader {
+public:
+    explicit ValueReader(const QCommandLineParser &parser)
+        : m_parser(parser)
+    { }
+
+    const QString &error() const { return m_error; }
+    bool isSet(const char *name) const { return m_parser.isSet(QLatin1String(name)); }
+
+    template <typename Number>
+    void read(const char *name, Number &number, double least, double most)
+    {
+        if (!isSet(name))
+            return;
+        bool isNumber = false;
+        const double value = m_parser.value(QLatin1String(name)).toDouble(&isNumber);
+        const bool isWhole = value == std::floor(value) || !std::numeric_limits<Number>::is_integer;
+        if (isNumber && value >= least && value <= most && isWhole)
+            number = Number(value);
+        else if (m_error.isEmpty())
+            m_error = QStringLiteral("--%1 takes a number from %2 to %3")
+                          .arg(QLatin1String(name), QString::number(least, 'g', 10),
+                               QString::number(most, 'g', 10));
+    }
+
+private:
+    const QCommandLineParser &m_parser;
+    QString m_error;
+};
+
+FarmOptions readOptions(ValueReader &values)
+{
+    constexpr double kMostInt = std::numeric_limits<int>::max();
+    FarmOptions options;
+    values.read("port", options.port, 0, 65535);
+    values.read("jobs", options.night.jobs, 0, kMostInt);
+    values.read("rate", options.night.eventsPerSecond, 0.001, 1e6);
+    values.read("seed", options.night.seed, 0, std::numeric_limits<quint32>::max());
+    values.read("burst", options.burst, 1, kMostInt);
+    values.read("fragment", options.fragmentSize, 1, kMostInt);
+    if (values.isSet("drop-after")) {
+        double seconds = 0;
+        values.read("drop-after", seconds, 0, 86400);
+        options.dropAfter = std::chrono::milliseconds(qint64(seconds * 1000));
+    }
+    options.compress = values.isSet("compress");
+    options.denyLogin = values.isSet("deny-login");
+    options.garbage = values.isSet("garbage");
+    options.once = values.isSet("once");
+    // As many jobs as the events take.
+    if (options.burst > 0)
+        options.night.jobs = 0;
+    return options;
+}
+
+} // namespace
+
+FarmCommandLine parseFarmCommandLine(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("A stand-in for the render farm: plays a night of jobs "
+                                                    "to every client that logs in and tells on standard\n"
+                                                    "output what it received. The night begins with the "
+                                                    "first log-in and waits while nobody is logged in."));
+    const QCommandLineOption help = parser.addHelpOption();
+    for (const OptionRow &row : kRows) {
+        QCommandLineOption option(QLatin1String(row.name), QString::fromUtf8(row.help));
+        if (row.value)
+            option.setValueName(QLatin1String(row.value));
+        parser.addOption(option);
+    }
+
+    if (!parser.parse(arguments))
+        return {std::nullopt, parser.errorText(), kUsageError};
+    if (parser.isSet(help))
+        return {std::nullopt, parser.helpText(), 0};
+    if (!parser.positionalArguments().isEmpty()) {
+        const QString first = parser.positionalArguments().constFirst();
+        return {std::nullopt, QStringLiteral("Nothing is known of \"%1\"").arg(first), kUsageError};
+    }
+    ValueReader values(parser);
+    FarmOptions options = readOptions(values);
+    if (!values.error().isEmpty())
+        return {std::nullopt, values.error(), kUsageError};
+    return {options, {}, 0};
+}

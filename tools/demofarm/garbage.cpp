@@ -1,0 +1,69 @@
+#include "garbage.h"
+
+#include "frames.h"
+#include "packets.h"
+
+#include <iterator>
+
+namespace {
+
+QByteArray rawFrame(FrameHeader::Type type, qint32 length, quint32 command, const QByteArray &wire)
+{
+    QByteArray bytes;
+    FrameHeader{type, length, 0, command}.appendTo(bytes);
+    return bytes + wire;
+}
+
+Garbage notZlib()
+{
+    const QByteArray wire =
+        QByteArray::fromHex("40000000") + QByteArrayLiteral("this is no compressed stream");
+    return {QStringLiteral("payload that does not inflate"),
+            rawFrame(FrameHeader::Compressed, qint32(wire.size()), CMD_NOTIFICATION, wire), false};
+}
+
+Garbage unknownCommand()
+{
+    return {QStringLiteral("unknown command"), encodeFrame(FrameHeader::Plain, 999, "nobody knows this"),
+            false};
+}
+
+Garbage shortNotification()
+{
+    return {QStringLiteral("notification of six fields"),
+            encodeFrame(FrameHeader::Plain, CMD_NOTIFICATION, "lost\n2\n0\nmara\n\n"), false};
+}
+
+Garbage negativeLength()
+{
+    return {QStringLiteral("header of negative length"),
+            rawFrame(FrameHeader::Plain, -13, CMD_NOTIFICATION, QByteArray(64, 'x')), true};
+}
+
+Garbage negativeInflatedSize()
+{
+    const QByteArray wire = QByteArray::fromHex("ffffffff789c030000000001");
+    return {QStringLiteral("payload of negative inflated size"),
+            rawFrame(FrameHeader::Compressed, qint32(wire.size()), CMD_NOTIFICATION, wire), true};
+}
+
+Garbage noPayloadType()
+{
+    return {QStringLiteral("frame that says it has no payload and has one"),
+            encodeFrame(FrameHeader::NoPayload, CMD_NOTIFICATION, "a\n1\n2\nb\n\n\n"), false};
+}
+
+constexpr Garbage (*kKinds[])() = {unknownCommand, notZlib,       shortNotification,
+                                   negativeLength, noPayloadType, negativeInflatedSize};
+
+} // namespace
+
+Garbage garbage(int turn)
+{
+    return kKinds[std::size_t(turn) % std::size(kKinds)]();
+}
+
+int garbageKinds()
+{
+    return int(std::size(kKinds));
+}
