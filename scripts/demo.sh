@@ -1,0 +1,152 @@
+#!/usr/bin/env bash
+# scripts/demo.sh [--pictures]
+#
+# Installs what is missing, builds the client and the demo farm and runs them together: on a desktop until you quit
+# the client. Without a display, or with --pictures, it runs itself under an X server of its own, lets the farm play a
+# night, saves pictures under build/demo/ and ends with 0 when everything that was sent arrived.
+set -euo pipefail
+. "$(dirname "$0")/common.sh"
+cd "$root"
+
+bin=$root/build/release/bin
+out=$root/build/demo
+farm_pid=
+client_pid=
+
+stop_everything() {
+    trap '' INT TERM
+    local pid
+    for pid in $client_pid $farm_pid; do
+        kill "$pid" 2>/dev/null || true
+    done
+    wait
+}
+trap stop_everything EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM
+
+# wait_for SECONDS WHAT COMMAND...: polls a condition.
+wait_for() {
+    local tries=$(($1 * 10)) what=$2
+    shift 2
+    until "$@" >/dev/null 2>&1; do
+        [ $((tries -= 1)) -gt 0 ] || fail "waited in vain for $what; see the logs in $out"
+        sleep 0.1
+    done
+}
+
+start_farm() {
+    "$bin/tarrow-demofarm" --port 0 "$@" >"$out/farm.log" 2>&1 </dev/null &
+    farm_pid=$!
+    wait_for 10 "the demo farm" grep -q '^listening on ' "$out/farm.log"
+    farm_port=$(sed -n 's/^listening on //p' "$out/farm.log")
+}
+
+start_client() {
+    # One line on standard error for every event that the client keeps.
+    QT_LOGGING_RULES='tarrow.notify.info=true' "$bin/tarrow-alertor" -server 127.0.0.1 -port "$farm_port" \
+        -user "${USER:-demo}" -pass demo >"$out/client.log" 2>&1 </dev/null &
+    client_pid=$!
+}
+
+arrived() {
+    grep -c '^tarrow\.notify: event ' "$out/client.log" || true
+}
+
+sent() {
+    sed -n 's/^sent \([0-9]*\) events$/\1/p' "$out/farm.log"
+}
+
+all_arrived() {
+    [ "$(arrived)" -ge "$(sent)" ]
+}
+
+# Settings of the demo's own: the user's stay as they are.
+play_on_desktop() {
+    export XDG_CONFIG_HOME=$out/config
+    start_farm --jobs 0 --rate 1
+    start_client
+    say "The client sits in the system tray: right-click its icon for the menu, choose Quit to end the demo"
+    wait "$client_pid" || fail "the client ended with status $?; its output is $out/client.log"
+    client_pid=
+    grep -q ' log-in ' "$out/farm.log" \
+        || fail "the client did not log in: if another one runs, quit it first; its output is $out/client.log"
+    kill "$farm_pid"
+    wait "$farm_pid" || true
+    say "$(sent) events were sent, $(arrived) arrived"
+}
+
+tray_icon_corner() {
+    local X Y HEIGHT WINDOW
+    WINDOW=$(xdotool search --onlyvisible --class trayer | tail -n 1)
+    eval "$(xdotool getwindowgeometry --shell "$WINDOW")"
+    # A balloon's arrow covers the middle of the icon.
+    echo "$((X + 6)) $((Y + HEIGHT - 4))"
+}
+
+open_tray_menu() {
+    local corner
+    corner=$(tray_icon_corner)
+    # shellcheck disable=SC2086 # two numbers
+    xdotool mousemove $corner click 3
+    wait_for 10 "the tray menu" xdotool search --onlyvisible --class '^tarrow-alertor$'
+}
+
+# A picture that shows what was just asked for has to wait until it is drawn.
+picture() {
+    sleep 0.7
+    import -window "$1" "$out/$2.png"
+}
+
+take_pictures() {
+    local window
+    open_tray_menu
+    picture root tray-menu
+    xdotool key r
+    wait_for 10 "the window" xdotool search --onlyvisible --name '^Tarrow Alertor$'
+    window=$(xdotool search --onlyvisible --name '^Tarrow Alertor$' | tail -n 1)
+    picture root screen
+    picture "$window" window
+    open_tray_menu
+    xdotool key c
+    wait_for 10 "the preferences" xdotool search --onlyvisible --name '^Alertor Preferences$'
+    picture root preferences
+    xdotool key Escape
+}
+
+play_for_pictures() {
+    rm -f "$out"/*.png
+    start_farm --jobs 8 --rate 25
+    start_client
+    say "The farm plays its night"
+    wait_for 120 "the end of the night" grep -q '^sent ' "$out/farm.log"
+    wait_for 20 "the last event" all_arrived
+    say "Taking pictures"
+    take_pictures
+    kill "$client_pid"
+    wait "$client_pid" || fail "the client ended with status $?; its output is $out/client.log"
+    client_pid=
+    say "$(sent) events were sent, $(arrived) arrived; the pictures are in $out"
+    [ "$(arrived)" = "$(sent)" ] || fail "the numbers differ"
+}
+
+mkdir -p "$out"
+case ${1-} in
+    --play-for-pictures) play_for_pictures; exit ;; # below, under isolated.sh
+    --pictures) pictures=yes ;;
+    --help) sed -n '2,6s/^# \{0,1\}//p' "$0"; exit 0 ;;
+    '') [ -n "${DISPLAY-}${WAYLAND_DISPLAY-}" ] && pictures=no || pictures=yes ;;
+    *) fail "nothing is known of $1" ;;
+esac
+
+tags=(build)
+[ "$pictures" = no ] || tags+=(demo)
+install_packages "${tags[@]}"
+step configure-release "Configuring (release)" cmake --preset release
+step build-release "Building (release)" \
+    cmake --build --preset release --target tarrow-alertor tarrow-demofarm
+if [ "$pictures" = no ]; then
+    play_on_desktop
+else
+    "$root/scripts/isolated.sh" --tray -- "$root/scripts/demo.sh" --play-for-pictures
+fi
