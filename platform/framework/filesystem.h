@@ -29,12 +29,14 @@ public:
     static void EnumDirClose(TDirectoryEnumeration *enumeration);
 
     /// Path of one frame of a mask: "/a/b.####.exr" and 7 give "/a/b.0007.exr". `#` runs, `@` runs and `%04d` are
-    /// read; the last field of the file name counts; a negative frame is '-' and the padded number.
-    /// Empty when the path is no mask.
+    /// read, though not a lone `#` or `@` that a letter or digit follows ("logo@2x.png"); the last field of the file
+    /// name counts; a negative frame is '-' and the padded number. Empty when the path is no mask, or its field is
+    /// wider than 32 digits.
     static std::string GetFileFromMask(const std::string &mask, std::int64_t frame);
-    /// Mask of a numbered file: the last run of digits of the file name becomes as many `#`. With `keepPath` the folder
-    /// stays in front. `frame` is the file's number, with its sign where a '-' that is not part of a name precedes it.
-    /// Empty, with `frame` 0, when the name holds no number that fits 32 bits.
+    /// Mask of a numbered file: the last run of digits of the file name, less its extension, becomes as many `#`. With
+    /// `keepPath` the folder stays in front. `frame` is the file's number; a '-' before it is its sign at the start of
+    /// the name and after '.' or '_'. Empty, with `frame` 0, when the name holds no number that fits 32 bits, is a
+    /// mask already, or would not come back from its mask and number.
     static std::string GetSequenceMask(const std::string &path, bool keepPath, std::int32_t &frame);
 };
 

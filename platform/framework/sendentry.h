@@ -9,8 +9,8 @@ namespace TFramework {
 /// `send` copies the payload and returns false when there is no link or the message is refused.
 struct TSendEntry {
     void *owner = nullptr;
-    bool (*send)(void *owner, std::uint32_t command, const char *payload, std::size_t size, std::uint32_t param)
-        = nullptr;
+    bool (*send)(void *owner, std::uint32_t command, const char *payload, std::size_t size,
+                 std::uint32_t param) = nullptr;
 };
 
 } // namespace TFramework
