@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -20,7 +21,7 @@ private:
 };
 
 /// Takes a record's values one after the other; what is missing reads as empty or 0, a number that does not parse or
-/// does not fit as 0. The list must outlive the reader.
+/// does not fit as 0, a '\' before any other character as itself. The list must outlive the reader.
 class TRecordReader {
 public:
     explicit TRecordReader(const std::vector<std::string> &values);
@@ -29,10 +30,14 @@ public:
     std::string text();
     std::int64_t integer();
     std::int32_t integer32();
-    /// A count of groups of `valuesEach` values, never more than the values left can fill.
+    std::uint32_t unsigned32();
+    /// A count of groups of `valuesEach` (at least 1) values, never more than the values left can fill.
     std::size_t count(std::size_t valuesEach);
 
 private:
+    template <typename Integer>
+    Integer number();
+
     const std::vector<std::string> &m_values;
     std::size_t m_next = 0;
 };

@@ -22,7 +22,8 @@ struct TFramesRange {
     /// Lowest frame of the range; false when it holds none or more than kMaxFrames.
     bool FirstFrame(std::int64_t &frame) const;
 
-    /// The frames of all ranges in order, and in `step` the step of the first range (1 where there is none).
+    /// The frames of all ranges in order, and in `step` the distance between frames of the first range: always
+    /// positive, 1 where there is no range.
     /// Empty when the ranges hold more than kMaxFrames frames together.
     static std::set<long> NumberedFrames(const std::vector<TFramesRange> &ranges, std::int64_t &step);
 };

@@ -41,7 +41,8 @@ public:
     void attributeSetString(std::string name, std::string value);
 
     /// Reads the values of a record; false when the layout version is not known, the job then stays as it was.
-    /// Missing values read as 0 or empty, surplus ones are ignored. The translator may be null.
+    /// Missing values read as 0 or empty, surplus ones are ignored. The translator may be null;
+    /// otherwise the paths and masks among the attributes go through it.
     bool Unmarshall(const std::vector<std::string> &values, const TJobPathTranslator *translator);
     /// The record as a text of values, one per line.
     std::string Marshall() const;
