@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QtCore/QString>
+
+/// What the program calls itself: in titles, in the settings store and on the splash.
+namespace product {
+
+inline const QString kProductTitle = QStringLiteral("Tarrow 9.0.14");
+inline const QString kVersion = QStringLiteral("9.0.14");
+inline const QString kBuildNumber = QStringLiteral("11480");
+inline const QString kBuildDate = QStringLiteral("Thu Aug 29 15:18:04 2019");
+
+inline const QString kOrganisation = QStringLiteral("Loomwright");
+inline const QString kDomain = QStringLiteral("loomwright.example");
+/// The backslashes make nested keys in the Windows registry.
+inline const QString kApplicationName = QStringLiteral("Tarrow\\9\\Alertor");
+
+} // namespace product

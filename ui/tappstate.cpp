@@ -1,0 +1,7 @@
+#include "tappstate.h"
+
+TAppState &TAppState::instance()
+{
+    static TAppState state;
+    return state;
+}
