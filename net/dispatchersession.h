@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QtCore/QPointer>
+#include <QtCore/QString>
+#include <QtNetwork/QAbstractSocket>
+
+#include <functional>
+#include <optional>
+
+class QLWTCPSocket;
+
+/// Where the Dispatcher is and who logs in.
+struct LinkSettings {
+    QString address = QStringLiteral("127.0.0.1");
+    qint32 port = 9883; ///< only the low 16 bits are used
+    QString user = QStringLiteral("admin");
+    QString password;
+    bool skipDirectoryAuthentication = false;
+
+    bool operator==(const LinkSettings &) const = default;
+};
+
+/// The client's link to the Dispatcher: owns the socket, logs in as soon as the connection stands, and tries again
+/// when asked to check it. Faults show as a socket that is unconnected; the caller's timer does the retrying.
+class DispatcherSession final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit DispatcherSession(QObject *parent = nullptr);
+
+    const LinkSettings &settings() const { return m_settings; }
+    /// State of the socket, null while there is none.
+    std::optional<QAbstractSocket::SocketState> state() const;
+    /// True unless the Dispatcher refused the log-in since the settings were last applied.
+    bool autoReconnect() const { return m_autoReconnect; }
+
+    /// Stores the settings for the next connection.
+    void setSettings(const LinkSettings &settings) { m_settings = settings; }
+    void openConnection();
+    void closeConnection();
+    /// Connects when there is no connection and none under way.
+    void checkLocalConnection();
+    /// Drops the link and connects anew with other settings, also after a refusal.
+    void reconnect(const LinkSettings &settings);
+    /// The Dispatcher refused the log-in: drops the link and leaves it down.
+    void refuse();
+    /// False when there is no socket or the message does not fit the send buffer. Messages sent while the link is down
+    /// wait and follow the next log-in.
+    bool send(uint command, const QByteArray &payload, uint param);
+    /// Hands every whole message buffered to `process`, which may run an event loop and close the connection.
+    void drain(const std::function<void(uint command, QByteArray *data)> &process);
+
+Q_SIGNALS:
+    void stateChanged(QAbstractSocket::SocketState state);
+    void errorOccurred(QAbstractSocket::SocketError error);
+    void connected();
+    void disconnected();
+    /// There may be whole messages to drain().
+    void messageReady();
+    void closed();
+
+private Q_SLOTS:
+    void logIn();
+    void stopHeartbeat();
+    void dropConnection();
+
+private:
+    LinkSettings m_settings;
+    QPointer<QLWTCPSocket> m_socket;
+    bool m_autoReconnect = true;
+};

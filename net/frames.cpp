@@ -1,0 +1,68 @@
+#include "frames.h"
+
+#include <QtCore/QtEndian>
+
+#include <limits>
+
+#include <zlib.h>
+
+namespace {
+
+void appendLittleEndian(QByteArray &bytes, quint32 value)
+{
+    const quint32 wire = qToLittleEndian(value);
+    bytes.append(reinterpret_cast<const char *>(&wire), sizeof wire);
+}
+
+QByteArray encodeWirePayload(FrameHeader::Type type, quint32 command, QByteArrayView wire, quint32 param)
+{
+    Q_ASSERT(wire.size() <= std::numeric_limits<qint32>::max());
+    QByteArray frame;
+    frame.reserve(FrameHeader::kSize + wire.size());
+    FrameHeader{type, qint32(wire.size()), param, command}.appendTo(frame);
+    frame.append(wire);
+    return frame;
+}
+
+QByteArray deflated(QByteArrayView payload)
+{
+    QByteArray wire;
+    appendLittleEndian(wire, quint32(payload.size()));
+    uLongf size = compressBound(uLong(payload.size()));
+    wire.resize(qsizetype(sizeof(quint32) + size));
+    compress(reinterpret_cast<Bytef *>(wire.data() + sizeof(quint32)), &size,
+             reinterpret_cast<const Bytef *>(payload.data()), uLong(payload.size()));
+    wire.resize(qsizetype(sizeof(quint32) + size));
+    return wire;
+}
+
+} // namespace
+
+std::optional<FrameHeader> FrameHeader::decode(QByteArrayView bytes)
+{
+    if (bytes.size() < kSize)
+        return std::nullopt;
+    const char *at = bytes.data();
+    return FrameHeader{quint8(at[0]), qFromLittleEndian<qint32>(at + 1), qFromLittleEndian<quint32>(at + 5),
+                       qFromLittleEndian<quint32>(at + 9)};
+}
+
+void FrameHeader::appendTo(QByteArray &bytes) const
+{
+    bytes.append(char(type));
+    appendLittleEndian(bytes, quint32(length));
+    appendLittleEndian(bytes, param);
+    appendLittleEndian(bytes, command);
+}
+
+QByteArray encodeFrame(quint32 command, QByteArrayView payload, quint32 param)
+{
+    return encodeWirePayload(FrameHeader::NoPayload, command, payload, param);
+}
+
+QByteArray encodeFrame(FrameHeader::Type type, quint32 command, QByteArrayView payload, quint32 param)
+{
+    if (type == FrameHeader::Compressed)
+        return encodeWirePayload(type, command, deflated(payload), param);
+    return encodeWirePayload(type, command, payload, param);
+}

@@ -1,0 +1,220 @@
+#include "qlwtcpsocket.h"
+
+#include "inflate.h"
+#include "netlog.h"
+
+#include <QtCore/QPointer>
+#include <QtCore/QSettings>
+#include <QtCore/QTimer>
+#include <QtCore/QtEndian>
+
+#include <algorithm>
+#include <chrono>
+#include <cstring>
+
+namespace {
+
+constexpr qint64 kBufferLimit = 1024 * 1024;
+constexpr qint64 kReadSize = 65535;
+// What the toolkit may hold of our queue: its own write buffer knows no limit.
+constexpr qint64 kWriteAhead = 64 * 1024;
+constexpr auto kHeartbeatCheck = std::chrono::seconds(5);
+
+qint32 heartbeatResolutionSetting()
+{
+    return QSettings().value(QStringLiteral("network/heartbeat_resolution"), 600).toInt();
+}
+
+} // namespace
+
+QLWTCPSocket::QLWTCPSocket(QObject *parent)
+    : QTcpSocket(parent)
+    , m_maxReceiveSize(kBufferLimit)
+    , m_maxSendSize(kBufferLimit)
+    , m_heartbeatResolution(heartbeatResolutionSetting())
+    , m_clock(&QDateTime::currentDateTime)
+{
+    m_receiveBuffer.reserve(kBufferLimit);
+    m_sendBuffer.reserve(kBufferLimit);
+    m_readScratch.resize(kBufferLimit);
+    // Without a limit the toolkit would go on buffering while a modal box keeps us from reading.
+    setReadBufferSize(kBufferLimit);
+    connect(this, &QIODevice::readyRead, this, &QLWTCPSocket::readReady);
+    connect(this, &QIODevice::bytesWritten, this, &QLWTCPSocket::writeReady);
+    connect(this, &QAbstractSocket::disconnected, this, &QLWTCPSocket::clearBuffers);
+}
+
+QLWTCPSocket::~QLWTCPSocket()
+{
+    // The base destructor aborts an open connection: nobody shall hear of it, least of all the members gone by then.
+    disconnect();
+}
+
+bool QLWTCPSocket::sendMessage(uint command, const QByteArray &payload, uint param)
+{
+    return queueMessage(m_sendBuffer.size(), command, payload, param);
+}
+
+bool QLWTCPSocket::sendFirst(uint command, const QByteArray &payload, uint param)
+{
+    return queueMessage(0, command, payload, param);
+}
+
+bool QLWTCPSocket::queueMessage(qsizetype position, uint command, const QByteArray &payload, uint param)
+{
+    const qint64 frameSize = FrameHeader::kSize + payload.size();
+    if (m_maxSendSize != 0 && m_sendBuffer.size() + frameSize > m_maxSendSize) {
+        Q_EMIT sendBufferOverflow();
+        clearBuffers();
+        return false;
+    }
+    m_sendBuffer.insert(position, encodeFrame(command, payload, param));
+    Q_EMIT sendActivity();
+    writeQueued();
+    m_lastActivity = m_clock();
+    return true;
+}
+
+void QLWTCPSocket::writeQueued()
+{
+    // Before the connection stands the toolkit would take the bytes, and they would overtake the log-in.
+    if (m_sendBuffer.isEmpty() || state() != ConnectedState)
+        return;
+    const qint64 offered = std::min<qint64>(m_sendBuffer.size(), kWriteAhead - bytesToWrite());
+    if (offered <= 0)
+        return;
+    const qint64 taken = write(m_sendBuffer.constData(), offered);
+    if (taken > 0)
+        m_sendBuffer.remove(0, taken);
+}
+
+void QLWTCPSocket::writeReady(qint64 lastBytesWritten)
+{
+    Q_UNUSED(lastBytesWritten);
+    Q_EMIT sendActivity();
+    writeQueued();
+}
+
+void QLWTCPSocket::readReady()
+{
+    // A receiver may run an event loop in which this socket is given up.
+    m_reading = true;
+    while (!m_retired && isOpen()) {
+        const qint64 got = read(m_readScratch.data(), kReadSize);
+        if (got < 1)
+            break;
+        Q_EMIT rcvActivity();
+        if (m_maxReceiveSize != 0 && m_receiveBuffer.size() + got > m_maxReceiveSize) {
+            Q_EMIT rcvBufferOverflow();
+            clearBuffers();
+            break;
+        }
+        m_receiveBuffer.append(QByteArrayView{m_readScratch}.first(got));
+        if (hasMessage())
+            Q_EMIT messageReady();
+    }
+    m_reading = false;
+    if (m_retired)
+        deleteLater();
+}
+
+bool QLWTCPSocket::getMessage(uint *command, QByteArray *data, uint *param)
+{
+    data->resize(0); // keeps the memory for the next message
+    if (param)
+        *param = 0;
+    RawFrame frame;
+    switch (m_receiveBuffer.take(frame)) {
+    case FrameReader::Next::NeedMore:
+        return false;
+    case FrameReader::Next::Broken:
+        breakStream("a frame of negative length");
+        return false;
+    case FrameReader::Next::Frame:
+        break;
+    }
+    *command = frame.header.command;
+    if (param)
+        *param = frame.header.param;
+    if (frame.header.type == FrameHeader::NoPayload)
+        return true;
+    if (frame.header.type == FrameHeader::Compressed)
+        return inflateMessage(frame, data);
+    data->resize(frame.payload.size() + 1);
+    std::memcpy(data->data(), frame.payload.data(), std::size_t(frame.payload.size()));
+    data->back() = '\0';
+    return true;
+}
+
+bool QLWTCPSocket::inflateMessage(const RawFrame &frame, QByteArray *data)
+{
+    constexpr qsizetype kSizeField = 4;
+    std::optional<QByteArray> inflated;
+    if (frame.header.length >= kSizeField) {
+        const auto announced = qFromLittleEndian<qint32>(frame.payload.data());
+        if (announced < 0) {
+            breakStream("a payload of negative size");
+            return false;
+        }
+        // The stream is offered one byte less than the payload's length, counted from behind the size: it ends by
+        // itself, and up to three bytes behind the frame are offered with it.
+        const qsizetype offered = std::min<qsizetype>(
+            frame.header.length - 1, frame.payload.size() - kSizeField + frame.beyond.size());
+        inflated = inflateStream(QByteArrayView{frame.payload.data() + kSizeField, offered}, announced);
+    }
+    if (!inflated) {
+        Q_EMIT zDecompressError();
+        clearBuffers();
+        return false;
+    }
+    *data = *std::move(inflated);
+    data->append('\0');
+    return true;
+}
+
+void QLWTCPSocket::breakStream(const char *why)
+{
+    qCWarning(lcNet, "The Dispatcher sent %s; the connection is dropped", why);
+    clearBuffers();
+    abort();
+}
+
+void QLWTCPSocket::clearBuffers()
+{
+    m_receiveBuffer.clear();
+    m_sendBuffer.resize(0);
+}
+
+void QLWTCPSocket::startHeartbeat()
+{
+    m_lastActivity = m_clock();
+    if (m_heartbeatTimer)
+        return;
+    m_heartbeatTimer = new QTimer(this);
+    connect(m_heartbeatTimer, &QTimer::timeout, this, &QLWTCPSocket::checkHeartBeat);
+    m_heartbeatTimer->start(kHeartbeatCheck);
+}
+
+void QLWTCPSocket::checkHeartBeat()
+{
+    // Unsigned on purpose: a clock that was set back sends one heartbeat and starts counting anew.
+    const auto silence = quint32(m_clock().toSecsSinceEpoch() - m_lastActivity.toSecsSinceEpoch());
+    if (silence < quint32(m_heartbeatResolution))
+        return;
+    sendMessage(m_heartbeatCommand, {}, 0);
+    m_lastActivity = m_clock();
+}
+
+void QLWTCPSocket::stopHeartbeat()
+{
+    delete m_heartbeatTimer;
+    m_heartbeatTimer = nullptr;
+}
+
+void QLWTCPSocket::retire()
+{
+    m_retired = true;
+    disconnectFromHost();
+    if (!m_reading)
+        deleteLater();
+}

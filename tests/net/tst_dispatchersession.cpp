@@ -1,0 +1,152 @@
+#include "loopbackpeer.h"
+
+#include <dispatchersession.h>
+#include <packets.h>
+
+#include <tframework.h>
+
+#include <QtCore/QTimer>
+#include <QtTest/QSignalSpy>
+
+class TestDispatcherSession final : public QObject {
+    Q_OBJECT
+
+private:
+    static LinkSettings settingsFor(const LoopbackPeer &peer)
+    {
+        LinkSettings settings;
+        settings.port = peer.port();
+        settings.user = QStringLiteral("ann\u00fc");
+        settings.password = QStringLiteral("secret");
+        settings.skipDirectoryAuthentication = true;
+        return settings;
+    }
+
+private Q_SLOTS:
+    void logsInOnEveryConnection()
+    {
+        LoopbackPeer peer;
+        DispatcherSession session;
+        session.setSettings(settingsFor(peer));
+        QVERIFY(!session.state());
+        session.checkLocalConnection();
+        session.checkLocalConnection(); // one is under way
+        QTRY_COMPARE(peer.received().size(), 1);
+        QCOMPARE(peer.received()[0].command, uint(CMD_LOGIN));
+        const auto login = decodeLogin(peer.received()[0].payload);
+        QVERIFY(login);
+        QCOMPARE(*login,
+                 (LoginPacket{QStringLiteral("ann\u00fc"), QStringLiteral("secret"), true,
+                              QString::fromStdString(TFramework::GetHostName())}));
+        QCOMPARE(heartbeatTimers(session), 1);
+
+        peer.dropLink();
+        QTRY_COMPARE(*session.state(), QAbstractSocket::UnconnectedState);
+        QCOMPARE(heartbeatTimers(session), 0);
+        session.checkLocalConnection();
+        QTRY_COMPARE(peer.received().size(), 2);
+        QCOMPARE(peer.connections(), 2);
+    }
+
+    void asksForKeepAlive()
+    {
+        LoopbackPeer peer;
+        DispatcherSession session;
+        session.setSettings(settingsFor(peer));
+        session.checkLocalConnection();
+        QTRY_COMPARE(peer.received().size(), 1);
+        QCOMPARE(session.findChild<QTcpSocket *>()->socketOption(QAbstractSocket::KeepAliveOption).toInt(),
+                 1);
+    }
+
+    void portIsCutTo16Bits()
+    {
+        LoopbackPeer peer;
+        DispatcherSession session;
+        LinkSettings settings = settingsFor(peer);
+        settings.port += 65'536;
+        session.setSettings(settings);
+        session.checkLocalConnection();
+        QTRY_COMPARE(peer.received().size(), 1);
+    }
+
+    void aMissingDispatcherIsTriedAgain()
+    {
+        quint16 port = 0;
+        DispatcherSession session;
+        {
+            LoopbackPeer gone;
+            port = gone.port();
+            session.setSettings(settingsFor(gone));
+        }
+        QSignalSpy errors(&session, &DispatcherSession::errorOccurred);
+        session.checkLocalConnection();
+        QTRY_COMPARE(errors.size(), 1);
+        QTRY_COMPARE(*session.state(), QAbstractSocket::UnconnectedState);
+        QVERIFY(session.autoReconnect());
+        LoopbackPeer back(port);
+        QVERIFY(back.listening());
+        session.checkLocalConnection();
+        QTRY_COMPARE(back.received().size(), 1);
+    }
+
+    void refusalStopsUntilOtherSettings()
+    {
+        LoopbackPeer peer;
+        DispatcherSession session;
+        session.setSettings(settingsFor(peer));
+        session.checkLocalConnection();
+        QTRY_COMPARE(peer.received().size(), 1);
+        session.refuse();
+        QTRY_COMPARE(*session.state(), QAbstractSocket::UnconnectedState);
+        QVERIFY(!session.autoReconnect());
+        LinkSettings other = settingsFor(peer);
+        other.user = QStringLiteral("ben");
+        session.reconnect(other);
+        QVERIFY(session.autoReconnect());
+        QTRY_COMPARE(peer.received().size(), 2);
+        QCOMPARE(decodeLogin(peer.received()[1].payload)->user, QStringLiteral("ben"));
+    }
+
+    void sendsOverTheLink()
+    {
+        LoopbackPeer peer;
+        DispatcherSession session;
+        session.setSettings(settingsFor(peer));
+        QVERIFY(!session.send(700, "no link", 0));
+        session.checkLocalConnection();
+        QTRY_COMPARE(peer.received().size(), 1);
+        QVERIFY(session.send(700, "hello", 3));
+        QTRY_COMPARE(peer.received().size(), 2);
+        QCOMPARE(peer.received()[1].payload, "hello");
+    }
+
+    void reconfiguredInTheMiddleOfADrain()
+    {
+        LoopbackPeer first;
+        LoopbackPeer second;
+        DispatcherSession session;
+        session.setSettings(settingsFor(first));
+        QByteArrayList drained;
+        connect(&session, &DispatcherSession::messageReady, this, [&] {
+            session.drain([&](uint, QByteArray *data) {
+                drained += *data;
+                if (drained.size() > 1)
+                    return;
+                // As behind a modal box: the user applies other settings and the new link comes up meanwhile.
+                session.reconnect(settingsFor(second));
+                QTRY_COMPARE(second.received().size(), 1);
+            });
+        });
+        session.checkLocalConnection();
+        QTRY_COMPARE(first.received().size(), 1);
+        first.send(encodeFrame(FrameHeader::Plain, 601, "one") + encodeFrame(FrameHeader::Plain, 601, "two"));
+        QTRY_COMPARE(second.received().size(), 1);
+        second.send(encodeFrame(FrameHeader::Plain, 601, "three"));
+        QTRY_COMPARE(drained.size(), 2);
+        QCOMPARE(drained[1], QByteArray("three", 6)); // the rest of the old link's drain is gone with it
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDispatcherSession)
+#include "tst_dispatchersession.moc"

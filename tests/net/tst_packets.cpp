@@ -1,0 +1,89 @@
+#include <packets.h>
+
+#include <QtTest/QTest>
+
+class TestPackets final : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void loginBytes()
+    {
+        // The UTF-8 bytes of u-umlaut, C3 BC, are read as two Latin-1 characters and encoded once more.
+        const LoginPacket login{QStringLiteral("\u00fc"), QStringLiteral("p\u20acw"), true,
+                                QStringLiteral("b\u00fc")};
+        const QByteArray wire = encodeLogin(login);
+        QCOMPARE(wire, QByteArray("\xc3\x83\xc2\xbc\np\xc3\xa2\xc2\x82\xc2\xacw\n1\n1\nb\xc3\xbc\n"));
+        QCOMPARE(decodeLogin(wire), login);
+        QCOMPARE(encodeLogin({QStringLiteral("a"), {}, false, QStringLiteral("h")}), "a\n\n1\n0\nh\n");
+        QVERIFY(!decodeLogin("a\nb\n1\n0"));
+    }
+
+    void aLineFeedCannotForgeAField()
+    {
+        const LoginPacket login{QStringLiteral("a\nb"), QStringLiteral("c"), false, QStringLiteral("h")};
+        const auto decoded = decodeLogin(encodeLogin(login));
+        QVERIFY(decoded);
+        QCOMPARE(decoded->user, QStringLiteral("a b"));
+        QCOMPARE(decoded->password, QStringLiteral("c"));
+    }
+
+    void notificationRoundTrip()
+    {
+        NotificationPacket sent;
+        sent.message = QStringLiteral("Job \u201cShot010\u201d done");
+        sent.eventType = 4096;
+        sent.eventTime = -1;
+        sent.user = QStringLiteral("ann");
+        sent.job = "am9i";
+        // As the socket delivers it, with a terminating zero.
+        QCOMPARE(decodeNotification(encodeNotification(sent) + '\0'), sent);
+    }
+
+    void notificationFields_data()
+    {
+        QTest::addColumn<QByteArray>("payload");
+        QTest::addColumn<bool>("accepted");
+        QTest::addColumn<qint64>("type");
+        QTest::addColumn<qint64>("time");
+        QTest::newRow("six fields") << QByteArray("m\n1\n2\nu\n\n") << false << qint64(0) << qint64(0);
+        QTest::newRow("seven fields") << QByteArray("m\n1\n2\nu\n\n\n") << true << qint64(1) << qint64(2);
+        QTest::newRow("more fields") << QByteArray("m\n1\n2\nu\n\n\nx\ny\nz") << true << qint64(1)
+                                     << qint64(2);
+        QTest::newRow("zero byte ends it")
+            << QByteArray("m\n1\n2\nu\n\n\0\n", 12) << false << qint64(0) << qint64(0);
+        QTest::newRow("no numbers") << QByteArray("m\nx\n\nu\n\n\n") << true << qint64(0) << qint64(0);
+        QTest::newRow("wide type is cut")
+            << QByteArray("m\n4294967297\n2\nu\n\n\n") << true << qint64(1) << qint64(2);
+        QTest::newRow("top bit is a sign")
+            << QByteArray("m\n4294967295\n2\nu\n\n\n") << true << qint64(-1) << qint64(2);
+        QTest::newRow("nothing") << QByteArray() << false << qint64(0) << qint64(0);
+        QTest::newRow("a million separators")
+            << QByteArray(1'000'000, '\n') << true << qint64(0) << qint64(0);
+    }
+
+    void notificationFields()
+    {
+        QFETCH(const QByteArray, payload);
+        QFETCH(const bool, accepted);
+        QFETCH(const qint64, type);
+        QFETCH(const qint64, time);
+        const auto packet = decodeNotification(payload);
+        QCOMPARE(packet.has_value(), accepted);
+        if (packet) {
+            QCOMPARE(packet->eventType, type);
+            QCOMPARE(packet->eventTime, time);
+        }
+    }
+
+    void customMessages()
+    {
+        const CustomMessagePacket sent{12, QByteArray("bytes\0\n\xff", 8)};
+        QCOMPARE(decodeCustomMessage(encodeCustomMessage(sent) + '\0'), sent);
+        QVERIFY(!decodeCustomMessage("12"));
+        QCOMPARE(decodeCustomMessage("-3\n")->templateId, -3);
+        QCOMPARE(decodeCustomMessage("none\n!!!")->templateId, 0);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestPackets)
+#include "tst_packets.moc"
