@@ -1,0 +1,57 @@
+#pragma once
+
+#include "eventkind.h"
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+class NotifyEvent;
+
+/// The events that are kept, oldest first, with what is pending among them. Owns its events; has no cap.
+/// The ids of the events rise with their rows.
+class EventsList final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit EventsList(QObject *parent = nullptr);
+    ~EventsList() override;
+
+    int size() const { return int(m_events.size()); }
+    const NotifyEvent &at(int row) const { return *m_events[std::size_t(row)]; }
+    /// Null when no event has the id.
+    const NotifyEvent *find(quint64 eventId) const;
+    /// First row whose event has this id or a later one; size() when there is none.
+    int rowFrom(quint64 eventId) const;
+    /// The highest severity among the events that are not acknowledged.
+    PendingLevel pendingLevel() const;
+    /// True when some event is not acknowledged, of whatever severity.
+    bool anyUnacknowledged() const { return m_unacknowledged > 0; }
+
+    /// Takes the event over. False, the event deleted, when the list already holds its id or a later one.
+    bool append(std::unique_ptr<NotifyEvent> event);
+    void ackEvent(quint64 eventId);
+    void ackAll();
+    void removeEvent(quint64 eventId) { removeEvents({eventId}); }
+    /// One pass whatever the number of ids; unknown ones are passed over.
+    void removeEvents(QList<quint64> eventIds);
+    void removeAll();
+
+Q_SIGNALS:
+    void aboutToAppend(int row);
+    void appended();
+    void acknowledged(int firstRow, int lastRow);
+    void aboutToRebuild();
+    void rebuilt();
+
+private:
+    void acknowledge(NotifyEvent &event);
+    void forget(const NotifyEvent &event);
+
+    std::vector<std::unique_ptr<NotifyEvent>> m_events;
+    std::array<int, ErrorPending + 1> m_pending{}; // unacknowledged events by level
+    int m_unacknowledged = 0;
+};

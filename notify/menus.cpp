@@ -1,0 +1,43 @@
+#include "menus.h"
+
+TrayMenu::TrayMenu(QWidget *parent)
+    : QMenu(parent)
+    , restore(new QAction(tr("&Restore"), this))
+    , acknowledge(new QAction(tr("&Acknowledge pending events"), this))
+    , silent(new QAction(tr("&Silent"), this))
+    , openViewer(new QAction(tr("&Open images viewer"), this))
+    , configure(new QAction(tr("&Configure"), this))
+    , quit(new QAction(tr("&Quit"), this))
+{
+    setObjectName(QStringLiteral("trayMenu"));
+    silent->setCheckable(true);
+    // The roles keep the entries in this menu on systems that would move them into an application menu.
+    configure->setMenuRole(QAction::NoRole);
+    quit->setMenuRole(QAction::NoRole);
+    addAction(restore);
+    addSeparator();
+    addActions({acknowledge, silent});
+    addSeparator();
+    addAction(openViewer);
+    addSeparator();
+    addActions({configure, quit});
+}
+
+ListMenu::ListMenu(QWidget *parent)
+    : QMenu(parent)
+    , acknowledge(new QAction(tr("&Acknowledge selection"), this))
+    , openOutput(new QAction(tr("&Open output folder"), this))
+    , openFrames(new QAction(tr("Open &frame(s)"), this))
+    , openFramesExternally(new QAction(tr("Open frame(s) exter&nally"), this))
+    , removeSelection(new QAction(tr("&Remove selection\tDEL"), this))
+    , removeAll(new QAction(tr("Remove all"), this))
+{
+    setObjectName(QStringLiteral("listMenu"));
+    addAction(acknowledge);
+    addSeparator();
+    addAction(openOutput);
+    addSeparator();
+    addActions({openFrames, openFramesExternally});
+    addSeparator();
+    addActions({removeSelection, removeAll});
+}

@@ -1,0 +1,3 @@
+#include "notifylog.h"
+
+Q_LOGGING_CATEGORY(lcNotify, "tarrow.notify", QtWarningMsg)

@@ -1,0 +1,96 @@
+#include "tray.h"
+
+#include <svgicon.h>
+
+#include <chrono>
+
+namespace {
+
+constexpr auto kBubbleTime = std::chrono::milliseconds(5000);
+
+QString iconPath(const char *name)
+{
+    return QStringLiteral(":/icons/") + QLatin1String(name);
+}
+
+QString stateIcon(std::optional<QAbstractSocket::SocketState> state)
+{
+    if (state == QAbstractSocket::ConnectingState)
+        return iconPath("connectingIcon");
+    return iconPath(state == QAbstractSocket::UnconnectedState ? "unconnectedIcon" : "mainIcon");
+}
+
+const char *levelIcon(PendingLevel level)
+{
+    switch (level) {
+    case OtherPending:
+        return "service";
+    case SuccessPending:
+        return "itemCompleted";
+    case WarningPending:
+        return "itemWarning";
+    case ErrorPending:
+        return "itemError";
+    case NothingPending:
+        break;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+const QString Tray::kNormal = iconPath("mainIcon");
+
+Tray::Tray(QObject *parent)
+    : QSystemTrayIcon(parent)
+{
+    for (const char *name : {"mainIcon", "connectingIcon", "unconnectedIcon", "service", "itemStart",
+                             "itemCompleted", "itemWarning", "itemError"})
+        m_icons.emplace(iconPath(name), svgIcon(iconPath(name)));
+    showIcon(kNormal);
+}
+
+void Tray::update(std::optional<QAbstractSocket::SocketState> state, PendingLevel level, bool normal)
+{
+    const char *severity = normal ? nullptr : levelIcon(level);
+    showIcon(severity ? iconPath(severity) : stateIcon(state));
+    const QString tip = state == QAbstractSocket::ConnectedState ? tr("Tarrow Alertor")
+                                                                 : tr("Tarrow Alertor (not connected)");
+    if (toolTip() != tip)
+        setToolTip(tip);
+}
+
+void Tray::showIcon(const QString &path)
+{
+    if (m_shown == path)
+        return;
+    m_shown = path;
+    setIcon(m_icons.at(path));
+}
+
+void Tray::showNewEvent()
+{
+    if (m_bubbleWaiting)
+        return;
+    m_bubbleWaiting = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_bubbleWaiting = false;
+            showBubble(tr("New event available!"));
+        },
+        Qt::QueuedConnection);
+}
+
+void Tray::showBackgroundHint()
+{
+    showBubble(tr(
+        "Tarrow Alertor is running in the background.\nRight-click on this icon to access the context menu "
+        "or double click to raise the application."));
+}
+
+void Tray::showBubble(const QString &text)
+{
+    if (supportsMessages())
+        showMessage(tr("Tarrow Alertor"), text, Information, int(kBubbleTime.count()));
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "eventkind.h"
+
+#include <QtGui/QIcon>
+#include <QtNetwork/QAbstractSocket>
+#include <QtWidgets/QSystemTrayIcon>
+
+#include <map>
+#include <optional>
+
+/// The icon in the system tray: shows the state of the link, flashes what is pending, shows bubbles.
+class Tray final : public QSystemTrayIcon {
+    Q_OBJECT
+
+public:
+    explicit Tray(QObject *parent = nullptr);
+
+    const QIcon &normalIcon() const { return m_icons.at(kNormal); }
+
+    /// Shows the state's icon, or with `normal` false that of the level; sets nothing that is shown already.
+    /// `state` is that of the Dispatcher's socket, null without one.
+    void update(std::optional<QAbstractSocket::SocketState> state, PendingLevel level, bool normal);
+    /// The bubble for new events, once for all that come before control returns to the event loop.
+    void showNewEvent();
+    void showBackgroundHint();
+
+private:
+    static const QString kNormal;
+
+    void showIcon(const QString &path);
+    void showBubble(const QString &text);
+
+    std::map<QString, QIcon> m_icons; // by resource path
+    QString m_shown;
+    bool m_bubbleWaiting = false;
+};

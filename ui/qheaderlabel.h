@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+/// The title of a skinned dialog: one line, elided at the right; the tooltip shows the whole of an elided title.
+class QHeaderLabel final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit QHeaderLabel(const QString &text, QWidget *parent = nullptr);
+
+    QString text() const { return m_text; }
+    void setText(const QString &text);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString m_text;
+};

@@ -1,0 +1,276 @@
+#include "qskinneddialog.h"
+
+#include "product.h"
+#include "qheaderlabel.h"
+#include "qskinneddialogborder.h"
+#include "qskinneddialogheader.h"
+#include "qskinnedmessagebox.h"
+#include "windowplacement.h"
+#include "windowshadow.h"
+
+#include <QtCore/QPointer>
+#include <QtCore/QSettings>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QWindow>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QPushButton>
+
+namespace {
+
+constexpr int kHeaderMargin = 3;
+constexpr int kHeaderButtonSize = 14;
+constexpr int kHeaderImageSize = 11;
+constexpr auto kRectKey = "rect";
+
+QString settingsGroup(const QString &name)
+{
+    return QStringLiteral("dialogsSizes/") + name;
+}
+
+struct Cell {
+    int row;
+    int column;
+    int rows;
+};
+
+// In the order of QSkinnedDialogBorder::Position. The side borders reach along the header and the content.
+constexpr std::array<Cell, QSkinnedDialogBorder::kCount> kBorderCells{
+    {{0, 1, 1}, {3, 1, 1}, {1, 0, 2}, {1, 2, 2}, {0, 0, 1}, {0, 2, 1}, {3, 0, 1}, {3, 2, 1}}};
+
+} // namespace
+
+QSkinnedDialog::QSkinnedDialog(QWidget *parent, bool resizable)
+    : QDialog(parent)
+    , m_content(new QDialog)
+    , m_name(tr("defaultSkinnedDialog"))
+    , m_resizable(resizable)
+{
+    m_content->installEventFilter(this);
+}
+
+QSkinnedDialog::~QSkinnedDialog()
+{
+    // It has no parent until the frame is built.
+    delete m_content;
+}
+
+void QSkinnedDialog::setShowSetSize(bool show)
+{
+    m_showSetSize = show;
+    if (m_setSizeButton)
+        m_setSizeButton->setVisible(show);
+}
+
+void QSkinnedDialog::setShowRefresh(bool show)
+{
+    m_showRefresh = show;
+    if (m_refreshButton)
+        m_refreshButton->setVisible(show);
+}
+
+void QSkinnedDialog::setEscapeCloses(bool closes)
+{
+    m_escapeCloses = closes;
+    if (m_closeButton)
+        m_closeButton->setEnabled(closes);
+}
+
+void QSkinnedDialog::setBorderWidth(int width)
+{
+    m_borderWidth = qMax(0, width);
+    if (m_header)
+        applyBorderWidth();
+}
+
+void QSkinnedDialog::setTitle(const QString &title)
+{
+    m_content->setWindowTitle(title);
+    if (m_headerLabel)
+        m_headerLabel->setText(title);
+    // Task bars and screen readers show this one, whether or not a header does.
+    setWindowTitle(title);
+}
+
+void QSkinnedDialog::buildFrame()
+{
+    if (layout())
+        return;
+    auto *grid = new QGridLayout(this);
+    grid->setSpacing(0);
+    grid->setContentsMargins(0, 0, 0, 0);
+    if (m_skinned) {
+        takeOverModality();
+        setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+        buildHeader();
+        placeBorders(grid);
+        applyBorderWidth();
+        grid->addWidget(m_header, 1, 1);
+    }
+    grid->addWidget(m_content, 2, 1);
+    grid->setRowStretch(2, 1);
+    grid->setColumnStretch(1, 1);
+    if (!m_content->windowTitle().isEmpty())
+        setWindowTitle(m_content->windowTitle());
+}
+
+void QSkinnedDialog::takeOverModality()
+{
+    // A dialog that was made modal itself, by exec() for one, stays so.
+    if (m_content->windowModality() == Qt::NonModal)
+        return;
+    setWindowModality(m_content->windowModality());
+    m_content->setWindowModality(Qt::NonModal);
+}
+
+void QSkinnedDialog::buildHeader()
+{
+    m_header = new QSkinnedDialogHeader(this);
+    auto *row = new QHBoxLayout(m_header);
+    row->setSpacing(0);
+    row->setContentsMargins(kHeaderMargin, kHeaderMargin, kHeaderMargin, kHeaderMargin);
+    m_headerLabel = new QHeaderLabel(m_content->windowTitle(), m_header);
+    row->addWidget(m_headerLabel);
+
+    m_refreshButton = addHeaderButton(QStringLiteral("refresh.png"), tr("Refresh"));
+    m_setSizeButton = addHeaderButton(QStringLiteral("setsize.png"), tr("Set default size and position"));
+    m_closeButton = addHeaderButton(QStringLiteral("close.png"), tr("Close"));
+    m_refreshButton->setVisible(m_showRefresh);
+    m_setSizeButton->setVisible(m_showSetSize);
+    m_closeButton->setEnabled(m_escapeCloses);
+    connect(m_closeButton, &QPushButton::clicked, this, &QSkinnedDialog::mayClose);
+    connect(m_setSizeButton, &QPushButton::clicked, this, &QSkinnedDialog::setDefaults);
+    connect(m_refreshButton, &QPushButton::clicked, this, &QSkinnedDialog::setRefresh);
+}
+
+QPushButton *QSkinnedDialog::addHeaderButton(const QString &image, const QString &name)
+{
+    const QSize imageSize(kHeaderImageSize, kHeaderImageSize);
+    QIcon icon;
+    icon.addFile(QStringLiteral(":/Wins/Resources/wins/") + image, imageSize);
+
+    auto *button = new QPushButton(m_header);
+    // One style rule serves all three.
+    button->setObjectName(QStringLiteral("skinnedDialogCloseButton"));
+    button->setAccessibleName(name);
+    button->setToolTip(name);
+    button->setIcon(icon);
+    button->setIconSize(imageSize);
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setAutoDefault(false);
+    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    button->setFixedSize(kHeaderButtonSize, kHeaderButtonSize);
+    m_header->layout()->addWidget(button);
+    return button;
+}
+
+void QSkinnedDialog::placeBorders(QGridLayout *grid)
+{
+    for (size_t i = 0; i < m_borders.size(); ++i) {
+        m_borders[i] = new QSkinnedDialogBorder(static_cast<QSkinnedDialogBorder::Position>(i), this);
+        const Cell &cell = kBorderCells[i];
+        grid->addWidget(m_borders[i], cell.row, cell.column, cell.rows, 1);
+    }
+}
+
+void QSkinnedDialog::applyBorderWidth()
+{
+    for (QSkinnedDialogBorder *border : m_borders)
+        border->setThickness(m_borderWidth);
+}
+
+void QSkinnedDialog::setVisible(bool visible)
+{
+    if (visible)
+        buildFrame();
+    QDialog::setVisible(visible);
+}
+
+void QSkinnedDialog::mayClose()
+{
+    if (windowModality() != Qt::NonModal)
+        reject();
+    else
+        close();
+}
+
+void QSkinnedDialog::setDefaults()
+{
+    setDefaultState(true);
+}
+
+void QSkinnedDialog::setRefresh()
+{
+    Q_EMIT refresh();
+}
+
+void QSkinnedDialog::setDefaultState(bool showPopup)
+{
+    if (showPopup) {
+        const QPointer<QSkinnedDialog> guard(this);
+        const auto answer = QSkinnedMessageBox::question(
+            this, product::kProductTitle,
+            tr("Are you sure you want to set the default size and position for this dialog ?"),
+            QMessageBox::Yes | QMessageBox::No);
+        if (!guard || answer != QMessageBox::Yes)
+            return;
+    }
+    QSettings settings;
+    settings.beginGroup(settingsGroup(m_name));
+    settings.setValue(QLatin1String(kRectKey), geometry());
+}
+
+void QSkinnedDialog::loadDefaultState()
+{
+    QSettings settings;
+    settings.beginGroup(settingsGroup(m_name));
+    const QRect rect = settings.value(QLatin1String(kRectKey)).toRect();
+    if (rect.isValid())
+        setGeometry(fittedToScreens(rect));
+}
+
+bool QSkinnedDialog::event(QEvent *event)
+{
+    if (event->type() == QEvent::WinIdChange && windowHandle()) {
+        // On X11 the hint would take the window away from the window manager, and with it the keyboard focus.
+        windowHandle()->setFlag(Qt::BypassWindowManagerHint, false);
+        addDropShadow(this);
+    }
+    return QDialog::event(event);
+}
+
+bool QSkinnedDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_content && event->type() == QEvent::KeyPress) {
+        auto *key = static_cast<QKeyEvent *>(event);
+        if (key->key() == Qt::Key_Escape) {
+            escapePressed(key);
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void QSkinnedDialog::keyPressEvent(QKeyEvent *event)
+{
+    // Reached when nothing in the content has the focus.
+    if (event->key() == Qt::Key_Escape)
+        escapePressed(event);
+    else
+        QDialog::keyPressEvent(event);
+}
+
+void QSkinnedDialog::escapePressed(QKeyEvent *event)
+{
+    event->accept();
+    if (m_escapeCloses)
+        mayClose();
+}
+
+void QSkinnedDialog::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    const QRect fitted = fittedToScreens(geometry());
+    if (!event->spontaneous() && fitted != geometry())
+        setGeometry(fitted);
+}

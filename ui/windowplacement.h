@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QRect>
+
+/// Whether windows are placed by the compositor alone (Wayland), so that drags have to be handed to it.
+bool compositorPlacesWindows();
+
+/// A window's rectangle made usable on these work areas (in logical pixels, primary first): no larger than the one it
+/// lies on, and moved onto the nearest when its top edge, where its header is, can no longer be grasped on any.
+/// A rectangle that is fine, also across two screens, comes back as it is; so does any when there is no area.
+QRect fittedToAreas(const QRect &wanted, const QList<QRect> &areas);
+
+/// fittedToAreas() with the work areas of the present screens.
+QRect fittedToScreens(const QRect &wanted);
