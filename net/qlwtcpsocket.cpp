@@ -41,7 +41,12 @@ QLWTCPSocket::QLWTCPSocket(QObject *parent)
     setReadBufferSize(kBufferLimit);
     connect(this, &QIODevice::readyRead, this, &QLWTCPSocket::readReady);
     connect(this, &QIODevice::bytesWritten, this, &QLWTCPSocket::writeReady);
-    connect(this, &QAbstractSocket::disconnected, this, &QLWTCPSocket::clearBuffers);
+    connect(this, &QAbstractSocket::disconnected, this, [this] { m_sendBuffer.resize(0); });
+    connect(this, &QAbstractSocket::stateChanged, this, [this](SocketState state) {
+        // Not at the end of the old link: what came whole before it can still be taken out.
+        if (state == ConnectingState)
+            m_receiveBuffer.clear();
+    });
 }
 
 QLWTCPSocket::~QLWTCPSocket()

@@ -14,6 +14,7 @@
 #include <QtCore/QPointer>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QMessageBox>
@@ -471,6 +472,14 @@ void Alertor::showEvent(QShowEvent *event)
 {
     showMenuButtonWithoutTray();
     QDialog::showEvent(event);
+}
+
+bool Alertor::event(QEvent *event)
+{
+    // On X11 the hint would take the window away from the window manager, and with it its frame and the keyboard.
+    if (event->type() == QEvent::WinIdChange && windowHandle())
+        windowHandle()->setFlag(Qt::BypassWindowManagerHint, false);
+    return QDialog::event(event);
 }
 
 bool Alertor::eventFilter(QObject *object, QEvent *event)

@@ -94,6 +94,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;
     bool eventFilter(QObject *object, QEvent *event) override;
+    bool event(QEvent *event) override;
     /// Escape does what closing does.
     void reject() override { minimize(); }
 

@@ -20,8 +20,9 @@ EventsView::EventsView(QWidget *parent)
 
 void EventsView::setModel(QAbstractItemModel *model)
 {
-    QTreeView::setModel(model);
+    // Ahead of the base class, which forgets its rows when it hears of a reset.
     connect(model, &QAbstractItemModel::modelAboutToBeReset, this, &EventsView::saveState);
+    QTreeView::setModel(model);
     connect(model, &QAbstractItemModel::modelReset, this, &EventsView::restoreState);
 }
 

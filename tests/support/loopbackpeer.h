@@ -21,8 +21,6 @@ inline qsizetype heartbeatTimers(const QObject &owner)
 /// The Dispatcher's end of a link over the loopback interface: takes one connection after the other, collects the
 /// frames it receives and sends what it is told to.
 class LoopbackPeer final : public QObject {
-    Q_OBJECT
-
 public:
     struct Received {
         quint32 command;
@@ -32,7 +30,7 @@ public:
     explicit LoopbackPeer(quint16 port = 0)
     {
         m_listening = m_server.listen(QHostAddress::LocalHost, port);
-        connect(&m_server, &QTcpServer::newConnection, this, &LoopbackPeer::accept);
+        connect(&m_server, &QTcpServer::newConnection, this, [this] { accept(); });
     }
 
     bool listening() const { return m_listening; }
@@ -62,7 +60,7 @@ private:
         m_link = m_server.nextPendingConnection();
         ++m_connections;
         m_reader.clear();
-        connect(m_link, &QIODevice::readyRead, this, &LoopbackPeer::read);
+        connect(m_link, &QIODevice::readyRead, this, [this] { read(); });
     }
 
     void read()

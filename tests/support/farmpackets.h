@@ -1,0 +1,56 @@
+#pragma once
+
+#include <frames.h>
+#include <packets.h>
+#include <stringhelper.h>
+#include <tchunk.h>
+#include <tjob.h>
+
+/// What a Dispatcher would send, with as little to say for each test as possible.
+namespace farm {
+
+inline QByteArray base64(const std::string &record)
+{
+    return QByteArray::fromStdString(TFramework::TStringHelper::ToBase64(record));
+}
+
+inline TClientLib::TJob job(int status = 1024)
+{
+    TClientLib::TJob job;
+    job.setJobId(1234);
+    job.setName("Shot010");
+    job.setOwner("ann");
+    job.setStatus(status);
+    return job;
+}
+
+inline TClientLib::TChunk chunk(int status = 4)
+{
+    TClientLib::TChunk chunk;
+    chunk.setChunkId(7);
+    chunk.setJobId(1234);
+    chunk.setStatus(status);
+    return chunk;
+}
+
+inline NotificationPacket notification(qint64 type, const TClientLib::TJob *job = nullptr,
+                                       const TClientLib::TChunk *chunk = nullptr)
+{
+    NotificationPacket packet;
+    packet.message = QStringLiteral("event of type %1").arg(type);
+    packet.eventType = type;
+    packet.eventTime = 1'700'000'000;
+    packet.user = QStringLiteral("ann");
+    if (job)
+        packet.job = base64(job->Marshall());
+    if (chunk)
+        packet.chunk = base64(chunk->Marshall());
+    return packet;
+}
+
+inline QByteArray frame(const NotificationPacket &packet)
+{
+    return encodeFrame(FrameHeader::Plain, CMD_NOTIFICATION, encodeNotification(packet));
+}
+
+} // namespace farm
