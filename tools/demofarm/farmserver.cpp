@@ -152,12 +152,13 @@ void FarmServer::deliverGarbage()
     for (FarmLink *link : m_links) {
         if (!link->isListening())
             continue;
-        if (piece.breaksLink)
+        if (piece.effect == Garbage::Effect::BreaksLink)
             link->sendBroken(piece.bytes);
         else
             link->send(piece.bytes);
     }
-    m_due = now() + kGarbageQuiet;
+    if (piece.effect == Garbage::Effect::DropsBuffers)
+        m_due = now() + kGarbageQuiet;
 }
 
 void FarmServer::endNight()

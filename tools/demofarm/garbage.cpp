@@ -19,38 +19,43 @@ Garbage notZlib()
     const QByteArray wire =
         QByteArray::fromHex("40000000") + QByteArrayLiteral("this is no compressed stream");
     return {QStringLiteral("payload that does not inflate"),
-            rawFrame(FrameHeader::Compressed, qint32(wire.size()), CMD_NOTIFICATION, wire), false};
+            rawFrame(FrameHeader::Compressed, qint32(wire.size()), CMD_NOTIFICATION, wire),
+            Garbage::Effect::DropsBuffers};
 }
 
 Garbage unknownCommand()
 {
     return {QStringLiteral("unknown command"), encodeFrame(FrameHeader::Plain, 999, "nobody knows this"),
-            false};
+            Garbage::Effect::Ignored};
 }
 
 Garbage shortNotification()
 {
     return {QStringLiteral("notification of six fields"),
-            encodeFrame(FrameHeader::Plain, CMD_NOTIFICATION, "lost\n2\n0\nmara\n\n"), false};
+            encodeFrame(FrameHeader::Plain, CMD_NOTIFICATION, "lost\n2\n0\nmara\n\n"),
+            Garbage::Effect::Ignored};
 }
 
 Garbage negativeLength()
 {
     return {QStringLiteral("header of negative length"),
-            rawFrame(FrameHeader::Plain, -13, CMD_NOTIFICATION, QByteArray(64, 'x')), true};
+            rawFrame(FrameHeader::Plain, -13, CMD_NOTIFICATION, QByteArray(64, 'x')),
+            Garbage::Effect::BreaksLink};
 }
 
 Garbage negativeInflatedSize()
 {
     const QByteArray wire = QByteArray::fromHex("ffffffff789c030000000001");
     return {QStringLiteral("payload of negative inflated size"),
-            rawFrame(FrameHeader::Compressed, qint32(wire.size()), CMD_NOTIFICATION, wire), true};
+            rawFrame(FrameHeader::Compressed, qint32(wire.size()), CMD_NOTIFICATION, wire),
+            Garbage::Effect::BreaksLink};
 }
 
 Garbage noPayloadType()
 {
     return {QStringLiteral("frame that says it has no payload and has one"),
-            encodeFrame(FrameHeader::NoPayload, CMD_NOTIFICATION, "a\n1\n2\nb\n\n\n"), false};
+            encodeFrame(FrameHeader::NoPayload, CMD_NOTIFICATION, "a\n1\n2\nb\n\n\n"),
+            Garbage::Effect::Ignored};
 }
 
 constexpr Garbage (*kKinds[])() = {unknownCommand, notZlib,       shortNotification,

@@ -5,9 +5,12 @@
 
 /// Bytes that a sound farm would not send.
 struct Garbage {
+    /// What the client is to do about it: pass over it, drop what it has buffered along with it, or hang up.
+    enum class Effect { Ignored, DropsBuffers, BreaksLink };
+
     QString what;
     QByteArray bytes;
-    bool breaksLink = false; ///< the client is to hang up on it; otherwise it goes on with the next frame
+    Effect effect = Effect::Ignored;
 };
 
 /// The kinds come in turns.

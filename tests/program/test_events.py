@@ -1,0 +1,27 @@
+"""Every event that the farm sends is listed, however it travels."""
+
+from farmtest import EVENT, client, equal, farm, run
+
+WAYS = {
+    "plain": ["--jobs", "5", "--rate", "400"],
+    "compressed in small pieces": ["--jobs", "5", "--rate", "400", "--compress", "--fragment", "11"],
+    "burst": ["--burst", "3000"],
+}
+
+
+def test():
+    for way, options in WAYS.items():
+        night = farm("--once", *options)
+        alertor = client(night.port, "-user", "Jürgen Ärmel", "-pass", "geheim 1")
+        equal(night.exit_code(), 0, "exit code of the farm")
+        sent = int(night.expect(r"^sent (\d+) events$").group(1))
+        alertor.expect(EVENT, sent)
+        alertor.quit()
+        equal(len(alertor.matching(EVENT)), sent, f"events listed ({way})")
+
+        login = night.expect(r'log-in user="(.*)" password="(.*)" skip-directory=(\d) host="(.+)"')
+        equal(login.group(1, 2, 3), ("Jürgen Ärmel", "geheim 1", "0"), "log-in")
+        equal(len(night.matching(r"log-in")), 1, "number of log-ins")
+
+
+run(test)
