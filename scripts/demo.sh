@@ -76,20 +76,20 @@ play_on_desktop() {
     say "$(sent) events were sent, $(arrived) arrived"
 }
 
-tray_icon_corner() {
-    local X Y HEIGHT WINDOW
-    WINDOW=$(xdotool search --onlyvisible --class trayer | tail -n 1)
-    eval "$(xdotool getwindowgeometry --shell "$WINDOW")"
-    # A balloon's arrow covers the middle of the icon.
-    echo "$((X + 6)) $((Y + HEIGHT - 4))"
+# The client has so many visible windows, its icon in the tray included.
+has_windows() {
+    [ "$(xdotool search --onlyvisible --classname '^tarrow-alertor$' | wc -l)" = "$1" ]
 }
 
+# open_tray_menu WINDOWS: wants to know how many windows there are without the menu.
 open_tray_menu() {
-    local corner
-    corner=$(tray_icon_corner)
-    # shellcheck disable=SC2086 # two numbers
-    xdotool mousemove $corner click 3
-    wait_for 10 "the tray menu" xdotool search --onlyvisible --class '^tarrow-alertor$'
+    local X Y HEIGHT WINDOW
+    # Its arrow covers the icon.
+    wait_for 20 "the bubble to go" has_windows "$1"
+    WINDOW=$(xdotool search --onlyvisible --class '^trayer$' | tail -n 1)
+    eval "$(xdotool getwindowgeometry --shell "$WINDOW")"
+    xdotool mousemove $((X + HEIGHT / 2)) $((Y + HEIGHT / 2)) click 3
+    wait_for 10 "the tray menu" has_windows $(($1 + 1))
 }
 
 # A picture that shows what was just asked for has to wait until it is drawn.
@@ -100,14 +100,14 @@ picture() {
 
 take_pictures() {
     local window
-    open_tray_menu
+    open_tray_menu 1
     picture root tray-menu
     xdotool key r
     wait_for 10 "the window" xdotool search --onlyvisible --name '^Tarrow Alertor$'
     window=$(xdotool search --onlyvisible --name '^Tarrow Alertor$' | tail -n 1)
     picture root screen
     picture "$window" window
-    open_tray_menu
+    open_tray_menu 2
     xdotool key c
     wait_for 10 "the preferences" xdotool search --onlyvisible --name '^Alertor Preferences$'
     picture root preferences
@@ -122,6 +122,7 @@ play_for_pictures() {
     wait_for 120 "the end of the night" grep -q '^sent ' "$out/farm.log"
     wait_for 20 "the last event" all_arrived
     say "Taking pictures"
+    picture root bubble
     take_pictures
     kill "$client_pid"
     wait "$client_pid" || fail "the client ended with status $?; its output is $out/client.log"
