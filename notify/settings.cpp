@@ -3,8 +3,11 @@
 #include "notifylog.h"
 #include "settingscipher.h"
 
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtCore/QSettings>
 #include <QtCore/QStringList>
+#include <QtCore/QTemporaryFile>
 #include <QtCore/QVariant>
 
 #include <cmath>
@@ -136,6 +139,24 @@ struct Writer {
     }
 };
 
+/// QSettings does not notice a write that a full disk or a quota cuts off, and puts the torn file in the place of the
+/// old one. So there must be room for the whole file first.
+bool hasRoom(const QSettings &store)
+{
+#ifdef Q_OS_WIN
+    Q_UNUSED(store); // the registry
+    return true;
+#else
+    const QFileInfo file(store.fileName());
+    if (!QDir().mkpath(file.path()))
+        return false;
+    constexpr qsizetype kMargin = 16 * 1024;
+    const QByteArray ballast(file.size() + kMargin, '\0');
+    QTemporaryFile probe(file.filePath() + QStringLiteral(".XXXXXX"));
+    return probe.open() && probe.write(ballast) == ballast.size() && probe.flush();
+#endif
+}
+
 } // namespace
 
 LinkSettings Settings::link() const
@@ -174,16 +195,16 @@ bool saveSettings(const Settings &settings)
 {
     QSettings store;
     // Writing over a file that could not be read would lose what it holds.
-    if (store.status() != QSettings::AccessError) {
+    bool saved = store.status() != QSettings::AccessError && hasRoom(store);
+    if (saved) {
         for (const Entry &entry : kEntries)
             store.setValue(entry.path(), std::visit(Writer{settings}, entry.member));
         store.sync();
+        // A store that found its file damaged goes on saying so: one opened anew tells whether the write mended it.
+        saved = store.status() == QSettings::NoError
+            || (store.status() == QSettings::FormatError && QSettings().status() == QSettings::NoError);
     }
-    // A store that found its file damaged goes on saying so: one opened anew tells whether the write mended it.
-    const QSettings::Status status =
-        store.status() == QSettings::FormatError ? QSettings().status() : store.status();
-    if (status == QSettings::NoError)
-        return true;
-    qCWarning(lcNotify, "%s: the settings cannot be saved", qUtf8Printable(store.fileName()));
-    return false;
+    if (!saved)
+        qCWarning(lcNotify, "%s: the settings cannot be saved", qUtf8Printable(store.fileName()));
+    return saved;
 }

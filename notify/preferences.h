@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QtWidgets/QDialog>
+
+#include <memory>
+
+struct Settings;
+class QLineEdit;
+
+namespace Ui {
+class preferencesClass;
+}
+
+/// The dialog on all options. It checks nothing: a number that does not parse is taken for 0.
+/// On a screen lower than the dialog its options scroll, above buttons that stay in sight.
+class preferences final : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit preferences(QWidget *parent = nullptr);
+    ~preferences() override;
+
+    /// `current` with all that the fields hold put over it.
+    Settings values(const Settings &current) const;
+    void setValues(const Settings &settings);
+
+public Q_SLOTS:
+    void selectViewer();
+    void selectErrorSound();
+    void selectWarningSound();
+    void selectSuccessSound();
+    void selectStartSound();
+    void selectServiceSound();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    void fitToScreen();
+
+    std::unique_ptr<Ui::preferencesClass> m_ui;
+};
