@@ -56,10 +56,13 @@ std::unique_ptr<Interpreter> Interpreter::start(const std::string &hostName, std
 }
 
 void Interpreter::prepare(const std::string &hostName)
-{
+try {
     addHostModule(hostName);
     py::exec(kSupportSource, m_support);
     support("guard_streams")();
+} catch (const py::error_already_set &raised) {
+    // The exception is Python's own, which ends with this object.
+    throw std::runtime_error(raised.what());
 }
 
 Interpreter::~Interpreter()
