@@ -1,40 +1,28 @@
 #include "framereader.h"
 
-FrameReader::Next FrameReader::next() const
-{
-    const std::optional<FrameHeader> header = FrameHeader::decode(pending());
-    if (!header)
-        return Next::NeedMore;
-    if (header->length < 0)
-        return Next::Broken;
-    return size() - FrameHeader::kSize >= header->length ? Next::Frame : Next::NeedMore;
-}
+#include <cstring>
 
 void FrameReader::append(QByteArrayView bytes)
 {
-    // Moving the rest to the front once per piece keeps a drain linear in its bytes.
-    if (m_taken > 0) {
-        m_bytes.remove(0, m_taken);
-        m_taken = 0;
-    }
-    m_bytes.append(bytes);
+    std::memcpy(room(bytes.size()), bytes.data(), std::size_t(bytes.size()));
+    commit(bytes.size());
 }
 
-FrameReader::Next FrameReader::take(RawFrame &frame)
+char *FrameReader::room(qsizetype bytes)
 {
-    const Next result = next();
-    if (result == Next::Frame) {
-        const QByteArrayView bytes = pending();
-        frame.header = *FrameHeader::decode(bytes);
-        frame.payload = bytes.sliced(FrameHeader::kSize, frame.header.length);
-        frame.beyond = bytes.sliced(FrameHeader::kSize + frame.header.length);
-        m_taken += FrameHeader::kSize + frame.header.length;
+    // Moving the rest to the front once per piece keeps a drain linear in its bytes and the buffer in the cache.
+    if (m_taken > 0) {
+        m_held = size();
+        std::memmove(m_bytes.data(), m_bytes.constData() + m_taken, std::size_t(m_held));
+        m_taken = 0;
     }
-    return result;
+    if (m_bytes.size() < m_held + bytes)
+        m_bytes.resize(m_held + bytes);
+    return m_bytes.data() + m_held;
 }
 
 void FrameReader::clear()
 {
-    m_bytes.resize(0);
+    m_held = 0;
     m_taken = 0;
 }

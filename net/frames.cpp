@@ -1,7 +1,5 @@
 #include "frames.h"
 
-#include <QtCore/QtEndian>
-
 #include <limits>
 
 #include <zlib.h>
@@ -37,15 +35,6 @@ QByteArray deflated(QByteArrayView payload)
 }
 
 } // namespace
-
-std::optional<FrameHeader> FrameHeader::decode(QByteArrayView bytes)
-{
-    if (bytes.size() < kSize)
-        return std::nullopt;
-    const char *at = bytes.data();
-    return FrameHeader{quint8(at[0]), qFromLittleEndian<qint32>(at + 1), qFromLittleEndian<quint32>(at + 5),
-                       qFromLittleEndian<quint32>(at + 9)};
-}
 
 void FrameHeader::appendTo(QByteArray &bytes) const
 {

@@ -2,8 +2,7 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QByteArrayView>
-
-#include <optional>
+#include <QtCore/QtEndian>
 
 /// The 13 bytes in front of every payload, little-endian on the wire:
 /// type (1 byte), length (4, signed), param (4), command (4).
@@ -16,8 +15,12 @@ struct FrameHeader {
     quint32 param = 0;
     quint32 command = 0;
 
-    /// Null with fewer than kSize bytes; the values are taken as they are.
-    static std::optional<FrameHeader> decode(QByteArrayView bytes);
+    /// The values of the kSize bytes at `bytes`, as they are.
+    static FrameHeader decode(const char *bytes)
+    {
+        return {quint8(bytes[0]), qFromLittleEndian<qint32>(bytes + 1), qFromLittleEndian<quint32>(bytes + 5),
+                qFromLittleEndian<quint32>(bytes + 9)};
+    }
     void appendTo(QByteArray &bytes) const;
 };
 

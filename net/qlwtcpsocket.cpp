@@ -36,7 +36,6 @@ QLWTCPSocket::QLWTCPSocket(QObject *parent)
 {
     m_receiveBuffer.reserve(kBufferLimit);
     m_sendBuffer.reserve(kBufferLimit);
-    m_readScratch.resize(kBufferLimit);
     // Without a limit the toolkit would go on buffering while a modal box keeps us from reading.
     setReadBufferSize(kBufferLimit);
     connect(this, &QIODevice::readyRead, this, &QLWTCPSocket::readReady);
@@ -105,7 +104,7 @@ void QLWTCPSocket::readReady()
     // A receiver may run an event loop in which this socket is given up.
     m_reading = true;
     while (!m_retired && isOpen()) {
-        const qint64 got = read(m_readScratch.data(), kReadSize);
+        const qint64 got = read(m_receiveBuffer.room(kReadSize), kReadSize);
         if (got < 1)
             break;
         Q_EMIT rcvActivity();
@@ -114,7 +113,7 @@ void QLWTCPSocket::readReady()
             clearBuffers();
             break;
         }
-        m_receiveBuffer.append(QByteArrayView{m_readScratch}.first(got));
+        m_receiveBuffer.commit(got);
         if (hasMessage())
             Q_EMIT messageReady();
     }
@@ -125,34 +124,38 @@ void QLWTCPSocket::readReady()
 
 bool QLWTCPSocket::getMessage(uint *command, QByteArray *data, uint *param)
 {
-    data->resize(0); // keeps the memory for the next message
-    if (param)
-        *param = 0;
     RawFrame frame;
-    switch (m_receiveBuffer.take(frame)) {
-    case FrameReader::Next::NeedMore:
-        return false;
-    case FrameReader::Next::Broken:
-        breakStream("a frame of negative length");
-        return false;
-    case FrameReader::Next::Frame:
-        break;
-    }
-    *command = frame.header.command;
+    const FrameReader::Next found = m_receiveBuffer.take(frame);
     if (param)
         *param = frame.header.param;
-    if (frame.header.type == FrameHeader::NoPayload)
-        return true;
+    if (found == FrameReader::Next::Frame) {
+        *command = frame.header.command;
+        return takePayload(frame, data);
+    }
+    data->clear();
+    if (found == FrameReader::Next::Broken)
+        breakStream("a frame of negative length");
+    return false;
+}
+
+bool QLWTCPSocket::takePayload(const RawFrame &frame, QByteArray *data)
+{
     if (frame.header.type == FrameHeader::Compressed)
         return inflateMessage(frame, data);
-    data->resize(frame.payload.size() + 1);
-    std::memcpy(data->data(), frame.payload.data(), std::size_t(frame.payload.size()));
-    data->back() = '\0';
+    // The memory of the last message serves the next.
+    const qsizetype size = frame.header.type == FrameHeader::NoPayload ? 0 : frame.payload.size() + 1;
+    data->resize(size);
+    if (size > 0) {
+        char *to = data->data();
+        std::memcpy(to, frame.payload.data(), std::size_t(size - 1));
+        to[size - 1] = '\0';
+    }
     return true;
 }
 
 bool QLWTCPSocket::inflateMessage(const RawFrame &frame, QByteArray *data)
 {
+    data->clear();
     constexpr qsizetype kSizeField = 4;
     std::optional<QByteArray> inflated;
     if (frame.header.length >= kSizeField) {

@@ -62,6 +62,7 @@ public Q_SLOTS:
 private:
     bool queueMessage(qsizetype position, uint command, const QByteArray &payload, uint param);
     void writeQueued();
+    bool takePayload(const RawFrame &frame, QByteArray *data);
     bool inflateMessage(const RawFrame &frame, QByteArray *data);
     void breakStream(const char *why);
     void clearBuffers();
@@ -70,7 +71,6 @@ private:
     qint64 m_maxSendSize;
     FrameReader m_receiveBuffer;
     QByteArray m_sendBuffer;
-    QByteArray m_readScratch;
     QDateTime m_lastActivity;
     QTimer *m_heartbeatTimer = nullptr;
     qint32 m_heartbeatResolution;

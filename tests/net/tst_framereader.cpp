@@ -20,12 +20,11 @@ private Q_SLOTS:
     {
         // type 0, length 3, param 0x01020304, command 401, "abc"
         QCOMPARE(encodeFrame(401, "abc", 0x01020304), bytesOf("00 03000000 04030201 91010000 616263"));
-        const auto header = FrameHeader::decode(bytesOf("02 feffffff 04030201 59020000"));
-        QVERIFY(header);
-        QCOMPARE(header->type, quint8(2));
-        QCOMPARE(header->length, -2);
-        QCOMPARE(header->param, 0x01020304U);
-        QCOMPARE(header->command, 601U);
+        const FrameHeader header = FrameHeader::decode(bytesOf("02 feffffff 04030201 59020000").constData());
+        QCOMPARE(header.type, quint8(2));
+        QCOMPARE(header.length, -2);
+        QCOMPARE(header.param, 0x01020304U);
+        QCOMPARE(header.command, 601U);
     }
 
     void everySplitGivesTheSameFrames()
