@@ -150,7 +150,7 @@ bool hasRoom(const QSettings &store)
     const QFileInfo file(store.fileName());
     if (!QDir().mkpath(file.path()))
         return false;
-    constexpr qsizetype kMargin = 16 * 1024;
+    constexpr qsizetype kMargin = 16'384;
     const QByteArray ballast(file.size() + kMargin, '\0');
     QTemporaryFile probe(file.filePath() + QStringLiteral(".XXXXXX"));
     return probe.open() && probe.write(ballast) == ballast.size() && probe.flush();
