@@ -14,9 +14,9 @@
 namespace {
 
 /// Unsent bytes above which a client counts as slow.
-constexpr qint64 kHighWater = 256 * 1024;
+constexpr qint64 kHighWater = 256LL * 1024;
 /// No client has a reason to send a larger frame.
-constexpr qsizetype kMaxReceived = 1024 * 1024;
+constexpr qsizetype kMaxReceived = 1024LL * 1024;
 /// Longest piece of a message's text in the log, in bytes.
 constexpr qsizetype kMaxLogged = 200;
 /// How long a client may take to hang up on a broken frame.

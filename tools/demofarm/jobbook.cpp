@@ -70,6 +70,7 @@ FarmJob JobBook::singleFrameJob(TClientLib::TJob record, const std::string &fold
     const TClientLib::TFramesRange frame{1, 1, 1};
     const int tiles = 1 + m_random.below(4);
     std::vector<TClientLib::TChunk> chunks;
+    chunks.reserve(std::size_t(tiles));
     for (int i = 0; i < tiles; ++i)
         chunks.push_back(chunk(record.getJobId(), frame));
     record.setPacketType(SingleFramePacket);

@@ -96,7 +96,7 @@ NotificationPacket Scenario::nextPacket()
         return advance(job);
     const Outcome outcome = job.complete();
     const QString message = QStringLiteral("Job %1 %2").arg(job.name(), outcomeText(outcome));
-    const NotificationPacket packet = jobPacket(JobCompleted, message, job);
+    NotificationPacket packet = jobPacket(JobCompleted, message, job);
     m_running.erase(m_running.begin() + std::ptrdiff_t(index));
     return packet;
 }
