@@ -1,35 +1,37 @@
 #include "commandline.h"
 
-#include <cstdlib>
+#include <product.h>
 
-CommandLine CommandLine::parse(const QStringList &arguments)
+#include <cstdlib>
+#include <string_view>
+
+CommandLine CommandLine::parse(std::span<char *const> arguments)
 {
     CommandLine line;
-    const auto value = [&arguments](qsizetype at) -> std::optional<QString> {
-        return at + 1 < arguments.size() ? std::optional(arguments[at + 1]) : std::nullopt;
-    };
-    for (qsizetype i = 0; i < arguments.size(); ++i) {
-        const QString &argument = arguments[i];
-        const auto take = [&](std::optional<QString> &into) {
-            if (const auto given = value(i))
-                into = given;
-        };
-        if (argument == QLatin1String("-server"))
-            take(line.overrides.server);
-        else if (argument == QLatin1String("-user"))
-            take(line.overrides.user);
-        else if (argument == QLatin1String("-pass"))
-            take(line.overrides.password);
-        else if (argument == QLatin1String("-port") && value(i))
-            line.overrides.port = std::atoi(value(i)->toUtf8().constData());
-        else if (argument == QLatin1String("-forcegl2"))
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string_view argument = arguments[i];
+        const char *value = i + 1 < arguments.size() ? arguments[i + 1] : nullptr;
+        if (argument == "-forcegl2")
             line.forceGl2 = true;
-        else if (argument == QLatin1String("--help"))
+        else if (argument == "--help")
             line.help = true;
-        else if (argument == QLatin1String("--version"))
+        else if (argument == "--version")
             line.version = true;
+        else if (argument == "-server" && value)
+            line.overrides.server = QString::fromLocal8Bit(value);
+        else if (argument == "-user" && value)
+            line.overrides.user = QString::fromLocal8Bit(value);
+        else if (argument == "-pass" && value)
+            line.overrides.password = QString::fromLocal8Bit(value);
+        else if (argument == "-port" && value)
+            line.overrides.port = std::atoi(value);
     }
     return line;
+}
+
+QString commandLineVersion()
+{
+    return QStringLiteral("tarrow-alertor %1 (build %2)\n").arg(product::kVersion, product::kBuildNumber);
 }
 
 QString commandLineHelp()

@@ -2,7 +2,9 @@
 
 #include <settings.h>
 
-#include <QtCore/QStringList>
+#include <QtCore/QString>
+
+#include <span>
 
 /// The options of the program. They are matched exactly, anywhere among the arguments; an option that takes a value is
 /// ignored as the last argument.
@@ -12,8 +14,10 @@ struct CommandLine {
     bool help = false; ///< "--help"
     bool version = false; ///< "--version"
 
-    static CommandLine parse(const QStringList &arguments);
+    /// The arguments as the system hands them over, the program's path included.
+    static CommandLine parse(std::span<char *const> arguments);
 };
 
-/// Text for "--help".
+/// Texts for "--help" and "--version", each ending in a line feed.
 QString commandLineHelp();
+QString commandLineVersion();

@@ -1,20 +1,92 @@
 #include "commandline.h"
+#include "glprobe.h"
+#include "look.h"
+#include "qtsingleapplication.h"
+#include "splash.h"
+#include "templates.h"
 
 #include <alertor.h>
 #include <product.h>
+#include <tappstate.h>
+#include <tdesktop.h>
+#include <tframework.h>
 
-#include <QtWidgets/QApplication>
+#include <QtCore/QSocketNotifier>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int kWakeUpTimeout = 5000; // milliseconds
+
+/// Ends the program in order when the system asks it to.
+void quitOnTermination(QCoreApplication &application)
+{
+    const int descriptor = TDesktop::TerminationDescriptor();
+    if (descriptor < 0)
+        return;
+    auto *notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, &application);
+    QObject::connect(notifier, &QSocketNotifier::activated, &application, [notifier] {
+        notifier->setEnabled(false);
+        QCoreApplication::exit(0);
+    });
+}
+
+int run(QtSingleApplication &application, const CommandLine &line, Templates &templates)
+{
+    Alertor alertor;
+    alertor.setCommandLineOverrides(line.overrides);
+    alertor.loadSettings();
+    alertor.setCustomMessageHandler(
+        [&templates](int id, const QByteArray &message) { templates.invokeCustomMessage(id, message); });
+    QObject::connect(&application, &QtSingleApplication::messageReceived, &alertor, &Alertor::handleMessage);
+
+    Look::installFonts();
+    Look::installPalette();
+    Look::installStyle(application);
+    Splash splash;
+    splash.say(Splash::tr("Initializing..."));
+    splash.show();
+    splash.say(Splash::tr("Enumerating templates..."));
+    TFramework::SetLibraryContext("Alertor", alertor.sendEntry());
+    templates.loadTemplates([&splash](const QString &what) { splash.say(what); });
+    TAppState::instance().forceGl2 = line.forceGl2;
+    probeOpenGl(TAppState::instance());
+    splash.finish(&alertor);
+    alertor.minimize();
+    const int code = QCoreApplication::exec();
+
+    templates.shutdown();
+    TFramework::ShutdownLibrary();
+    return code;
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
+    TDesktop::OpenStandardStreams();
+    const CommandLine line = CommandLine::parse({argv, argv + argc});
+    if (line.help || line.version) {
+        std::fputs(qUtf8Printable(line.help ? commandLineHelp() : commandLineVersion()), stdout);
+        return 0;
+    }
+    if (!TDesktop::SetProcessDpiUnaware())
+        std::fputs("Failed to setup SetProcessDpiAwareness()\n", stderr);
     QCoreApplication::setOrganizationName(product::kOrganisation);
     QCoreApplication::setOrganizationDomain(product::kDomain);
     QCoreApplication::setApplicationName(product::kApplicationName);
+    // Textures outlive the windows they were made in: a viewer that goes full screen keeps its frames.
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QtSingleApplication application(argc, argv);
+    QApplication::setFont(QFont(QStringLiteral("Lato")));
+    if (application.isRunning()) {
+        application.sendMessage(QStringLiteral("wakeup"), kWakeUpTimeout);
+        return 0;
+    }
+    quitOnTermination(application);
+    TFramework::InitializeLibrary(argv[0]);
+    Templates templates;
     QApplication::setQuitOnLastWindowClosed(false);
-    Alertor alertor;
-    alertor.setCommandLineOverrides(CommandLine::parse(QCoreApplication::arguments()).overrides);
-    alertor.loadSettings();
-    alertor.minimize();
-    return QApplication::exec();
+    return run(application, line, templates);
 }

@@ -1,0 +1,24 @@
+#include "splash.h"
+
+#include <product.h>
+#include <windowshadow.h>
+
+#include <QtWidgets/QLabel>
+
+Splash::Splash()
+    : QSplashScreen(QPixmap(QStringLiteral(":/") + QStringLiteral("Misc/") + QStringLiteral("Resources/")
+                            + QStringLiteral("splash.png")))
+{
+    addDropShadow(this);
+    auto *version = new QLabel(
+        tr("%1 - Release Build %2 %3").arg(product::kVersion, product::kBuildNumber, product::kBuildDate),
+        this);
+    version->setStyleSheet(QStringLiteral("* { color: white; }"));
+    version->setGeometry(QRect(QPoint(0, 260), QPoint(595, 289)));
+    version->setAlignment(Qt::AlignCenter);
+}
+
+void Splash::say(const QString &what)
+{
+    showMessage(what, Qt::AlignLeft, Qt::white);
+}
