@@ -15,6 +15,15 @@ set(PYBIND11_FINDPYTHON ON)
 find_package(Python 3.11 REQUIRED COMPONENTS Interpreter Development.Module Development.Embed)
 find_package(pybind11 REQUIRED)
 
+find_package(OpenEXR 3.1 REQUIRED)
+find_package(OpenImageIO 2.4 REQUIRED)
+# The package names the headers of an OpenCV that it does not bring.
+foreach(property INTERFACE_INCLUDE_DIRECTORIES INTERFACE_SYSTEM_INCLUDE_DIRECTORIES)
+  get_target_property(folders OpenImageIO::OpenImageIO ${property})
+  list(FILTER folders EXCLUDE REGEX "opencv")
+  set_target_properties(OpenImageIO::OpenImageIO PROPERTIES ${property} "${folders}")
+endforeach()
+
 if(TARROW_TESTS)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 endif()

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+namespace TImageLibrary {
+
+/// Size of a plane in pixels and what one pixel of it holds.
+struct TPlaneFormat {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    std::int32_t depth = 1; ///< bytes per sample: 1, 2 or 4
+    bool isFloat = false;
+    std::int32_t samples = 1; ///< per pixel, interleaved
+
+    std::size_t pixelBytes() const { return std::size_t(depth) * std::size_t(samples); }
+    std::size_t rowBytes() const { return pixelBytes() * std::size_t(width); }
+    std::size_t byteSize() const { return rowBytes() * std::size_t(height); }
+};
+
+/// One plane of samples, owned: rows packed, first row as CTImage::GetIsYFlipped() says.
+class CTImageChannel final {
+public:
+    enum class Fill { Zero, None };
+
+    /// Throws std::bad_alloc when there is no memory for the plane.
+    CTImageChannel(std::string name, const TPlaneFormat &format, Fill fill = Fill::Zero);
+
+    /// May be empty.
+    const std::string &GetChannelName() const { return m_name; }
+    const void *GetChannelData() const { return m_data.get(); }
+    /// Width and height in pixels: of this plane, which is smaller than the image where the file subsamples it.
+    std::int32_t GetChannelWidth() const { return m_format.width; }
+    std::int32_t GetChannelHeight() const { return m_format.height; }
+    /// Bytes per sample: 1, 2 or 4.
+    std::int32_t GetChannelBitDepth() const { return m_format.depth; }
+    /// 1 for floating point, 0 for unsigned integers.
+    std::int32_t GetChannelBitType() const { return m_format.isFloat ? 1 : 0; }
+    /// Samples per pixel: 1, 3 or 4. Two-byte integers come as four samples only and four-byte ones never, so that GL
+    /// can show every plane.
+    std::int32_t GetChannelBitSamples() const { return m_format.samples; }
+
+    const TPlaneFormat &format() const { return m_format; }
+    std::byte *data() { return m_data.get(); }
+
+private:
+    struct Free {
+        void operator()(std::byte *data) const { std::free(data); }
+    };
+
+    std::string m_name;
+    TPlaneFormat m_format;
+    std::unique_ptr<std::byte, Free> m_data;
+};
+
+} // namespace TImageLibrary

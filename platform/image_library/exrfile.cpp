@@ -1,0 +1,157 @@
+#include "exrfile.h"
+
+#include <ImathBox.h>
+#include <ImfChannelList.h>
+#include <ImfPartType.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <stdexcept>
+#include <thread>
+
+namespace TImageLibrary {
+
+namespace {
+
+struct CompressionFacts {
+    int chunkRows;
+    std::uint64_t expansion;
+};
+
+CompressionFacts factsOf(Imf::Compression compression)
+{
+    // Deflate makes at most 1032 bytes of one, and a PXR24 float drops one byte in four before. A code of PIZ stands for
+    // at most 255 equal values. DWA takes blocks of 64 samples, or runs, to two bytes and deflates those.
+    constexpr std::uint64_t kDeflate = 1032;
+    switch (compression) {
+    case Imf::NO_COMPRESSION:
+        return {1, 1};
+    case Imf::RLE_COMPRESSION:
+        return {1, 64};
+    case Imf::ZIPS_COMPRESSION:
+        return {1, kDeflate};
+    case Imf::ZIP_COMPRESSION:
+        return {16, kDeflate};
+    case Imf::PXR24_COMPRESSION:
+        return {16, kDeflate * 4 / 3};
+    case Imf::PIZ_COMPRESSION:
+        return {32, 512};
+    case Imf::B44_COMPRESSION:
+    case Imf::B44A_COMPRESSION:
+        return {32, 11};
+    case Imf::DWAA_COMPRESSION:
+        return {32, 64 * kDeflate};
+    case Imf::DWAB_COMPRESSION:
+        return {256, 64 * kDeflate};
+    default:
+        throw std::runtime_error("unknown compression");
+    }
+}
+
+bool isFlat(const Imf::Header &header)
+{
+    return header.hasType() && (header.type() == Imf::SCANLINEIMAGE || header.type() == Imf::TILEDIMAGE);
+}
+
+std::uint64_t bytesPerPixel(const Imf::ChannelList &channels)
+{
+    std::uint64_t bytes = 0;
+    for (auto channel = channels.begin(); channel != channels.end(); ++channel)
+        bytes += channel.channel().type == Imf::HALF ? 2 : 4;
+    return bytes;
+}
+
+/// In how many flat parts each channel name occurs.
+std::map<std::string, int> countNames(const Imf::MultiPartInputFile &parts)
+{
+    std::map<std::string, int> counts;
+    for (int part = 0; part < parts.parts(); ++part) {
+        const Imf::Header &header = parts.header(part);
+        if (!isFlat(header))
+            continue;
+        for (auto channel = header.channels().begin(); channel != header.channels().end(); ++channel)
+            ++counts[channel.name()];
+    }
+    return counts;
+}
+
+/// What stands before the channels of a part. The whole part takes its name when one channel must, so that the
+/// components of a colour stay together.
+std::string prefixOf(const Imf::Header &header, const std::map<std::string, int> &counts)
+{
+    const Imf::ChannelList &channels = header.channels();
+    bool shared = false;
+    for (auto channel = channels.begin(); channel != channels.end(); ++channel)
+        shared = shared || counts.at(channel.name()) > 1;
+    return shared && header.hasName() ? header.name() + '.' : std::string();
+}
+
+} // namespace
+
+ExrFile::ExrFile(const SourceFile &file)
+    : m_source(file)
+    // A table of chunks that is not there is not rebuilt: the writer has not finished, or the file is cut.
+    , m_parts(file.path().c_str(), exrPoolThreads(), false)
+{
+    listChannels();
+}
+
+void ExrFile::listChannels()
+{
+    const std::map<std::string, int> counts = countNames(m_parts);
+    std::set<std::string> taken;
+    for (int part = 0; part < m_parts.parts(); ++part) {
+        const Imf::Header &partHeader = header(part);
+        if (!isFlat(partHeader))
+            continue;
+        const std::string prefix = prefixOf(partHeader, counts);
+        const Imf::ChannelList &channels = partHeader.channels();
+        for (auto channel = channels.begin(); channel != channels.end(); ++channel) {
+            const std::string name = channel.name();
+            const std::string layer = name.starts_with(prefix) ? name : prefix + name;
+            const Imf::Channel &details = channel.channel();
+            if (taken.insert(layer).second)
+                m_channels.push_back(
+                    {layer, name, part, details.type, {details.xSampling, details.ySampling}});
+        }
+    }
+}
+
+void ExrFile::checkPart(int part) const
+{
+    if (!m_parts.partComplete(part))
+        throw std::runtime_error("chunks are missing");
+    const Imf::Header &partHeader = header(part);
+    const Imath::Box2i &window = partHeader.dataWindow();
+    const std::uint64_t width = isTiled(part) ? partHeader.tileDescription().xSize
+                                              : std::uint64_t(std::int64_t(window.max.x) - window.min.x + 1);
+    const auto rows = std::uint64_t(chunkRows(part));
+    if (!m_source.canHold(width * rows * bytesPerPixel(partHeader.channels()), expansion(part)))
+        throw std::runtime_error("chunks larger than the file");
+}
+
+std::uint64_t ExrFile::expansion(int part) const
+{
+    return factsOf(header(part).compression()).expansion;
+}
+
+int ExrFile::chunkRows(int part) const
+{
+    return isTiled(part) ? int(header(part).tileDescription().ySize)
+                         : factsOf(header(part).compression()).chunkRows;
+}
+
+bool ExrFile::isTiled(int part) const
+{
+    return header(part).type() == Imf::TILEDIMAGE;
+}
+
+int exrPoolThreads()
+{
+    constexpr unsigned kMostThreads = 16;
+    const unsigned cores = std::thread::hardware_concurrency();
+    return cores > 1 ? int(std::min(cores, kMostThreads)) : 0;
+}
+
+} // namespace TImageLibrary

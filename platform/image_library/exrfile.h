@@ -1,0 +1,56 @@
+#pragma once
+
+#include "sourcefile.h"
+
+#include <ImathVec.h>
+#include <ImfHeader.h>
+#include <ImfMultiPartInputFile.h>
+#include <ImfPixelType.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace TImageLibrary {
+
+/// A channel of a flat part.
+struct ExrChannel {
+    std::string layer; ///< unique in the file
+    std::string name; ///< unique in its part
+    int part = 0;
+    Imf::PixelType type = Imf::HALF;
+    Imath::V2i sampling{1, 1};
+};
+
+/// The headers of an OpenEXR file. Deep parts, whose pixels hold any number of samples, are passed over.
+class ExrFile final {
+public:
+    /// Throws when the headers are damaged.
+    explicit ExrFile(const SourceFile &file);
+
+    /// Part after part, each part's in the order of its header.
+    const std::vector<ExrChannel> &channels() const { return m_channels; }
+    const SourceFile &source() const { return m_source; }
+    const Imf::Header &header(int part) const { return m_parts.header(part); }
+    Imf::MultiPartInputFile &parts() { return m_parts; }
+
+    /// Throws when the part has not all its pixels, or its chunks are larger than the file can fill.
+    void checkPart(int part) const;
+    /// How many bytes of pixels a byte of the part can make.
+    std::uint64_t expansion(int part) const;
+    /// Rows of pixels that the part compresses together.
+    int chunkRows(int part) const;
+    bool isTiled(int part) const;
+
+private:
+    void listChannels();
+
+    const SourceFile &m_source;
+    Imf::MultiPartInputFile m_parts;
+    std::vector<ExrChannel> m_channels;
+};
+
+/// Threads of OpenEXR's pool that decode at once; a single one would only add its hand-overs.
+int exrPoolThreads();
+
+} // namespace TImageLibrary

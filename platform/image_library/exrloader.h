@@ -1,0 +1,18 @@
+#pragma once
+
+#include "imageloader.h"
+
+namespace TImageLibrary {
+
+/// OpenEXR files, flat parts: a layer for each channel, decoded straight into its plane.
+class ExrLoader final : public ImageLoader {
+public:
+    std::vector<std::string> extensions() const override;
+    const char *probe(const SourceFile &file) const override;
+    bool knows(const std::string &format) const override;
+    std::set<std::string> layers(const SourceFile &file, const std::string &format) const override;
+    CTImage load(const SourceFile &file, const std::string &format, const std::set<std::string> &names,
+                 Progress &progress) const override;
+};
+
+} // namespace TImageLibrary

@@ -1,0 +1,212 @@
+#include "exrpixels.h"
+
+#include <ImathBox.h>
+#include <ImfChannelList.h>
+#include <ImfFrameBuffer.h>
+#include <ImfInputPart.h>
+#include <ImfThreading.h>
+#include <ImfTiledInputPart.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <stdexcept>
+
+namespace TImageLibrary {
+
+namespace {
+
+/// Level 0 of a part, read in rows that begin and end where chunks do.
+class PartRows {
+public:
+    virtual ~PartRows() = default;
+    virtual void setFrameBuffer(const Imf::FrameBuffer &buffer) = 0;
+    virtual void read(int firstRow, int lastRow) = 0;
+    virtual int chunksPerRow() const = 0;
+};
+
+class ScanLineRows final : public PartRows {
+public:
+    ScanLineRows(Imf::MultiPartInputFile &file, int part)
+        : m_part(file, part)
+    { }
+    void setFrameBuffer(const Imf::FrameBuffer &buffer) override { m_part.setFrameBuffer(buffer); }
+    void read(int firstRow, int lastRow) override { m_part.readPixels(firstRow, lastRow); }
+    int chunksPerRow() const override { return 1; }
+
+private:
+    Imf::InputPart m_part;
+};
+
+class TileRows final : public PartRows {
+public:
+    TileRows(Imf::MultiPartInputFile &file, int part)
+        : m_part(file, part)
+        , m_top(file.header(part).dataWindow().min.y)
+        , m_tileRows(int(file.header(part).tileDescription().ySize))
+    { }
+    void setFrameBuffer(const Imf::FrameBuffer &buffer) override { m_part.setFrameBuffer(buffer); }
+    void read(int firstRow, int lastRow) override
+    {
+        m_part.readTiles(0, m_part.numXTiles() - 1, (firstRow - m_top) / m_tileRows,
+                         (lastRow - m_top) / m_tileRows);
+    }
+    int chunksPerRow() const override { return m_part.numXTiles(); }
+
+private:
+    Imf::TiledInputPart m_part;
+    int m_top;
+    int m_tileRows;
+};
+
+/// A slice on memory that holds the given samples of a channel, rows packed.
+Imf::Slice sliceOn(std::byte *data, const ExrTarget &target, const ExrSpan &columns, const ExrSpan &rows)
+{
+    const std::size_t sampleBytes = target.plane.format().pixelBytes();
+    const std::size_t rowBytes = sampleBytes * std::size_t(columns.count);
+    // OpenEXR counts from the sample (0, 0), which may lie outside the memory: no arithmetic on pointers then.
+    const std::uintptr_t origin = reinterpret_cast<std::uintptr_t>(data)
+        - std::uintptr_t(rows.first) * rowBytes - std::uintptr_t(columns.first) * sampleBytes;
+    return Imf::Slice(target.type, reinterpret_cast<char *>(origin), sampleBytes, rowBytes,
+                      target.channel.sampling.x, target.channel.sampling.y);
+}
+
+/// The samples of one channel in a band of the data window, where that does not lie within the display window.
+class Scratch final {
+public:
+    Scratch(ExrTarget &target, const Imath::Box2i &band)
+        : m_target(target)
+        , m_columns(ExrSpan::within(band.min.x, band.max.x, target.channel.sampling.x))
+        , m_rows(ExrSpan::within(band.min.y, band.max.y, target.channel.sampling.y))
+        , m_data(byteSize())
+    { }
+
+    std::size_t byteSize() const
+    {
+        return std::size_t(m_columns.count) * std::size_t(m_rows.count)
+            * m_target.plane.format().pixelBytes();
+    }
+    Imf::Slice slice() { return sliceOn(m_data.data(), m_target, m_columns, m_rows); }
+
+    void copyToPlane() const
+    {
+        const TPlaneFormat &format = m_target.plane.format();
+        const std::size_t sampleBytes = format.pixelBytes();
+        const ExrSpan columns = ExrSpan::common(m_columns, m_target.columns);
+        const ExrSpan rows = ExrSpan::common(m_rows, m_target.rows);
+        for (int row = rows.first; row < rows.end() && columns.count > 0; ++row) {
+            const std::size_t from = std::size_t(row - m_rows.first) * std::size_t(m_columns.count)
+                + std::size_t(columns.first - m_columns.first);
+            const std::size_t to = std::size_t(row - m_target.rows.first) * std::size_t(format.width)
+                + std::size_t(columns.first - m_target.columns.first);
+            std::memcpy(m_target.plane.data() + to * sampleBytes, m_data.data() + from * sampleBytes,
+                        std::size_t(columns.count) * sampleBytes);
+        }
+    }
+
+private:
+    ExrTarget &m_target;
+    ExrSpan m_columns;
+    ExrSpan m_rows;
+    std::vector<std::byte> m_data;
+};
+
+class PartReader final {
+public:
+    PartReader(ExrFile &file, int part, const std::vector<ExrTarget *> &targets)
+        : m_file(file)
+        , m_part(part)
+        , m_targets(targets)
+        , m_data(file.header(part).dataWindow())
+        , m_display(file.header(part).displayWindow())
+    {
+        if (file.isTiled(part))
+            m_rows = std::make_unique<TileRows>(file.parts(), part);
+        else
+            m_rows = std::make_unique<ScanLineRows>(file.parts(), part);
+    }
+
+    void read(const std::function<void(double)> &report)
+    {
+        const bool direct = m_display.intersects(m_data.min) && m_display.intersects(m_data.max);
+        if (direct)
+            setPlanes();
+        // In 64 bits: a band may end behind the last row that an int can count.
+        const std::int64_t bandRows = rowsPerBand();
+        for (std::int64_t top = m_data.min.y; top <= m_data.max.y; top += bandRows) {
+            const auto bottom = int(std::min<std::int64_t>(top + bandRows - 1, m_data.max.y));
+            if (direct)
+                m_rows->read(int(top), bottom);
+            else
+                readThroughScratch({{m_data.min.x, int(top)}, {m_data.max.x, bottom}});
+            report(double(bottom - m_data.min.y + 1) / double(m_data.max.y - m_data.min.y + 1));
+        }
+    }
+
+private:
+    /// Every band ends with a wait for its last chunk: enough chunks in each keep the threads busy, and sixteen bands are
+    /// plenty for a progress bar.
+    std::int64_t rowsPerBand() const
+    {
+        constexpr std::int64_t kBands = 16;
+        const std::int64_t chunkRows = m_file.chunkRows(m_part);
+        const std::int64_t chunkLines = (m_data.max.y - m_data.min.y) / chunkRows + 1;
+        const std::int64_t busy = 4 * std::max(exrPoolThreads(), 1) / m_rows->chunksPerRow() + 1;
+        return chunkRows * std::max(busy, (chunkLines + kBands - 1) / kBands);
+    }
+
+    void setPlanes()
+    {
+        Imf::FrameBuffer buffer;
+        for (ExrTarget *target : m_targets)
+            buffer.insert(target->channel.name,
+                          sliceOn(target->plane.data(), *target, target->columns, target->rows));
+        m_rows->setFrameBuffer(buffer);
+    }
+
+    void readThroughScratch(const Imath::Box2i &band)
+    {
+        if (!band.intersects(m_display))
+            return;
+        const std::uint64_t bytes = (std::uint64_t(band.max.x) - std::uint64_t(band.min.x) + 1)
+            * (std::uint64_t(band.max.y) - std::uint64_t(band.min.y) + 1) * m_targets.size() * sizeof(float);
+        if (!m_file.source().canHold(bytes, 2 * m_file.expansion(m_part)))
+            throw std::runtime_error("rows larger than the file");
+        std::vector<Scratch> scratches;
+        scratches.reserve(m_targets.size());
+        Imf::FrameBuffer buffer;
+        for (ExrTarget *target : m_targets)
+            buffer.insert(target->channel.name, scratches.emplace_back(*target, band).slice());
+        m_rows->setFrameBuffer(buffer);
+        m_rows->read(band.min.y, band.max.y);
+        for (const Scratch &scratch : scratches)
+            scratch.copyToPlane();
+    }
+
+    ExrFile &m_file;
+    int m_part;
+    const std::vector<ExrTarget *> &m_targets;
+    Imath::Box2i m_data;
+    Imath::Box2i m_display;
+    std::unique_ptr<PartRows> m_rows;
+};
+
+/// The pool's hand-overs cost more than they bring where nothing is decompressed.
+void setPoolThreads(Imf::Compression compression)
+{
+    const int threads = compression == Imf::NO_COMPRESSION ? 0 : exrPoolThreads();
+    if (Imf::globalThreadCount() != threads)
+        Imf::setGlobalThreadCount(threads);
+}
+
+} // namespace
+
+void readPart(ExrFile &file, int part, const std::vector<ExrTarget *> &targets,
+              const std::function<void(double)> &report)
+{
+    setPoolThreads(file.header(part).compression());
+    PartReader(file, part, targets).read(report);
+}
+
+} // namespace TImageLibrary

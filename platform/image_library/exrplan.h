@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ctimagechannel.h"
+#include "exrfile.h"
+
+#include <set>
+#include <string>
+#include <vector>
+
+namespace TImageLibrary {
+
+/// Samples along one axis. A channel of sampling s has sample i at the pixel i * s.
+struct ExrSpan {
+    int first = 0;
+    int count = 0;
+
+    int end() const { return first + count; }
+    /// Those at the pixels from `min` to `max`.
+    static ExrSpan within(int min, int max, int sampling);
+    static ExrSpan common(const ExrSpan &a, const ExrSpan &b);
+};
+
+/// A channel to read and the plane that takes it. The plane covers the display window, which stays the same along a
+/// sequence while data windows change.
+struct ExrTarget {
+    ExrChannel channel;
+    Imf::PixelType type; ///< of the plane: HALF or FLOAT
+    ExrSpan columns;
+    ExrSpan rows;
+    CTImageChannel plane;
+};
+
+/// The planes for the named layers, or for the default layer when the file has none of them, in the file's order.
+/// Throws when there is nothing to read or the file cannot hold what it announces.
+std::vector<ExrTarget> planPlanes(const ExrFile &file, const std::set<std::string> &names);
+
+} // namespace TImageLibrary

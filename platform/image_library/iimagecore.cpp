@@ -1,0 +1,118 @@
+#include "iimagecore.h"
+
+#include "exrloader.h"
+#include "oiioloader.h"
+
+#include <algorithm>
+#include <array>
+#include <exception>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace TImageLibrary {
+
+namespace {
+
+const std::array<const ImageLoader *, 2> &loaders()
+{
+    static const ExrLoader exr;
+    static const OiioLoader oiio;
+    static const std::array<const ImageLoader *, 2> all = {&exr, &oiio};
+    return all;
+}
+
+const ImageLoader *loaderOf(const char *format)
+{
+    const std::string name = format ? format : "";
+    const auto found = std::find_if(loaders().begin(), loaders().end(),
+                                    [&name](const ImageLoader *loader) { return loader->knows(name); });
+    return found == loaders().end() ? nullptr : *found;
+}
+
+const std::vector<std::string> &extensions()
+{
+    static const std::vector<std::string> all = [] {
+        std::vector<std::string> list;
+        for (const ImageLoader *loader : loaders()) {
+            for (std::string &extension : loader->extensions()) {
+                if (std::find(list.begin(), list.end(), extension) == list.end())
+                    list.push_back(std::move(extension));
+            }
+        }
+        return list;
+    }();
+    return all;
+}
+
+/// The decoders throw what they like, often std::bad_alloc: no image is the one answer to all of it.
+template <typename Function>
+auto guarded(const Function &function) -> decltype(function())
+{
+    try {
+        return function();
+    } catch (...) {
+        return {};
+    }
+}
+
+} // namespace
+
+IImageCore *IImageCore::GetUniqueClass()
+{
+    static IImageCore core;
+    return &core;
+}
+
+CTExtensionsIterator IImageCore::LoaderExtensionsBegin()
+{
+    return CTExtensionsIterator(extensions().begin());
+}
+
+CTExtensionsIterator IImageCore::LoaderExtensionsEnd()
+{
+    return CTExtensionsIterator(extensions().end());
+}
+
+const char *IImageCore::Probe(const char *path)
+{
+    return guarded([path]() -> const char * {
+        const auto file = SourceFile::open(path);
+        const char *format = nullptr;
+        for (const ImageLoader *loader : loaders()) {
+            if (file && !format)
+                format = loader->probe(*file);
+        }
+        return format;
+    });
+}
+
+bool IImageCore::LoadLayers(const char *path, const char *format, std::set<std::string> &names)
+{
+    names = guarded([path, format]() -> std::set<std::string> {
+        const ImageLoader *loader = loaderOf(format);
+        const auto file = SourceFile::open(path);
+        return loader && file ? loader->layers(*file, format) : std::set<std::string>();
+    });
+    return !names.empty();
+}
+
+CTImage *IImageCore::Load(const char *path, const char *format, const std::set<std::string> &names,
+                          TLoadProgress progress, void *user)
+{
+    Progress reported(progress, user);
+    return guarded([&]() -> CTImage * {
+        const ImageLoader *loader = loaderOf(format);
+        const auto file = SourceFile::open(path);
+        if (!loader || !file)
+            return nullptr;
+        return std::make_unique<CTImage>(loader->load(*file, format, names, reported)).release();
+    });
+}
+
+void IImageCore::DestroyImage(CTImage *image)
+{
+    delete image;
+}
+
+} // namespace TImageLibrary

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "ctimage.h"
+#include "progress.h"
+#include "sourcefile.h"
+
+#include <set>
+#include <string>
+#include <vector>
+
+namespace TImageLibrary {
+
+/// What reads one family of files. Loaders may throw: IImageCore catches at the library's door.
+class ImageLoader {
+public:
+    ImageLoader() = default;
+    virtual ~ImageLoader() = default;
+    ImageLoader(const ImageLoader &) = delete;
+    ImageLoader &operator=(const ImageLoader &) = delete;
+
+    virtual std::vector<std::string> extensions() const = 0;
+    /// Name of the format, null when the bytes are none of this loader's; lives as long as the program.
+    virtual const char *probe(const SourceFile &file) const = 0;
+    /// Whether this loader gives probe() results of that name.
+    virtual bool knows(const std::string &format) const = 0;
+    virtual std::set<std::string> layers(const SourceFile &file, const std::string &format) const = 0;
+    /// The image holds the named layers, or the default one when the file has none of them.
+    virtual CTImage load(const SourceFile &file, const std::string &format,
+                         const std::set<std::string> &names, Progress &progress) const = 0;
+};
+
+} // namespace TImageLibrary

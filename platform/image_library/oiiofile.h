@@ -1,0 +1,39 @@
+#pragma once
+
+#include "ctimagechannel.h"
+#include "progress.h"
+#include "sourcefile.h"
+
+#include <OpenImageIO/imageio.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace TImageLibrary {
+
+struct OiioFormat;
+
+/// The first image of a file that OpenImageIO has opened. Everything throws when the file is damaged.
+class OiioFile final {
+public:
+    OiioFile(const SourceFile &file, const OiioFormat &format);
+
+    /// Pixels of the upright picture.
+    std::int32_t width() const;
+    std::int32_t height() const;
+    bool isPremultiplied() const;
+    /// The layers: one without a name when the pixels can be shown as they are.
+    std::vector<std::string> layers() const;
+    /// Reads one of layers(). `part` of `parts` says which of the layers to load this one is.
+    CTImageChannel read(const std::string &layer, Progress &progress, std::size_t part, std::size_t parts);
+
+private:
+    bool isInterleaved() const;
+    TPlaneFormat planeFormat(int samples) const;
+
+    std::unique_ptr<OIIO::ImageInput> m_input;
+    OIIO::ImageSpec m_spec;
+};
+
+} // namespace TImageLibrary

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace TImageLibrary {
+
+/// A regular file: its size, its ends and the extension of its name, for telling what it is and what it may hold.
+class SourceFile final {
+public:
+    /// Nothing when the path (UTF-8) names no regular file that can be read, or an empty one.
+    static std::optional<SourceFile> open(const char *path);
+
+    const std::string &path() const { return m_path; }
+    std::uint64_t size() const { return m_size; }
+    /// The first bytes, 512 at most.
+    std::string_view head() const { return m_head; }
+    /// The last bytes, 26 at most.
+    std::string_view tail() const { return m_tail; }
+    /// In lower case, without the dot.
+    const std::string &extension() const { return m_extension; }
+    /// The whole file; empty when it cannot be read.
+    std::string contents() const;
+
+    /// Whether the file's bytes can hold so many bytes of pixels when a byte of the file makes at most `expansion` of
+    /// them. A plain picture shrinks to next to nothing in any format, so an everyday size is believed of every file.
+    bool canHold(std::uint64_t pixelBytes, std::uint64_t expansion) const;
+
+private:
+    SourceFile() = default;
+    std::string bytes(std::uint64_t offset, std::uint64_t count) const;
+
+    std::string m_path;
+    std::filesystem::path m_nativePath;
+    std::uint64_t m_size = 0;
+    std::string m_head;
+    std::string m_tail;
+    std::string m_extension;
+};
+
+} // namespace TImageLibrary

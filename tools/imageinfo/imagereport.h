@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+/// One channel as the image library delivers it when its layer is loaded alone.
+struct ChannelReport {
+    QString name;
+    int width = 0;
+    int height = 0;
+    QString type; ///< "uint8", "uint16", "half", "float" or "uint32"
+    int samples = 0;
+    /// Over all finite samples of all pixels, integers as they are stored.
+    double minimum = 0.0;
+    double mean = 0.0;
+    double maximum = 0.0;
+    std::int64_t nonFinite = 0; ///< samples that are infinite or no number
+};
+
+struct LayerReport {
+    QString name; ///< may be empty
+    std::vector<ChannelReport> channels;
+};
+
+struct ImageReport {
+    QString format;
+    int width = 0;
+    int height = 0;
+    bool premultiplied = false;
+    std::vector<LayerReport> layers;
+};
+
+/// What the image library makes of a file; nothing when it cannot load it.
+std::optional<ImageReport> inspectImage(const QString &path);

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "imagereport.h"
+
+#include <QtCore/QJsonObject>
+
+/// The report for people, a line for the file and one for each channel, each ended by a line feed.
+QString toText(const QString &path, const ImageReport &report);
+/// The report for scripts.
+QJsonObject toJson(const QString &path, const ImageReport &report);
