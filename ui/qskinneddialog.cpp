@@ -10,6 +10,7 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QSettings>
+#include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QWindow>
 #include <QtWidgets/QGridLayout>
@@ -234,6 +235,7 @@ bool QSkinnedDialog::event(QEvent *event)
     if (event->type() == QEvent::WinIdChange && windowHandle()) {
         // On X11 the hint would take the window away from the window manager, and with it the keyboard focus.
         windowHandle()->setFlag(Qt::BypassWindowManagerHint, false);
+        windowHandle()->installEventFilter(this);
         addDropShadow(this);
     }
     return QDialog::event(event);
@@ -248,6 +250,8 @@ bool QSkinnedDialog::eventFilter(QObject *watched, QEvent *event)
             return true;
         }
     }
+    if (watched == windowHandle() && event->type() == QEvent::Expose && !m_askedPosition.isNull())
+        QTimer::singleShot(0, this, &QSkinnedDialog::settlePosition);
     return QDialog::eventFilter(watched, event);
 }
 
@@ -270,7 +274,21 @@ void QSkinnedDialog::escapePressed(QKeyEvent *event)
 void QSkinnedDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
+    if (event->spontaneous())
+        return;
     const QRect fitted = fittedToScreens(geometry());
-    if (!event->spontaneous() && fitted != geometry())
+    if (fitted != geometry())
         setGeometry(fitted);
+    m_askedPosition = geometry().topLeft();
+}
+
+// On X11 a window manager that puts a frameless window where it was asked to need not tell it so. Qt, which looks while
+// the manager is still at work, may then believe the window at the origin, and menus would open there. Once it is in
+// sight, asking for the place again brings an answer.
+void QSkinnedDialog::settlePosition()
+{
+    const QPoint asked = pos().isNull() ? m_askedPosition : pos();
+    m_askedPosition = {};
+    if (isVisible() && windowHandle()->position().isNull())
+        windowHandle()->setPosition(asked);
 }

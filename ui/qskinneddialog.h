@@ -66,6 +66,7 @@ private:
     void placeBorders(QGridLayout *grid);
     void applyBorderWidth();
     void escapePressed(QKeyEvent *event);
+    void settlePosition();
     QPushButton *addHeaderButton(const QString &image, const QString &name);
 
     QDialog *const m_content;
@@ -76,6 +77,8 @@ private:
     bool m_resizable;
     bool m_escapeCloses = true;
     int m_borderWidth = 5;
+    // Between a show and the first expose; null otherwise.
+    QPoint m_askedPosition;
 
     // Null until the frame is built.
     QSkinnedDialogHeader *m_header = nullptr;
