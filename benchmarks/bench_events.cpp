@@ -111,7 +111,8 @@ int main(int argc, char **argv)
         Window longList(kLong);
         printRatio(
             "events (ms for 200 events and a paint, list of 100,000 against 1,000)",
-            [&longList] { return longList.addAndPaint(); }, [&shortList] { return shortList.addAndPaint(); }, kPromise);
+            [&longList] { return longList.addAndPaint(); }, [&shortList] { return shortList.addAndPaint(); },
+            kPromise);
     }
     std::printf("memory per event: %.0f bytes (promise %.0f)\n", bytesPerEvent(), kBytesPromise);
     return 0;

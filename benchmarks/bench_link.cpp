@@ -26,8 +26,8 @@ constexpr double kPromise = 1.5;
 
 const QByteArray &wire()
 {
-    static const QByteArray bytes
-        = encodeFrame(FrameHeader::Plain, CMD_NOTIFICATION, QByteArray(kPayload, 'x')).repeated(kFrames);
+    static const QByteArray bytes =
+        encodeFrame(FrameHeader::Plain, CMD_NOTIFICATION, QByteArray(kPayload, 'x')).repeated(kFrames);
     return bytes;
 }
 
@@ -44,7 +44,8 @@ double receive(QTcpSocket &socket, QEventLoop &loop)
     std::thread sender([descriptor] {
         const QByteArray &bytes = wire();
         for (qsizetype sent = 0; sent < bytes.size();) {
-            const ssize_t taken = send(descriptor, bytes.data() + sent, std::size_t(bytes.size() - sent), MSG_NOSIGNAL);
+            const ssize_t taken =
+                send(descriptor, bytes.data() + sent, std::size_t(bytes.size() - sent), MSG_NOSIGNAL);
             if (taken > 0)
                 sent += taken;
             else
@@ -77,7 +78,7 @@ double receiveBytes()
     QTcpSocket socket;
     QEventLoop loop;
     qint64 bytes = 0;
-    std::array<char, 65535> buffer {};
+    std::array<char, 65535> buffer{};
     QObject::connect(&socket, &QIODevice::readyRead, &socket, [&] {
         for (qint64 got = 0; (got = socket.read(buffer.data(), buffer.size())) > 0;)
             bytes += got;
@@ -99,8 +100,12 @@ void bench(benchmark::State &state, double (*work)())
 int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
-    benchmark::RegisterBenchmark("messages", &bench, &receiveMessages)->UseManualTime()->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("bareSocket", &bench, &receiveBytes)->UseManualTime()->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("messages", &bench, &receiveMessages)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("bareSocket", &bench, &receiveBytes)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     printRatio("link (ms for 200,000 frames)", &receiveMessages, &receiveBytes, kPromise);
