@@ -428,7 +428,12 @@ void Alertor::handleMessage(const QString &message)
 
 void Alertor::configure()
 {
+    if (m_preferences) { // the tray menu is within reach while it is open
+        m_preferences->raise();
+        return;
+    }
     const QPointer<preferences> dialog = new preferences(this);
+    m_preferences = dialog;
     dialog->setValues(m_settings);
     const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
     const Settings edited = accepted ? dialog->values(m_settings) : m_settings;

@@ -38,6 +38,7 @@ public:
 
     const EventsList &events() const { return m_events; }
     const Settings &settings() const { return m_settings; }
+    const Tray &tray() const { return m_tray; }
     /// For the templates; valid as long as the window.
     TFramework::TSendEntry *sendEntry() { return &m_sendEntry; }
 
@@ -124,9 +125,11 @@ private:
     TrayMenu *m_trayMenu = nullptr;
     ListMenu *m_listMenu = nullptr;
     QPointer<QDialog> m_refusal;
+    QPointer<QDialog> m_preferences;
     QTimer m_timer;
     PendingLevel m_pendingLevel = NothingPending;
     quint64 m_nextEventId = 1;
     bool m_silent = false;
     bool m_firstHideHint = true;
+    bool m_askingToQuit = false;
 };

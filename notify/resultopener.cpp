@@ -1,5 +1,7 @@
 #include "resultopener.h"
 
+#include <tdesktop.h>
+
 #include <QtCore/QFileInfo>
 #include <QtCore/QProcess>
 #include <QtCore/QUrl>
@@ -8,8 +10,17 @@
 
 namespace {
 
-bool openIfFolder(const QString &path)
+bool openByDefault(const QString &path)
 {
+    switch (TDesktop::OpenPath(path.toStdString())) {
+    case TDesktop::Opened::Yes:
+        return true;
+    case TDesktop::Opened::No:
+        return false;
+    case TDesktop::Opened::NotHere:
+        break;
+    }
+    // Folders alone: a file's default action may well be to run it.
     return QFileInfo(path).isDir() && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
@@ -17,7 +28,7 @@ bool openIfFolder(const QString &path)
 
 bool ResultOpener::openFolder(const QString &path)
 {
-    return openIfFolder(path) || openIfFolder(QFileInfo(path).absolutePath());
+    return openByDefault(path) || openByDefault(QFileInfo(path).absolutePath());
 }
 
 bool ResultOpener::startExternalViewer(const QString &application, const QString &frames)

@@ -17,6 +17,8 @@ public:
     explicit Tray(QObject *parent = nullptr);
 
     const QIcon &normalIcon() const { return m_icons.at(kNormal); }
+    /// Resource path of the icon that is shown.
+    const QString &shownIcon() const { return m_shown; }
 
     /// Shows the state's icon, or with `normal` false that of the level; sets nothing that is shown already.
     /// `state` is that of the Dispatcher's socket, null without one.

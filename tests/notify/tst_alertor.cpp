@@ -7,12 +7,15 @@
 #include <product.h>
 
 #include <QtCore/QSettings>
+#include <QtCore/QTemporaryDir>
 #include <QtGui/QContextMenuEvent>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollBar>
 
 namespace {
@@ -258,6 +261,116 @@ private Q_SLOTS:
         QCOMPARE(enabledIn(*farm.menu("trayMenu")).join(QLatin1Char('|')),
                  QStringLiteral("&Silent|&Open images viewer|&Configure|&Quit"));
         QTest::keyClick(farm.menu("trayMenu"), Qt::Key_Escape);
+    }
+
+    void theIconFlashesOneTickInFour()
+    {
+        Farm farm;
+        QTRY_VERIFY(farm.up());
+        const QString calm = QStringLiteral(":/icons/mainIcon");
+        farm.sendJobs({4096});
+        QTRY_COMPARE(farm.alertor.events().size(), 1);
+        QStringList shown;
+        for (int tick = 0; tick < 8; ++tick) {
+            QMetaObject::invokeMethod(&farm.alertor, "timerEvent");
+            shown += farm.alertor.tray().shownIcon();
+        }
+        QCOMPARE(shown.count(calm), 6);
+        QCOMPARE(shown.count(QStringLiteral(":/icons/itemError")), 2);
+        farm.alertor.actAckEvents();
+        for (int tick = 0; tick < 4; ++tick) {
+            QMetaObject::invokeMethod(&farm.alertor, "timerEvent");
+            QCOMPARE(farm.alertor.tray().shownIcon(), calm);
+        }
+        farm.peer.dropLink();
+        QTRY_COMPARE(farm.alertor.tray().shownIcon(), QStringLiteral(":/icons/unconnectedIcon"));
+    }
+
+    void quittingAsks()
+    {
+        Farm farm;
+        const auto quitAnswering = [&farm](QMessageBox::StandardButton answer) {
+            QTimer::singleShot(0, &farm.alertor, [answer] {
+                QTRY_VERIFY(QApplication::activeModalWidget());
+                auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+                QCOMPARE(box->text(), QStringLiteral("Are you sure you want to close the Alertor?"));
+                QTest::mouseClick(box->button(answer), Qt::LeftButton);
+            });
+            farm.alertor.onQuit();
+        };
+        QStringList steps;
+        QTimer::singleShot(0, &farm.alertor, [&] {
+            quitAnswering(QMessageBox::No);
+            QTimer::singleShot(0, &farm.alertor, [&] {
+                steps += QStringLiteral("still running");
+                quitAnswering(QMessageBox::Yes);
+            });
+        });
+        QCOMPARE(QCoreApplication::exec(), 0); // left by the quit alone
+        QCOMPARE(steps, QStringList{QStringLiteral("still running")});
+    }
+
+    void preferencesReconnectWhereTheLinkChanged()
+    {
+        Farm farm;
+        QTRY_VERIFY(farm.up());
+        const auto editAndAccept = [&farm](const char *field, const char *text) {
+            QTimer::singleShot(0, &farm.alertor, [=] {
+                QTRY_VERIFY(QApplication::activeModalWidget());
+                QWidget *dialog = QApplication::activeModalWidget();
+                auto *edit = dialog->findChild<QLineEdit *>(QLatin1String(field));
+                QVERIFY(edit);
+                edit->selectAll();
+                QTest::keyClicks(edit, QLatin1String(text));
+                QTest::keyClick(dialog, Qt::Key_Return);
+            });
+            farm.menu("trayMenu")->actions().at(7)->trigger();
+        };
+        editAndAccept("errorSoundPath", "/sounds/error.wav");
+        QCOMPARE(farm.alertor.settings().errorSound, QStringLiteral("/sounds/error.wav"));
+        editAndAccept("authenticationPassword", "secret");
+        QTRY_COMPARE(farm.peer.connections(), 2);
+        QTRY_COMPARE(farm.peer.received().size(), 2);
+        QCOMPARE(decodeLogin(farm.peer.received()[1].payload)->password, QStringLiteral("secret"));
+        QCOMPARE(loadSettings(), farm.alertor.settings());
+        QSettings().clear();
+    }
+
+    void resultsOpenOutsideOrSayWhyNot()
+    {
+        QTemporaryDir folder;
+        const QString viewer = folder.filePath(QStringLiteral("viewer"));
+        const QString opened = viewer + QStringLiteral(".opened");
+        QFile script(viewer);
+        QVERIFY(script.open(QIODevice::WriteOnly));
+        script.write("#!/bin/sh\nprintf '%s|%s' \"$#\" \"$1\" > \"$0.new\" && mv \"$0.new\" \"$0.opened\"\n");
+        script.close();
+        script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        QSettings().setValue(QStringLiteral("imageViewer/imageViewer"), viewer);
+        Farm farm;
+        QSettings().clear();
+        QTRY_VERIFY(farm.up());
+        farm.show();
+        TClientLib::TJob job = farm::job();
+        job.attributeSetString("frames_mask", "/no where/$(touch x)/a.####.exr");
+        job.setFrameRanges({{5, 9, 1}});
+        farm.send(farm::notification(1, &job));
+        QTRY_COMPARE(farm.alertor.events().size(), 1);
+        farm.click(0);
+        farm.alertor.actOpenFrameExternally();
+        QTRY_VERIFY(QFile::exists(opened));
+        QFile arguments(opened);
+        QVERIFY(arguments.open(QIODevice::ReadOnly));
+        QCOMPARE(arguments.readAll(), "1|/no where/$(touch x)/a.0005.exr");
+
+        QString said;
+        QTimer::singleShot(0, &farm.alertor, [&said] {
+            QTRY_VERIFY(QApplication::activeModalWidget());
+            said = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())->text();
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+        });
+        farm.alertor.actOpenOutput();
+        QCOMPARE(said, QStringLiteral("Cannot open output folder /no where/$(touch x)"));
     }
 
     void theWindowIsManagedAndTakesKeys()
