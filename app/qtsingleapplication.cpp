@@ -17,7 +17,7 @@ constexpr unsigned long kRetry = 50; // milliseconds
 /// A folder that other users can neither read nor write; empty when there is none.
 QString ownFolder()
 {
-    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     if (!runtime.isEmpty())
         return runtime;
     const QString cache = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);

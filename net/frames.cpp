@@ -26,11 +26,12 @@ QByteArray deflated(QByteArrayView payload)
 {
     QByteArray wire;
     appendLittleEndian(wire, quint32(payload.size()));
+    const qsizetype sizeField = wire.size();
     uLongf size = compressBound(uLong(payload.size()));
-    wire.resize(qsizetype(sizeof(quint32) + size));
-    compress(reinterpret_cast<Bytef *>(wire.data() + sizeof(quint32)), &size,
+    wire.resize(sizeField + qsizetype(size));
+    compress(reinterpret_cast<Bytef *>(wire.data() + sizeField), &size,
              reinterpret_cast<const Bytef *>(payload.data()), uLong(payload.size()));
-    wire.resize(qsizetype(sizeof(quint32) + size));
+    wire.resize(sizeField + qsizetype(size));
     return wire;
 }
 

@@ -14,10 +14,10 @@
 
 namespace {
 
-constexpr qint64 kBufferLimit = 1024 * 1024;
+constexpr qint64 kBufferLimit = qint64(1024) * 1024;
 constexpr qint64 kReadSize = 65535;
 // What the toolkit may hold of our queue: its own write buffer knows no limit.
-constexpr qint64 kWriteAhead = 64 * 1024;
+constexpr qint64 kWriteAhead = qint64(64) * 1024;
 constexpr auto kHeartbeatCheck = std::chrono::seconds(5);
 
 qint32 heartbeatResolutionSetting()

@@ -85,9 +85,9 @@ void EventsView::restoreState()
     if (model()->rowCount() == 0)
         return;
     QItemSelection selection;
-    for (qsizetype i = 0; i < state.selected.size(); ++i) {
-        const int row = rowFrom(state.selected[i]);
-        if (idAt(model()->index(row, 0)) != state.selected[i])
+    for (const quint64 id : state.selected) {
+        const int row = rowFrom(id);
+        if (idAt(model()->index(row, 0)) != id)
             continue;
         if (!selection.isEmpty() && selection.last().bottom() == row - 1)
             selection.last() = QItemSelectionRange(selection.last().topLeft(), model()->index(row, 0));

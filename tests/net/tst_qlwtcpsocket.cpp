@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr qsizetype kLimit = 1024 * 1024;
+constexpr qsizetype kLimit = qsizetype(1024) * 1024;
 
 QByteArray compressedFrame(const QByteArray &plain, qint32 announced)
 {
@@ -210,7 +210,7 @@ private Q_SLOTS:
         }
         QCOMPARE(overflow.size(), 1);
         QVERIFY(accepted < 1000);
-        QVERIFY(link.socket.bytesToWrite() <= 64 * 1024);
+        QVERIFY(link.socket.bytesToWrite() <= 65'536);
         QVERIFY(link.up());
         QVERIFY(link.socket.sendMessage(700, payload, 0)); // the refusal emptied the buffer
     }

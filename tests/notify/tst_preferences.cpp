@@ -199,7 +199,7 @@ void TestPreferences::checkBoxesChangeWhatTheySay_data()
     };
     for (const auto &[text, member] : boxes)
         QTest::newRow(text) << Change(
-            [member](Settings &settings) { settings.*member = !(settings.*member); });
+            [flag = member](Settings &settings) { settings.*flag = !(settings.*flag); });
 }
 
 void TestPreferences::checkBoxesChangeWhatTheySay()
@@ -233,8 +233,9 @@ void TestPreferences::fieldsChangeWhatTheySay_data()
         {"Password", &Settings::authenticationPassword},
     };
     for (const auto &[name, member] : texts)
-        QTest::newRow(name) << u"/a b/c.wav"_s
-                            << Change([member](Settings &settings) { settings.*member = u"/a b/c.wav"_s; });
+        QTest::newRow(name) << u"/a b/c.wav"_s << Change([field = member](Settings &settings) {
+            settings.*field = u"/a b/c.wav"_s;
+        });
     QTest::newRow("Alertor port") << u"80"_s << Change([](Settings &s) { s.dispatcherPort = 80; });
     QTest::newRow("GPU viewer cache, bytes")
         << u"3"_s << Change([](Settings &s) { s.imageViewerMaxGPUCache = 3; });
