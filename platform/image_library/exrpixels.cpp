@@ -1,5 +1,7 @@
 #include "exrpixels.h"
 
+#include "exrchunks.h"
+
 #include <ImathBox.h>
 #include <ImfChannelList.h>
 #include <ImfFrameBuffer.h>
@@ -206,7 +208,11 @@ void readPart(ExrFile &file, int part, const std::vector<ExrTarget *> &targets,
               const std::function<void(double)> &report)
 {
     setPoolThreads(file.header(part).compression());
-    PartReader(file, part, targets).read(report);
+    checkLastChunk(file, part);
+    if (hasPlainLines(file, part, targets))
+        copyPlainLines(file, part, targets, report);
+    else
+        PartReader(file, part, targets).read(report);
 }
 
 } // namespace TImageLibrary

@@ -13,20 +13,12 @@ namespace TImageLibrary {
 
 namespace {
 
-/// Where one of several reads stands within the whole load.
-struct ReadProgress {
-    Progress &progress;
-    double done;
-    double share;
-
-    /// OpenImageIO's callback; true would stop it.
-    static bool report(void *self, float fraction)
-    {
-        auto &read = *static_cast<ReadProgress *>(self);
-        read.progress.report(read.done + read.share * double(fraction));
-        return false;
-    }
-};
+/// OpenImageIO's callback; true would stop it.
+bool reportProgress(void *progress, float fraction)
+{
+    static_cast<Progress *>(progress)->report(double(fraction));
+    return false;
+}
 
 [[noreturn]] void fail(const OIIO::ImageInput &input)
 {
@@ -75,6 +67,56 @@ void makeOpaque(CTImageChannel &channel)
         sample[3] = std::numeric_limits<std::uint16_t>::max();
 }
 
+/// Takes the alpha out of the colour again.
+void divideByAlpha(CTImageChannel &channel)
+{
+    auto *pixel = reinterpret_cast<std::uint8_t *>(channel.data());
+    const std::uint8_t *end = pixel + channel.format().byteSize();
+    for (; pixel != end; pixel += 4) {
+        const unsigned alpha = pixel[3];
+        for (int i = 0; i < 3 && alpha > 0; ++i)
+            pixel[i] = std::uint8_t(std::min(255U, (pixel[i] * 255U + alpha / 2) / alpha));
+    }
+}
+
+/// The plane's own type for a sample of the file; with `alone` for a plane of one sample a pixel.
+TPlaneFormat planeFormat(const OIIO::ImageSpec &spec, int samples, bool alone)
+{
+    TPlaneFormat format{spec.width, spec.height, 4, true, samples};
+    switch (spec.format.basetype) {
+    case OIIO::TypeDesc::UINT8:
+        format.depth = 1;
+        format.isFloat = false;
+        break;
+    case OIIO::TypeDesc::UINT16:
+        // GL shows a single one as no colour at all.
+        format.depth = alone ? 4 : 2;
+        format.isFloat = alone;
+        break;
+    case OIIO::TypeDesc::HALF:
+        format.depth = 2;
+        break;
+    default:
+        break;
+    }
+    return format;
+}
+
+/// One sample of each pixel of `whole` as a plane.
+CTImageChannel sampleOf(const CTImageChannel &whole, int index, const std::string &name)
+{
+    TPlaneFormat format = whole.format();
+    const std::size_t step = format.pixelBytes();
+    format.samples = 1;
+    CTImageChannel plane(name, format, CTImageChannel::Fill::None);
+    const std::size_t bytes = format.pixelBytes();
+    const auto *from = static_cast<const std::byte *>(whole.GetChannelData()) + std::size_t(index) * bytes;
+    std::byte *const end = plane.data() + format.byteSize();
+    for (std::byte *to = plane.data(); to != end; to += bytes, from += step)
+        std::memcpy(to, from, bytes);
+    return plane;
+}
+
 std::string channelName(const OIIO::ImageSpec &spec, int channel)
 {
     const std::string name(spec.channel_name(channel));
@@ -84,9 +126,10 @@ std::string channelName(const OIIO::ImageSpec &spec, int channel)
 } // namespace
 
 OiioFile::OiioFile(const SourceFile &file, const OiioFormat &format)
-    : m_input(OIIO::ImageInput::create(format.name))
+    : m_format(format)
+    , m_input(OIIO::ImageInput::create(format.name))
 {
-    if (!m_input || (format.isSound && !format.isSound(file)))
+    if (!m_input || (format.isWhole && !format.isWhole(file)))
         throw std::runtime_error("damaged file");
     OIIO::ImageSpec wish;
     // The display multiplies by alpha itself.
@@ -99,19 +142,25 @@ OiioFile::OiioFile(const SourceFile &file, const OiioFormat &format)
         throw std::runtime_error("picture larger than the file");
 }
 
+int OiioFile::orientation() const
+{
+    return m_spec.get_int_attribute("Orientation");
+}
+
 std::int32_t OiioFile::width() const
 {
-    return swapsSides(m_spec.get_int_attribute("Orientation")) ? m_spec.height : m_spec.width;
+    return swapsSides(orientation()) ? m_spec.height : m_spec.width;
 }
 
 std::int32_t OiioFile::height() const
 {
-    return swapsSides(m_spec.get_int_attribute("Orientation")) ? m_spec.width : m_spec.height;
+    return swapsSides(orientation()) ? m_spec.width : m_spec.height;
 }
 
 bool OiioFile::isPremultiplied() const
 {
-    return m_spec.alpha_channel >= 0 && m_spec.get_int_attribute("oiio:UnassociatedAlpha") == 0;
+    return m_spec.alpha_channel >= 0 && m_format.alpha == OiioAlpha::AsTold
+        && m_spec.get_int_attribute("oiio:UnassociatedAlpha") == 0;
 }
 
 bool OiioFile::isInterleaved() const
@@ -130,49 +179,51 @@ std::vector<std::string> OiioFile::layers() const
     return names;
 }
 
-TPlaneFormat OiioFile::planeFormat(int samples) const
+std::vector<CTImageChannel> OiioFile::read(const std::vector<std::string> &layers, Progress &progress)
 {
-    TPlaneFormat format{m_spec.width, m_spec.height, 4, true, samples == 2 ? 4 : samples};
-    switch (m_spec.format.basetype) {
-    case OIIO::TypeDesc::UINT8:
-        format.depth = 1;
-        format.isFloat = false;
-        break;
-    case OIIO::TypeDesc::UINT16:
-        // GL takes three of them for four, and a single one for no colour at all.
-        if (samples != 1) {
-            format.depth = 2;
-            format.isFloat = false;
-            format.samples = 4;
+    std::vector<CTImageChannel> channels;
+    if (isInterleaved()) {
+        channels.push_back(readInterleaved(progress));
+    } else {
+        // At once, for the decoder would decode everything for each channel.
+        CTImageChannel whole({}, planeFormat(m_spec, m_spec.nchannels, true), CTImageChannel::Fill::None);
+        readInto(whole, progress);
+        const std::vector<std::string> names = this->layers();
+        for (const std::string &layer : layers) {
+            const auto index = int(std::find(names.begin(), names.end(), layer) - names.begin());
+            channels.push_back(sampleOf(whole, index, layer));
         }
-        break;
-    case OIIO::TypeDesc::HALF:
-        format.depth = 2;
-        break;
-    default:
-        break;
     }
-    return format;
+    for (CTImageChannel &channel : channels)
+        channel = upright(std::move(channel), orientation());
+    return channels;
 }
 
-CTImageChannel OiioFile::read(const std::string &layer, Progress &progress, std::size_t part,
-                              std::size_t parts)
+CTImageChannel OiioFile::readInterleaved(Progress &progress)
 {
-    const std::vector<std::string> names = layers();
-    const auto index = int(std::find(names.begin(), names.end(), layer) - names.begin());
-    const int samples = isInterleaved() ? m_spec.nchannels : 1;
-    const TPlaneFormat format = planeFormat(samples);
-    CTImageChannel channel(layer, format, CTImageChannel::Fill::None);
-    ReadProgress reported{progress, double(part) / double(parts), 1.0 / double(parts)};
-    if (!m_input->read_image(0, 0, index, index + samples, planeType(format), channel.data(),
-                             OIIO::stride_t(format.pixelBytes()), OIIO::AutoStride, OIIO::AutoStride,
-                             &ReadProgress::report, &reported))
-        fail(*m_input);
-    if (samples == 2)
+    TPlaneFormat format = planeFormat(m_spec, m_spec.nchannels, m_spec.nchannels == 1);
+    const bool isShort = format.depth == 2 && !format.isFloat;
+    // GL takes three 16-bit integers for four, and has no pair of grey and alpha.
+    if (format.samples == 2 || (isShort && format.samples == 3))
+        format.samples = 4;
+    CTImageChannel channel({}, format, CTImageChannel::Fill::None);
+    readInto(channel, progress);
+    if (m_spec.nchannels == 2)
         spreadGrey(channel);
-    else if (samples != format.samples)
+    else if (m_spec.nchannels < format.samples)
         makeOpaque(channel);
-    return upright(std::move(channel), m_spec.get_int_attribute("Orientation"));
+    if (m_format.alpha == OiioAlpha::Multiplied && format.samples == 4 && format.depth == 1)
+        divideByAlpha(channel);
+    return channel;
+}
+
+void OiioFile::readInto(CTImageChannel &pixels, Progress &progress)
+{
+    const TPlaneFormat &format = pixels.format();
+    if (!m_input->read_image(0, 0, 0, m_spec.nchannels, planeType(format), pixels.data(),
+                             OIIO::stride_t(format.pixelBytes()), OIIO::AutoStride, OIIO::AutoStride,
+                             reportProgress, &progress))
+        fail(*m_input);
 }
 
 } // namespace TImageLibrary

@@ -25,13 +25,16 @@ public:
     bool isPremultiplied() const;
     /// The layers: one without a name when the pixels can be shown as they are.
     std::vector<std::string> layers() const;
-    /// Reads one of layers(). `part` of `parts` says which of the layers to load this one is.
-    CTImageChannel read(const std::string &layer, Progress &progress, std::size_t part, std::size_t parts);
+    /// Reads some of layers(), each into a channel of its name.
+    std::vector<CTImageChannel> read(const std::vector<std::string> &layers, Progress &progress);
 
 private:
     bool isInterleaved() const;
-    TPlaneFormat planeFormat(int samples) const;
+    int orientation() const;
+    void readInto(CTImageChannel &pixels, Progress &progress);
+    CTImageChannel readInterleaved(Progress &progress);
 
+    const OiioFormat &m_format;
     std::unique_ptr<OIIO::ImageInput> m_input;
     OIIO::ImageSpec m_spec;
 };

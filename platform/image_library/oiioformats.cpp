@@ -14,6 +14,9 @@ namespace {
 
 using namespace std::string_view_literals;
 
+/// No format's header is shorter.
+constexpr std::size_t kHeaderBytes = 16;
+
 /// "tiff:tif,tiff;png:png" as a map.
 const std::map<std::string, std::vector<std::string>> &extensionsByFormat()
 {
@@ -56,6 +59,8 @@ bool isTiff(const SourceFile &file)
 /// Many cameras write TIFF files whose first image is only a preview: there the name decides.
 bool isRaw(const SourceFile &file)
 {
+    if (file.head().size() < kHeaderBytes)
+        return false;
     return (isTiff(file) && hasExtensionOf(file, "raw")) || file.head().substr(4).starts_with("ftypcrx"sv)
         || startsWith(file, "FUJIFILMCCD-RAW"sv, "IIU\0"sv, "IIRO"sv, "IIRS"sv, "MMOR"sv, "\0MRM"sv, "FOVb"sv)
         || (startsWith(file, "II\x1a\0\0\0"sv) && file.head().substr(6).starts_with("HEAPCCDR"sv));
@@ -85,36 +90,67 @@ bool isTarga(const SourceFile &file)
     return makesSense && (file.tail().ends_with("TRUEVISION-XFILE.\0"sv) || hasExtensionOf(file, "targa"));
 }
 
+/// Walks from marker to marker to the end of the image. Its decoder paints what a cut file lacks in grey.
+bool isWholeJpeg(const SourceFile &file)
+{
+    const std::string bytes = file.contents();
+    std::size_t at = 2;
+    while ((at = bytes.find('\xff', at)) != std::string::npos && at + 1 < bytes.size()) {
+        const auto marker = static_cast<unsigned char>(bytes[at + 1]);
+        if (marker == 0xd9)
+            return true;
+        const bool isFill = marker == 0xff;
+        const bool standsAlone = marker <= 0x01 || (marker >= 0xd0 && marker <= 0xd8);
+        at += isFill ? 1 : 2;
+        if (isFill || standsAlone)
+            continue;
+        if (at + 1 >= bytes.size())
+            return false;
+        at += std::size_t(static_cast<unsigned char>(bytes[at])) << 8
+            | static_cast<unsigned char>(bytes[at + 1]);
+    }
+    return false;
+}
+
 const std::array<OiioFormat, 15> kFormats = {{
-    {"png", 2100, [](const SourceFile &file) { return startsWith(file, "\x89PNG\r\n\x1a\n"sv); }, nullptr},
-    {"jpeg", 1000, [](const SourceFile &file) { return startsWith(file, "\xff\xd8\xff"sv); }, nullptr},
-    {"raw", 64, isRaw, nullptr},
-    {"tiff", 8192, isTiff, nullptr},
-    {"dpx", 64, [](const SourceFile &file) { return startsWith(file, "SDPX"sv, "XPDS"sv); }, nullptr},
-    {"cineon", 4,
+    {"png", 2100, OiioAlpha::AsTold,
+     [](const SourceFile &file) { return startsWith(file, "\x89PNG\r\n\x1a\n"sv); }, nullptr},
+    {"jpeg", 1000, OiioAlpha::AsTold,
+     [](const SourceFile &file) { return startsWith(file, "\xff\xd8\xff"sv); }, isWholeJpeg},
+    {"raw", 64, OiioAlpha::AsTold, isRaw, nullptr},
+    {"tiff", 8192, OiioAlpha::AsTold, isTiff, nullptr},
+    {"dpx", 64, OiioAlpha::AsTold,
+     [](const SourceFile &file) { return startsWith(file, "SDPX"sv, "XPDS"sv); }, nullptr},
+    {"cineon", 4, OiioAlpha::AsTold,
      [](const SourceFile &file) { return startsWith(file, "\x80\x2a\x5f\xd7"sv, "\xd7\x5f\x2a\x80"sv); },
      nullptr},
-    {"hdr", 200, [](const SourceFile &file) { return startsWith(file, "#?"sv); }, nullptr},
-    {"psd", 1032, [](const SourceFile &file) { return startsWith(file, "8BPS"sv); }, nullptr},
-    {"gif", 11000, [](const SourceFile &file) { return startsWith(file, "GIF87a"sv, "GIF89a"sv); }, nullptr},
-    {"webp", 8192,
+    {"hdr", 200, OiioAlpha::AsTold, [](const SourceFile &file) { return startsWith(file, "#?"sv); }, nullptr},
+    {"psd", 1032, OiioAlpha::Straight, [](const SourceFile &file) { return startsWith(file, "8BPS"sv); },
+     nullptr},
+    {"gif", 11000, OiioAlpha::Straight,
+     [](const SourceFile &file) { return startsWith(file, "GIF87a"sv, "GIF89a"sv); }, nullptr},
+    {"webp", 8192, OiioAlpha::Multiplied,
      [](const SourceFile &file) {
-         return startsWith(file, "RIFF"sv) && file.head().substr(8).starts_with("WEBP"sv);
+         return startsWith(file, "RIFF"sv) && file.head().size() >= kHeaderBytes
+             && file.head().substr(8).starts_with("WEBP"sv);
      },
      nullptr},
-    {"bmp", 512, [](const SourceFile &file) { return startsWith(file, "BM"sv); }, nullptr},
-    {"sgi", 128, [](const SourceFile &file) { return startsWith(file, "\x01\xda"sv); }, nullptr},
-    {"pnm", 8, isPnm, nullptr},
-    {"rla", 128, isRla, nullptr},
-    {"targa", 128, isTarga, nullptr},
+    {"bmp", 512, OiioAlpha::Straight, [](const SourceFile &file) { return startsWith(file, "BM"sv); },
+     nullptr},
+    {"sgi", 128, OiioAlpha::AsTold, [](const SourceFile &file) { return startsWith(file, "\x01\xda"sv); },
+     nullptr},
+    {"pnm", 8, OiioAlpha::AsTold, isPnm, nullptr},
+    {"rla", 128, OiioAlpha::AsTold, isRla, nullptr},
+    {"targa", 128, OiioAlpha::AsTold, isTarga, nullptr},
 }};
 
 } // namespace
 
 const OiioFormat *findFormat(const SourceFile &file)
 {
-    const auto found = std::find_if(kFormats.begin(), kFormats.end(),
-                                    [&file](const OiioFormat &format) { return format.recognises(file); });
+    const auto found = std::find_if(kFormats.begin(), kFormats.end(), [&file](const OiioFormat &format) {
+        return extensionsByFormat().contains(format.name) && format.recognises(file);
+    });
     return found == kFormats.end() ? nullptr : &*found;
 }
 

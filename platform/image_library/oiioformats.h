@@ -8,14 +8,21 @@
 
 namespace TImageLibrary {
 
+/// How the colour stands to its alpha when OpenImageIO has been asked to leave it as it is.
+enum class OiioAlpha {
+    AsTold, ///< as the attributes say
+    Straight,
+    Multiplied, ///< straight in the file, but multiplied all the same
+};
+
 /// A format that OpenImageIO reads for this library.
 struct OiioFormat {
-    const char *name; ///< OpenImageIO's own name
+    const char *name; ///< OpenImageIO's own
     std::uint64_t expansion; ///< most bytes of pixels that a byte of the file makes
+    OiioAlpha alpha;
     bool (*recognises)(const SourceFile &file);
-    /// Whether the header announces something that opening the file should not be tried with, or the end is missing and
-    /// the decoder would make it up; null when the decoder sees to both.
-    bool (*isSound)(const SourceFile &file);
+    /// Whether the file has its end, for a decoder that would make up what is missing; else null.
+    bool (*isWhole)(const SourceFile &file);
 };
 
 /// The format whose bytes the file begins with, null when there is none.

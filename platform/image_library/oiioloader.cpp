@@ -56,9 +56,10 @@ CTImage OiioLoader::load(const SourceFile &file, const std::string &format,
         chosen.push_back(all.front());
 
     std::vector<CTImageLayer> layers;
-    for (const std::string &name : chosen) {
+    for (CTImageChannel &channel : picture.read(chosen, progress)) {
+        const std::string name = channel.GetChannelName();
         std::vector<CTImageChannel> channels;
-        channels.push_back(picture.read(name, progress, layers.size(), chosen.size()));
+        channels.push_back(std::move(channel));
         layers.emplace_back(name, std::move(channels));
     }
     return CTImage(picture.width(), picture.height(), picture.isPremultiplied(), std::move(layers));

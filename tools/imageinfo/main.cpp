@@ -20,6 +20,7 @@ constexpr int kUsageError = 2;
 void print(std::FILE *stream, const QByteArray &text)
 {
     std::fwrite(text.constData(), 1, std::size_t(text.size()), stream);
+    std::fflush(stream); // both streams may go to one file
 }
 
 bool printReports(const QStringList &paths, bool asJson)
