@@ -16,7 +16,9 @@ namespace {
 
 using Version = std::pair<int, int>;
 
-constexpr int kColourBits = 32;
+// More than a screen has would send every window of the program to a fallback visual, with a warning each; the viewer's
+// picture is drawn into a buffer of its own whatever is asked for here.
+constexpr int kColourBits = 8;
 
 /// A current context of a format, for as long as it stands.
 class ProbedContext {
@@ -63,12 +65,27 @@ QSurfaceFormat formatOf(int major, int minor, QSurfaceFormat::OpenGLContextProfi
     QSurfaceFormat format;
     format.setVersion(major, minor);
     format.setProfile(profile);
+    format.setSwapBehavior(QSurfaceFormat::DoubleBuffer);
+    format.setRedBufferSize(kColourBits);
+    format.setGreenBufferSize(kColourBits);
+    format.setBlueBufferSize(kColourBits);
+    format.setAlphaBufferSize(kColourBits);
     return format;
+}
+
+QSurfaceFormat core32()
+{
+    return formatOf(3, 2, QSurfaceFormat::CoreProfile);
+}
+
+QSurfaceFormat compatibility21()
+{
+    return formatOf(2, 1, QSurfaceFormat::CompatibilityProfile);
 }
 
 bool supports32()
 {
-    const ProbedContext context(formatOf(3, 2, QSurfaceFormat::CoreProfile));
+    const ProbedContext context(core32());
     return context.usable() && context.version() >= Version{3, 2};
 }
 
@@ -86,17 +103,19 @@ void logContext(const ProbedContext &context)
     }
 }
 
-void setDefaultFormat(QSurfaceFormat format)
+void setDefaultFormat(const QSurfaceFormat &format)
 {
-    format.setSwapBehavior(QSurfaceFormat::DoubleBuffer);
-    format.setRedBufferSize(kColourBits);
-    format.setGreenBufferSize(kColourBits);
-    format.setBlueBufferSize(kColourBits);
-    format.setAlphaBufferSize(kColourBits);
-    QSurfaceFormat::setDefaultFormat(format);
+    // The toolkit warns of any change once the shared context stands, also of one to the same.
+    if (QSurfaceFormat::defaultFormat() != format)
+        QSurfaceFormat::setDefaultFormat(format);
 }
 
 } // namespace
+
+void expectOpenGl(bool forceGl2)
+{
+    QSurfaceFormat::setDefaultFormat(forceGl2 ? compatibility21() : core32());
+}
 
 void probeOpenGl(TAppState &state)
 {
@@ -114,7 +133,7 @@ void probeOpenGl(TAppState &state)
     if (!state.gl21Supported)
         qCDebug(lcApp, "Supports 2.1 profile: No");
     if (state.gl32Supported) {
-        setDefaultFormat(formatOf(3, 2, QSurfaceFormat::CoreProfile));
+        setDefaultFormat(core32());
         return;
     }
     qCDebug(lcApp, "Supports 3.2 profile: No");
@@ -123,5 +142,5 @@ void probeOpenGl(TAppState &state)
         return;
     }
     qCDebug(lcApp, "Setting default openGL format to compatibility profile 2.1");
-    setDefaultFormat(formatOf(2, 1, QSurfaceFormat::CompatibilityProfile));
+    setDefaultFormat(compatibility21());
 }

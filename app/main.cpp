@@ -19,20 +19,22 @@ namespace {
 
 constexpr int kWakeUpTimeout = 5000; // milliseconds
 
-/// Ends the program in order when the system asks it to.
-void quitOnTermination(QCoreApplication &application)
+/// Ends the program in order when the system asks it to, which may be while it starts: the splash handles events, and
+/// there is no event loop yet to leave. `isEnding` is set then and outlives the application.
+void quitOnTermination(QCoreApplication &application, bool &isEnding)
 {
     const int descriptor = TDesktop::TerminationDescriptor();
     if (descriptor < 0)
         return;
     auto *notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, &application);
-    QObject::connect(notifier, &QSocketNotifier::activated, &application, [notifier] {
+    QObject::connect(notifier, &QSocketNotifier::activated, &application, [notifier, &isEnding] {
         notifier->setEnabled(false);
+        isEnding = true;
         QCoreApplication::exit(0);
     });
 }
 
-int run(QtSingleApplication &application, const CommandLine &line, Templates &templates)
+int run(QtSingleApplication &application, const CommandLine &line, Templates &templates, const bool &isEnding)
 {
     Alertor alertor;
     alertor.setCommandLineOverrides(line.overrides);
@@ -54,7 +56,7 @@ int run(QtSingleApplication &application, const CommandLine &line, Templates &te
     probeOpenGl(TAppState::instance());
     splash.finish(&alertor);
     alertor.minimize();
-    const int code = QCoreApplication::exec();
+    const int code = isEnding ? 0 : QCoreApplication::exec();
 
     templates.shutdown();
     TFramework::ShutdownLibrary();
@@ -78,15 +80,17 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(product::kApplicationName);
     // Textures outlive the windows they were made in: a viewer that goes full screen keeps its frames.
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    expectOpenGl(line.forceGl2);
+    bool isEnding = false;
     QtSingleApplication application(argc, argv);
     QApplication::setFont(QFont(QStringLiteral("Lato")));
     if (application.isRunning()) {
         application.sendMessage(QStringLiteral("wakeup"), kWakeUpTimeout);
         return 0;
     }
-    quitOnTermination(application);
+    quitOnTermination(application, isEnding);
     TFramework::InitializeLibrary(argv[0]);
     Templates templates;
     QApplication::setQuitOnLastWindowClosed(false);
-    return run(application, line, templates);
+    return run(application, line, templates, isEnding);
 }

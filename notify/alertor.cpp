@@ -29,6 +29,9 @@ constexpr auto kTick = std::chrono::milliseconds(400);
 constexpr quint32 kFlashTicks = 4;
 constexpr quint32 kConnectionTicks = 16;
 constexpr int kAcknowledgedColumnWidth = 30;
+// In the order of the columns; the last takes what is left.
+constexpr int kColumnWidths[EventsModel::ColumnCount] = {100, kAcknowledgedColumnWidth, 155, 260, 90, 170, 60,
+                                                         200};
 constexpr int kSingleFramePacket = 2; // packet type of the jobs that make one frame
 
 bool hasText(const NotifyEvent *event, const QString &key)
@@ -75,7 +78,8 @@ void Alertor::buildList()
     list->setModel(&m_model);
     list->installEventFilter(this);
     list->header()->setMinimumSectionSize(kAcknowledgedColumnWidth);
-    list->header()->resizeSection(EventsModel::Acknowledged, kAcknowledgedColumnWidth);
+    for (int column = 0; column < EventsModel::ColumnCount; ++column)
+        list->header()->resizeSection(column, kColumnWidths[column]);
     connect(list, &QWidget::customContextMenuRequested, this, &Alertor::popupMenu);
 }
 
