@@ -23,6 +23,8 @@ constexpr OptionRow kRows[] = {
     {"burst", "events", "Send so many events as fast as the client takes them, in place of a night."},
     {"compress", nullptr, "Compress the payloads."},
     {"fragment", "bytes", "Write so many bytes at a time."},
+    {"custom", "ID=TEXT",
+     "Send this message to the client's template of that ID after each log-in; may be repeated."},
     {"deny-login", nullptr, "Refuse every log-in."},
     {"drop-after", "seconds", "Hang up so long after each log-in."},
     {"garbage", nullptr, "Send broken frames between the events, a seventh as many."},
@@ -55,6 +57,19 @@ public:
                                QString::number(most, 'g', 10));
     }
 
+    void read(QList<CustomMessagePacket> &messages)
+    {
+        for (const QString &value : m_parser.values(QStringLiteral("custom"))) {
+            bool isNumber = false;
+            const qsizetype separator = value.indexOf(QLatin1Char('='));
+            const int id = value.left(separator).toInt(&isNumber);
+            if (separator > 0 && isNumber)
+                messages.append({id, value.mid(separator + 1).toUtf8()});
+            else if (m_error.isEmpty())
+                m_error = QStringLiteral("--custom takes a template's ID, '=' and a text");
+        }
+    }
+
 private:
     const QCommandLineParser &m_parser;
     QString m_error;
@@ -75,6 +90,7 @@ FarmOptions readOptions(ValueReader &values)
         values.read("drop-after", seconds, 0, 86400);
         options.dropAfter = std::chrono::milliseconds(qint64(seconds * 1000));
     }
+    values.read(options.customMessages);
     options.compress = values.isSet("compress");
     options.denyLogin = values.isSet("deny-login");
     options.garbage = values.isSet("garbage");

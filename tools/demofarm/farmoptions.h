@@ -2,6 +2,9 @@
 
 #include "scenario.h"
 
+#include <packets.h>
+
+#include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -13,6 +16,7 @@ struct FarmOptions {
     quint16 port = 9883; ///< 0: any free one
     ScenarioSettings night;
     int burst = 0; ///< events to send as fast as they are taken, in place of a night; 0: a night
+    QList<CustomMessagePacket> customMessages; ///< for the templates of each client that logs in
     bool compress = false;
     int fragmentSize = 0; ///< bytes written at a time; 0: whole frames
     bool denyLogin = false;

@@ -68,11 +68,18 @@ void FarmServer::greet(FarmLink *link)
         return;
     }
     link->admit();
+    for (const CustomMessagePacket &message : m_options.customMessages)
+        link->send(encodeFrame(frameType(), CMD_CUSTOM_MESSAGE, encodeCustomMessage(message)));
     if (m_options.dropAfter)
         QTimer::singleShot(*m_options.dropAfter, link, &FarmLink::hangUp);
     // What the night missed while nobody listened is not made up for.
     m_due = std::max(m_due, now());
     play();
+}
+
+FrameHeader::Type FarmServer::frameType() const
+{
+    return m_options.compress ? FrameHeader::Compressed : FrameHeader::Plain;
 }
 
 void FarmServer::removeClient(FarmLink *link)
@@ -135,8 +142,7 @@ bool FarmServer::takeEvent()
 void FarmServer::deliverEvent()
 {
     m_next->packet.eventTime = QDateTime::currentSecsSinceEpoch();
-    const FrameHeader::Type type = m_options.compress ? FrameHeader::Compressed : FrameHeader::Plain;
-    const QByteArray frame = encodeFrame(type, CMD_NOTIFICATION, encodeNotification(m_next->packet));
+    const QByteArray frame = encodeFrame(frameType(), CMD_NOTIFICATION, encodeNotification(m_next->packet));
     m_next.reset();
     ++m_sent;
     for (FarmLink *link : m_links) {
