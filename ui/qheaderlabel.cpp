@@ -7,7 +7,8 @@ QHeaderLabel::QHeaderLabel(const QString &text, QWidget *parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("skinnedDialogHeaderLabel"));
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    // It takes what the buttons beside it leave.
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     setText(text);
 }
 
@@ -15,18 +16,7 @@ void QHeaderLabel::setText(const QString &text)
 {
     m_text = text;
     setAccessibleName(text);
-    updateGeometry();
     update();
-}
-
-QSize QHeaderLabel::sizeHint() const
-{
-    return fontMetrics().size(Qt::TextSingleLine, m_text);
-}
-
-QSize QHeaderLabel::minimumSizeHint() const
-{
-    return {0, fontMetrics().height()};
 }
 
 void QHeaderLabel::paintEvent(QPaintEvent *)
@@ -36,10 +26,21 @@ void QHeaderLabel::paintEvent(QPaintEvent *)
     option.initFrom(this);
     painter.drawPrimitive(QStyle::PE_Widget, option);
 
-    const QString shown = fontMetrics().elidedText(m_text, Qt::ElideRight, width());
+    painter.setFont(fittedFont());
+    const QString shown = painter.fontMetrics().elidedText(m_text, Qt::ElideRight, width());
     const QString hidden = shown == m_text ? QString() : m_text;
     if (toolTip() != hidden)
         setToolTip(hidden);
     painter.drawItemText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, palette(),
                          isEnabled(), shown, foregroundRole());
+}
+
+// The header's height is fixed, the desktop's font is not.
+QFont QHeaderLabel::fittedFont() const
+{
+    QFont fitted = font();
+    const int line = fontMetrics().height();
+    if (line > height())
+        fitted.setPixelSize(qMax(1, fontInfo().pixelSize() * height() / line));
+    return fitted;
 }

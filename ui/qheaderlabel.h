@@ -2,7 +2,8 @@
 
 #include <QtWidgets/QWidget>
 
-/// The title of a skinned dialog: one line, elided at the right; the tooltip shows the whole of an elided title.
+/// The title of a skinned dialog: one line no higher than the header allows, elided at the right; the tooltip shows
+/// the whole of an elided title.
 class QHeaderLabel final : public QWidget {
     Q_OBJECT
 
@@ -12,12 +13,11 @@ public:
     QString text() const { return m_text; }
     void setText(const QString &text);
 
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QFont fittedFont() const;
+
     QString m_text;
 };

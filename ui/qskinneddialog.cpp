@@ -20,7 +20,7 @@
 namespace {
 
 constexpr int kHeaderMargin = 3;
-constexpr int kHeaderButtonSize = 14;
+constexpr int kHeaderButtonHeight = 14;
 constexpr int kHeaderImageSize = 11;
 constexpr auto kRectKey = "rect";
 
@@ -131,7 +131,7 @@ void QSkinnedDialog::buildHeader()
     row->setSpacing(0);
     row->setContentsMargins(kHeaderMargin, kHeaderMargin, kHeaderMargin, kHeaderMargin);
     m_headerLabel = new QHeaderLabel(m_content->windowTitle(), m_header);
-    row->addWidget(m_headerLabel);
+    row->addWidget(m_headerLabel, 1);
 
     m_refreshButton = addHeaderButton(QStringLiteral("refresh.png"), tr("Refresh"));
     m_setSizeButton = addHeaderButton(QStringLiteral("setsize.png"), tr("Set default size and position"));
@@ -160,7 +160,7 @@ QPushButton *QSkinnedDialog::addHeaderButton(const QString &image, const QString
     button->setFocusPolicy(Qt::NoFocus);
     button->setAutoDefault(false);
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    button->setFixedSize(kHeaderButtonSize, kHeaderButtonSize);
+    button->setMaximumHeight(kHeaderButtonHeight);
     m_header->layout()->addWidget(button);
     return button;
 }

@@ -9,6 +9,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QVBoxLayout>
 
@@ -26,6 +27,8 @@ namespace {
 
 constexpr int kMargin = 14;
 constexpr int kSpacing = 12;
+// In characters.
+constexpr int kComfortableLine = 60;
 // Of the screen's work area, so that the buttons stay in sight under any text.
 constexpr double kLargestTextShare = 0.6;
 
@@ -50,23 +53,36 @@ constexpr std::array<Choice, 5> kChoices{{
 constexpr Qt::WindowFlags kBoxFlags =
     Qt::Dialog | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint | Qt::WindowStaysOnTopHint;
 
+// Room for the whole text, in lines of a comfortable length.
+QSize sizeOf(QLabel &text)
+{
+    // The style sheet's font decides it.
+    text.ensurePolished();
+    const QFontMetrics metrics = text.fontMetrics();
+    const int longest = metrics.size(0, text.text()).width();
+    const int comfortable = qMin(longest, metrics.averageCharWidth() * kComfortableLine);
+    // A little more, for lines are broken at fractions of a pixel.
+    const int width = qMax(comfortable, text.minimumSizeHint().width()) + metrics.averageCharWidth();
+    return {width, text.heightForWidth(width)};
+}
+
 // Shows the whole text where the screen has room for it, and scrolls it where not.
 QScrollArea *scrolled(QLabel *text, QWidget *parent)
 {
     auto *area = new QScrollArea(parent);
     area->setObjectName(QStringLiteral("skinnedMessageBoxTextArea"));
     area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
     area->setWidget(text);
     area->viewport()->setAutoFillBackground(false);
     text->setAutoFillBackground(false);
 
-    // The style sheet's font decides the size.
-    text->ensurePolished();
-    const QSize wanted = text->sizeHint();
+    const QSize wanted = sizeOf(*text);
     const QSize largest = (QSizeF(parent->screen()->availableSize()) * kLargestTextShare).toSize();
     const QSize taken = wanted.boundedTo(largest);
-    area->setMinimumSize(taken);
+    const QSize bars(area->verticalScrollBar()->sizeHint().width(),
+                     area->horizontalScrollBar()->sizeHint().height());
+    text->resize(wanted);
+    area->setFixedSize(taken == wanted ? wanted : taken + bars);
     // A text in full view needs no keys to scroll it.
     area->setFocusPolicy(taken == wanted ? Qt::NoFocus : Qt::StrongFocus);
     return area;
@@ -107,7 +123,7 @@ void QSkinnedMessageBox::fill(const Message &message)
     auto *row = new QHBoxLayout;
     row->setSpacing(kSpacing);
     row->addWidget(m_icon, 0, Qt::AlignTop);
-    row->addWidget(scrolled(m_text, content()), 1);
+    row->addWidget(scrolled(m_text, content()), 1, Qt::AlignLeft | Qt::AlignVCenter);
     column->addLayout(row, 1);
     addButtons(message.buttons);
 }
