@@ -1,0 +1,168 @@
+#include <QtCore/QFile>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QtEndian>
+#include <QtGui/QImageReader>
+#include <QtGui/QPainter>
+#include <QtGui/QRawFont>
+#include <QtSvg/QSvgRenderer>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDialog>
+
+#include <array>
+#include <cstdlib>
+
+namespace {
+
+constexpr std::array kIcons = {"mainIcon",      "connectingIcon", "unconnectedIcon", "service", "itemStart",
+                               "itemCompleted", "itemWarning",    "itemError",       "check"};
+
+QString text(const QString &resource)
+{
+    QFile file(resource);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// The icon without its colours, as a dark tray of 16 pixels shows it; null when the resource is no SVG.
+QImage drawnGrey(const char *name)
+{
+    QSvgRenderer renderer(QStringLiteral(":/icons/") + QLatin1String(name));
+    if (!renderer.isValid())
+        return {};
+    QImage image(16, 16, QImage::Format_RGB32);
+    image.fill(QColor(0x2b, 0x2b, 0x2b));
+    QPainter painter(&image);
+    renderer.render(&painter);
+    return image.convertToFormat(QImage::Format_Grayscale8);
+}
+
+/// Pixels that are plainly darker or lighter in one of two grey pictures.
+int difference(const QImage &first, const QImage &second)
+{
+    int count = 0;
+    for (int y = 0; y < first.height(); ++y) {
+        for (int x = 0; x < first.width(); ++x)
+            count += std::abs(qGray(first.pixel(x, y)) - qGray(second.pixel(x, y))) > 40;
+    }
+    return count;
+}
+
+/// The weight in the font's own table: the rasterizer knows no more than regular and bold.
+int weightOf(const QRawFont &font)
+{
+    const QByteArray table = font.fontTable("OS/2");
+    return table.size() < 6 ? -1 : qFromBigEndian<quint16>(table.constData() + 4);
+}
+
+} // namespace
+
+class TestResources : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void iconsDifferInShape();
+    void pictures_data();
+    void pictures();
+    void fonts_data();
+    void fonts();
+    void styleSheetsAreRead();
+    void styleSheetPicturesExist();
+};
+
+/// Who cannot tell the colours apart still tells the icons apart in the smallest tray.
+void TestResources::iconsDifferInShape()
+{
+    for (const char *first : kIcons) {
+        const QImage image = drawnGrey(first);
+        QVERIFY2(!image.isNull(), first);
+        for (const char *second : kIcons) {
+            const int pixels = difference(image, drawnGrey(second));
+            QVERIFY2(first == second || pixels >= 32,
+                     qPrintable(QStringLiteral("%1 and %2 differ in %3 pixels")
+                                    .arg(QLatin1String(first), QLatin1String(second))
+                                    .arg(pixels)));
+        }
+    }
+}
+
+void TestResources::pictures_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QSize>("size");
+    const auto add = [](const QString &folder, std::initializer_list<const char *> names, QSize size) {
+        for (const char *name : names)
+            QTest::addRow("%s", name) << folder + QLatin1String(name) << size;
+    };
+    add(QStringLiteral(":/Misc/Resources/"), {"splash"}, {596, 320});
+    add(QStringLiteral(":/Wins/Resources/wins/"), {"close", "setsize", "refresh"}, {11, 11});
+    add(QStringLiteral(":/Activity/Resources/"),
+        {"missingfile", "brokenfile", "nofileinprogress", "processing"}, {160, 120});
+    add(QStringLiteral(":/player/"), {"first", "previous", "play", "stop", "next", "last"}, {16, 16});
+}
+
+void TestResources::pictures()
+{
+    QFETCH(QString, path);
+    QFETCH(QSize, size);
+    QImageReader plain(path + QStringLiteral(".png"));
+    QImageReader dense(path + QStringLiteral("@2x.png"));
+    QCOMPARE(plain.format(), QByteArray("png"));
+    QCOMPARE(plain.read().size(), size);
+    QCOMPARE(dense.read().size(), size * 2);
+}
+
+void TestResources::fonts_data()
+{
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<int>("weight");
+    const std::pair<const char *, int> faces[] = {
+        {"Hai", 100}, {"Lig", 300}, {"Reg", 400}, {"Bol", 700}, {"Bla", 900}};
+    for (const auto &[name, weight] : faces)
+        QTest::addRow("%s", name) << QString::fromLatin1(name) << weight;
+}
+
+void TestResources::fonts()
+{
+    QFETCH(QString, suffix);
+    QFETCH(int, weight);
+    const QRawFont upright(QStringLiteral(":/Fonts/Resources/fonts/Lato-%1.ttf").arg(suffix), 12);
+    const QRawFont italic(QStringLiteral(":/Fonts/Resources/fonts/Lato-%1Ita.ttf").arg(suffix), 12);
+    QVERIFY(upright.familyName().startsWith(QStringLiteral("Lato")));
+    QCOMPARE(weightOf(upright), weight);
+    QCOMPARE(weightOf(italic), weight);
+    QCOMPARE(upright.style(), QFont::StyleNormal);
+    QVERIFY(italic.style() != QFont::StyleNormal);
+}
+
+/// A sheet with one slip of the pen is dropped whole, with no more than a warning.
+void TestResources::styleSheetsAreRead()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+    qApp->setStyleSheet(text(QStringLiteral(":/Styles/tarrow.qss"))
+                        + text(QStringLiteral(":/Styles/shared.qss")));
+    QDialog dialog;
+    QWidget header(&dialog);
+    header.setObjectName(QStringLiteral("skinnedDialogHeaderLabel"));
+    dialog.ensurePolished();
+    header.ensurePolished();
+    QCOMPARE(dialog.palette().color(QPalette::Window), QColor(0x2b, 0x2b, 0x2b));
+    QCOMPARE(header.palette().color(QPalette::Window), QColor(0x3a, 0x3a, 0x3a));
+    qApp->setStyleSheet({});
+}
+
+void TestResources::styleSheetPicturesExist()
+{
+    const QRegularExpression url(QStringLiteral("url\\(([^)]*)\\)"));
+    int count = 0;
+    for (const char *name : {":/Styles/tarrow.qss", ":/Styles/shared.qss"}) {
+        auto matches = url.globalMatch(text(QLatin1String(name)));
+        for (; matches.hasNext(); ++count) {
+            const QString path = matches.next().captured(1);
+            QVERIFY2(QSvgRenderer(path).isValid(), qPrintable(path));
+        }
+    }
+    QVERIFY(count > 0);
+}
+
+QTEST_MAIN(TestResources)
+#include "tst_resources.moc"
