@@ -43,7 +43,7 @@ NotificationPacket packet()
     };
     NotificationPacket notification;
     notification.message = QStringLiteral("Chunk 12 of job Shot010_comp_v003 completed on node rack3-17");
-    notification.eventType = NotifyEvent::ChunkCompleted;
+    notification.eventType = EventType::ChunkCompleted;
     notification.eventTime = 1'700'000'000;
     notification.user = QStringLiteral("ann");
     notification.job = encoded(job.Marshall());

@@ -34,6 +34,18 @@ QByteArray encodeLogin(const LoginPacket &login);
 /// Null with fewer than five fields.
 std::optional<LoginPacket> decodeLogin(QByteArrayView payload);
 
+/// What an event tells of, as the farm numbers it; other values may come from newer farms.
+enum EventType : qint64 {
+    JobCompleted = 1,
+    ChunkCompleted = 2,
+    JobStarted = 4,
+    ChunkStarted = 8,
+    ServiceActivity = 512,
+    Alert = 1024,
+    ServiceActivityDetail = 2048,
+    AlertDetail = 4096,
+};
+
 /// One event of the farm (601).
 struct NotificationPacket {
     QString message;

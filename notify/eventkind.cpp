@@ -2,6 +2,8 @@
 
 #include "notifyevent.h"
 
+#include <packets.h>
+
 #include <QtCore/QCoreApplication>
 
 namespace {
@@ -30,9 +32,9 @@ Outcome outcomeOf(const TClientLib::TChunk &chunk)
 /// Outcome of the record that a completion came with; None for other events.
 Outcome outcomeOf(const NotifyEvent &event)
 {
-    if (event.eventType == NotifyEvent::JobCompleted && event.job)
+    if (event.eventType == EventType::JobCompleted && event.job)
         return outcomeOf(*event.job);
-    if (event.eventType == NotifyEvent::ChunkCompleted && event.chunk)
+    if (event.eventType == EventType::ChunkCompleted && event.chunk)
         return outcomeOf(*event.chunk);
     return Outcome::None;
 }
@@ -78,7 +80,7 @@ EventLook completionLook(Outcome outcome)
 EventHandling handlingOf(const NotifyEvent &event)
 {
     const EventHandling service{&Settings::filterServiceActivities, &Settings::serviceSound};
-    if (event.eventType == NotifyEvent::ChunkCompleted && event.chunk)
+    if (event.eventType == EventType::ChunkCompleted && event.chunk)
         return completionHandling(outcomeOf(*event.chunk),
                                   {&Settings::filterChunkCompletedWithSuccess,
                                    &Settings::filterChunkCompletedWithWarnings,
@@ -86,7 +88,7 @@ EventHandling handlingOf(const NotifyEvent &event)
     if (!event.job)
         return service;
     switch (event.eventType) {
-    case NotifyEvent::JobCompleted: {
+    case EventType::JobCompleted: {
         const Outcome outcome = outcomeOf(*event.job);
         EventHandling handling = completionHandling(outcome,
                                                     {&Settings::filterJobCompletedWithSuccess,
@@ -95,9 +97,9 @@ EventHandling handlingOf(const NotifyEvent &event)
         handling.jobCompletion = outcome != Outcome::None;
         return handling;
     }
-    case NotifyEvent::JobStarted:
+    case EventType::JobStarted:
         return {&Settings::filterJobStart, &Settings::startSound};
-    case NotifyEvent::ChunkStarted:
+    case EventType::ChunkStarted:
         return {&Settings::filterChunkStart, &Settings::startSound};
     default:
         return service;
@@ -107,17 +109,17 @@ EventHandling handlingOf(const NotifyEvent &event)
 EventLook lookOf(const NotifyEvent &event)
 {
     switch (event.eventType) {
-    case NotifyEvent::JobCompleted:
-    case NotifyEvent::ChunkCompleted:
+    case EventType::JobCompleted:
+    case EventType::ChunkCompleted:
         return event.job ? completionLook(outcomeOf(event)) : EventLook{};
-    case NotifyEvent::JobStarted:
-    case NotifyEvent::ChunkStarted:
+    case EventType::JobStarted:
+    case EventType::ChunkStarted:
         return {QCoreApplication::translate("EventKind", "Start"), QStringLiteral(":/icons/itemStart")};
-    case NotifyEvent::ServiceActivity:
-    case NotifyEvent::ServiceActivity2:
+    case EventType::ServiceActivity:
+    case EventType::ServiceActivityDetail:
         return {QCoreApplication::translate("EventKind", "Service"), QStringLiteral(":/icons/service")};
-    case NotifyEvent::Alert:
-    case NotifyEvent::Alert2:
+    case EventType::Alert:
+    case EventType::AlertDetail:
         return {QCoreApplication::translate("EventKind", "Alert"), QStringLiteral(":/icons/service")};
     default:
         return {};
@@ -127,10 +129,10 @@ EventLook lookOf(const NotifyEvent &event)
 PendingLevel pendingLevelOf(const NotifyEvent &event)
 {
     switch (event.eventType) {
-    case NotifyEvent::ServiceActivity:
-    case NotifyEvent::ServiceActivity2:
-    case NotifyEvent::Alert:
-    case NotifyEvent::Alert2:
+    case EventType::ServiceActivity:
+    case EventType::ServiceActivityDetail:
+    case EventType::Alert:
+    case EventType::AlertDetail:
         return OtherPending;
     default:
         break;

@@ -15,23 +15,11 @@ class NotifyEvent final : public QObject {
     Q_OBJECT
 
 public:
-    /// What the farm reports; other values may come from newer farms.
-    enum Type : qint64 {
-        JobCompleted = 1,
-        ChunkCompleted = 2,
-        JobStarted = 4,
-        ChunkStarted = 8,
-        ServiceActivity = 512,
-        Alert = 1024,
-        ServiceActivity2 = 2048,
-        Alert2 = 4096,
-    };
-
     /// Empty when the event has no such value.
     QString text(const QString &key) const { return properties.value(key); }
     void setText(const QString &key, const QString &value) { properties.insert(key, value); }
 
-    qint64 eventType = 0;
+    qint64 eventType = 0; ///< an EventType of the link
     qint64 eventTime = 0; ///< Unix seconds, as the Dispatcher sent it
     quint64 eventId = 0; ///< unique within the run and rising
     QMap<QString, QString> properties;

@@ -4,18 +4,6 @@
 
 #include <chrono>
 
-/// What an event is about, as the farm numbers it.
-enum FarmEventType : int {
-    JobCompleted = 1,
-    ChunkCompleted = 2,
-    JobStarted = 4,
-    ChunkStarted = 8,
-    ServiceActivity = 512,
-    Alert = 1024,
-    ServiceActivityDetail = 2048,
-    AlertDetail = 4096,
-};
-
 /// How a chunk or a job came out; a job is as bad as its worst chunk.
 enum class Outcome { Success, Warnings, Errors };
 

@@ -14,7 +14,7 @@ constexpr int kErrorPercent = 6;
 constexpr int kWarningPercent = 10;
 
 struct ServiceText {
-    FarmEventType type;
+    EventType type;
     const char *text;
 };
 
@@ -51,12 +51,12 @@ QByteArray base64(const std::string &record)
     return QByteArray::fromStdString(record).toBase64();
 }
 
-NotificationPacket jobPacket(FarmEventType type, const QString &message, const FarmJob &job)
+NotificationPacket jobPacket(EventType type, const QString &message, const FarmJob &job)
 {
     return {message, type, 0, job.owner(), base64(job.record().Marshall()), {}};
 }
 
-NotificationPacket chunkPacket(FarmEventType type, const QString &message, const FarmJob &job,
+NotificationPacket chunkPacket(EventType type, const QString &message, const FarmJob &job,
                                const TClientLib::TChunk &chunk)
 {
     NotificationPacket packet = jobPacket(type, message, job);
