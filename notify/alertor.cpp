@@ -8,13 +8,13 @@
 #include "resultopener.h"
 #include "ui_alertor.h"
 
+#include <managedwindow.h>
 #include <packets.h>
 #include <product.h>
 
 #include <QtCore/QPointer>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QKeyEvent>
-#include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QMessageBox>
@@ -485,9 +485,7 @@ void Alertor::showEvent(QShowEvent *event)
 
 bool Alertor::event(QEvent *event)
 {
-    // On X11 the hint would take the window away from the window manager, and with it its frame and the keyboard.
-    if (event->type() == QEvent::WinIdChange && windowHandle())
-        windowHandle()->setFlag(Qt::BypassWindowManagerHint, false);
+    keepManaged(this, event);
     return QDialog::event(event);
 }
 

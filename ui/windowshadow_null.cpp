@@ -1,3 +1,0 @@
-#include "windowshadow.h"
-
-void addDropShadow(QWidget *) { }
