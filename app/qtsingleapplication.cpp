@@ -6,6 +6,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QThread>
+#include <QtCore/QTimer>
 #include <QtNetwork/QLocalSocket>
 
 namespace {
@@ -13,6 +14,7 @@ namespace {
 constexpr qint64 kLongestMessage = 4096; // bytes
 constexpr int kAtOnce = 16; // connections
 constexpr unsigned long kRetry = 50; // milliseconds
+constexpr int kPatience = 5000; // milliseconds
 
 /// A folder that other users can neither read nor write; empty when there is none.
 QString ownFolder()
@@ -63,6 +65,7 @@ void QtSingleApplication::takeMessage()
     while (QLocalSocket *sender = m_server.nextPendingConnection()) {
         sender->setReadBufferSize(kLongestMessage);
         connect(sender, &QLocalSocket::disconnected, sender, &QObject::deleteLater);
+        QTimer::singleShot(kPatience, sender, &QLocalSocket::abort);
         connect(sender, &QLocalSocket::readyRead, this, [this, sender] {
             // A message ends with a zero byte; what grows without one is none.
             const QByteArray begun = sender->peek(kLongestMessage);

@@ -20,8 +20,8 @@ enum class Opened { Yes, No, NotHere };
 /// such call, the toolkit's is to be used.
 Opened OpenPath(const std::string &path);
 
-/// Makes a descriptor readable when the system asks the program to end (SIGTERM, SIGINT, SIGHUP). -1 where it asks in
-/// other ways. Call it once.
+/// Makes a descriptor readable when the system asks the program to end (SIGTERM, SIGINT, SIGHUP); the same signal
+/// once more ends the program at once. -1 where the system asks in other ways. Call it once.
 int TerminationDescriptor();
 
 /// Gives standard streams that were closed at the start something to stand on, so that no file or socket takes their

@@ -40,7 +40,8 @@ int TDesktop::TerminationDescriptor()
     }
     struct sigaction action { };
     action.sa_handler = &noteSignal;
-    action.sa_flags = SA_RESTART;
+    // A second request ends a program that does not get round to the first.
+    action.sa_flags = SA_RESTART | SA_RESETHAND;
     for (const int number : {SIGTERM, SIGINT, SIGHUP})
         sigaction(number, &action, nullptr);
     return g_signalPipe[0];
