@@ -54,7 +54,8 @@ int run(QtSingleApplication &application, const CommandLine &line, Templates &te
     templates.loadTemplates([&splash](const QString &what) { splash.say(what); });
     TAppState::instance().forceGl2 = line.forceGl2;
     probeOpenGl(TAppState::instance());
-    splash.finish(&alertor);
+    // Not of the window: it stays hidden, and the splash would wait a second for it to show.
+    splash.finish(nullptr);
     alertor.minimize();
     const int code = isEnding ? 0 : QCoreApplication::exec();
 
