@@ -83,14 +83,18 @@ class Program:
         self._reader.join(PATIENCE)
         return code
 
+    @property
+    def pid(self):
+        return self._process.pid
+
     def kill(self):
         self._process.kill()
         self._process.wait()
 
-    def quit(self):
+    def quit(self, request=signal.SIGTERM):
         """Asks the program to end, which it is to do in order."""
         check(self.is_running(), f"{self.name} ended by itself")
-        self._process.send_signal(signal.SIGTERM)
+        self._process.send_signal(request)
         equal(self.exit_code(), 0, f"exit code of {self.name}")
 
 

@@ -1,0 +1,118 @@
+"""What the start prints and finds, and that the client ends in order whatever it is doing."""
+
+import os
+import re
+import signal
+import socket
+import subprocess
+
+import farmtest
+from desktop import alertor, click_icon, client_windows, starting_alertor, write_template, xdotool
+from farmtest import PATIENCE, check, equal, farm, run, wait_for, windows, write_settings
+
+KEPT_OPEN = []
+SETTINGS = {"network": {"dispatcherPort": 1}, "behaviours": {"showBubble": "false"}}
+
+
+def texts_need_no_display():
+    environment = {key: value for key, value in os.environ.items() if key not in ("DISPLAY", "QT_QPA_PLATFORM")}
+    for option, wanted in (("--version", "tarrow-alertor 9.0.14 (build 11480)\n"), ("--help", "Usage: tarrow-alertor")):
+        result = subprocess.run(
+            [farmtest.CLIENT, option], env=environment, capture_output=True, timeout=PATIENCE, text=True, check=False
+        )
+        check(result.stdout.startswith(wanted), f"{option} prints {result.stdout!r}")
+        equal((result.returncode, result.stderr), (0, ""), f"exit code and errors of {option}")
+
+
+def opengl_is_probed():
+    old = {"MESA_GL_VERSION_OVERRIDE": "2.1", "MESA_GLSL_VERSION_OVERRIDE": "120"}
+    compatibility = ["Supports 3.2 profile: No", "Setting default openGL format to compatibility profile 2.1"]
+    for options, environment, decisions in (
+        ((), {}, []),
+        (("-forcegl2",), {}, compatibility),
+        ((), old, compatibility),
+        ((), {"QT_XCB_GL_INTEGRATION": "none"}, ["OpenGL not supported. Image viewer disabled."]),
+    ):
+        program = alertor(*options, **environment)
+        program.quit()
+        ours = [line for line in program.lines if line.startswith("tarrow.app: ")]
+        # Of an old driver and of none at all the toolkit complains itself.
+        complaints = r"^QXcbIntegration: Cannot create platform OpenGL|global shared context"
+        others = [line for line in program.lines if line not in ours and not re.search(complaints, line)]
+        equal(others, [], f"further lines with {options} {environment}")
+        lines = [line.removeprefix("tarrow.app: ") for line in ours]
+        found = [line for line in lines if line.startswith("OpenGL ") and "not supported" not in line]
+        equal([line for line in lines if line not in found], decisions, f"lines with {options} {environment}")
+        wanted = ["default profile", "default profile type", "versions", "vendor", "renderer"]
+        names = [line.removeprefix("OpenGL ").split(":")[0] for line in found]
+        equal(names, [] if "QT_XCB_GL_INTEGRATION" in environment else wanted, f"found with {options} {environment}")
+
+
+def during_the_splash():
+    write_template("slow.py", "import time\nprint('loading', flush=True)\ntime.sleep(1)\n")
+    program = starting_alertor()
+    program.expect("^loading$")
+    return program
+
+
+def asks_for_a_connection(pid):
+    """True while a connection of the process is asked for and not answered."""
+    held = {os.readlink(entry.path) for entry in os.scandir(f"/proc/{pid}/fd") if entry.is_symlink()}
+    with open("/proc/net/tcp", encoding="ascii") as table:
+        rows = [line.split() for line in table]
+    return any(row[3] == "02" and f"socket:[{row[9]}]" in held for row in rows)
+
+
+def while_connecting():
+    write_template("slow.py", "")
+    # Of a full queue the system drops every further request: the client keeps asking.
+    server = socket.create_server(("127.0.0.1", 0), backlog=0)
+    fillers = [socket.socket() for _ in range(4)]
+    for filler in fillers:
+        filler.setblocking(False)
+        filler.connect_ex(server.getsockname())
+    KEPT_OPEN.extend([server, *fillers])
+    program = alertor("-port", str(server.getsockname()[1]))
+    wait_for(lambda: asks_for_a_connection(program.pid), "the client to connect")
+    return program
+
+
+def with_a_box_open():
+    night = farm("--deny-login")
+    program = alertor("-port", str(night.port))
+    wait_for(lambda: windows("Tarrow 9.0.14"), "the box that tells of the refusal")
+    night.quit()
+    return program
+
+
+def with_a_dialog_open():
+    program = with_the_menu_open()
+    xdotool("key", "c")
+    wait_for(lambda: windows("Alertor Preferences"), "the preferences")
+    return program
+
+
+def with_the_menu_open():
+    program = alertor()
+    wait_for(lambda: len(client_windows()) == 1, "the icon")
+    click_icon(3)
+    wait_for(lambda: len(client_windows()) == 2, "the tray menu")
+    return program
+
+
+def test():
+    texts_need_no_display()
+    opengl_is_probed()
+    write_settings(SETTINGS)
+    folder = os.path.join(os.environ["XDG_CONFIG_HOME"], "Loomwright")
+    with open(os.path.join(folder, "Tarrow\\9\\Alertor.conf"), "rb") as file:
+        settings = file.read()
+    for moment in during_the_splash, while_connecting, with_a_box_open, with_a_dialog_open, with_the_menu_open:
+        for request in signal.SIGTERM, signal.SIGINT:
+            moment().quit(request)
+            with open(os.path.join(folder, "Tarrow\\9\\Alertor.conf"), "rb") as file:
+                equal(file.read(), settings, f"settings after {request.name} {moment.__name__}")
+            equal(os.listdir(folder), ["Tarrow\\9\\Alertor.conf"], "what is in the settings folder")
+
+
+run(test)

@@ -1,0 +1,68 @@
+"""The window and the icon on a desktop without a tray, with one that comes late, and with one that dies."""
+
+import subprocess
+
+from desktop import WINDOW, alertor, click_icon, client_windows, icon_position, second_start, tray, xdotool
+from farmtest import check, equal, run, wait_for, windows, write_settings
+
+
+def state_of_window():
+    """What the window manager knows of the window's states, in one line."""
+    window = xdotool("search", "--name", f"^{WINDOW}$")
+    result = subprocess.run(
+        ["xprop", "-id", window[-1], "WM_STATE", "_NET_WM_STATE"], capture_output=True, text=True, check=False
+    )
+    return result.stdout
+
+
+def close_window():
+    xdotool("search", "--onlyvisible", "--name", f"^{WINDOW}$", "windowactivate", "--sync")
+    xdotool("key", "alt+F4")
+
+
+def without_a_tray():
+    wait_for(lambda: windows(WINDOW), "the window")
+    shown = client_windows()
+    xdotool("search", "--onlyvisible", "--name", f"^{WINDOW}$", "windowactivate", "--sync")
+    xdotool("key", "alt+m")
+    wait_for(lambda: len(client_windows()) == len(shown) + 1, "the menu of the button")
+    xdotool("key", "Escape")
+    wait_for(lambda: client_windows() == shown, "the menu to go")
+    close_window()
+    wait_for(lambda: "_NET_WM_STATE_HIDDEN" in state_of_window(), "the window to go to the task bar")
+    check("Iconic" in state_of_window(), "the window was withdrawn: nobody finds it again")
+    second_start()
+    wait_for(lambda: windows(WINDOW) and "HIDDEN" not in state_of_window(), "the window once more")
+
+
+def with_a_tray():
+    """From a shown window to a hidden one and back again, by the icon alone."""
+    wait_for(lambda: windows(WINDOW), "the window")
+    close_window()
+    wait_for(lambda: not windows(WINDOW), "the window to hide")
+    icon = client_windows()
+    equal(len(icon), 1, "number of visible windows")
+    click_icon(3)
+    wait_for(lambda: len(client_windows()) == 2, "the tray menu")
+    xdotool("key", "Escape")
+    wait_for(lambda: client_windows() == icon, "the menu to go")
+    click_icon(1, times=2)
+    wait_for(lambda: windows(WINDOW), "the window after a double click")
+
+
+def test():
+    write_settings({"behaviours": {"showBubble": "false"}})
+    program = alertor()
+    without_a_tray()
+    for _ in range(2):
+        first = tray()
+        wait_for(icon_position, "the icon in the tray that came")
+        with_a_tray()
+        first.kill()
+        wait_for(lambda: not icon_position(), "the icon to go with its tray")
+    close_window()
+    wait_for(lambda: "Iconic" in state_of_window(), "the window in the task bar, now that the tray is gone")
+    program.quit()
+
+
+run(test)
