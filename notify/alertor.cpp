@@ -11,6 +11,8 @@
 #include <managedwindow.h>
 #include <packets.h>
 #include <product.h>
+#include <qskinnedmessagebox.h>
+#include <tappstate.h>
 
 #include <QtCore/QPointer>
 #include <QtGui/QCloseEvent>
@@ -313,10 +315,12 @@ void Alertor::actOpenOutput()
 
 void Alertor::actOpenFrame()
 {
-    for (const NotifyEvent *event : selectedEvents()) {
-        if (hasText(event, EventKey::kFramesMask))
-            CreateImageViewer(this);
-    }
+    QStringList masks;
+    for (const NotifyEvent *event : selectedEvents())
+        masks += event->text(EventKey::kFramesMask);
+    masks.removeAll(QString());
+    for (qsizetype i = 0; i < masks.size(); ++i)
+        CreateImageViewer(this);
 }
 
 void Alertor::actOpenFrameExternally()
@@ -398,6 +402,12 @@ void Alertor::openImageViewer()
 
 ImageViewer *Alertor::CreateImageViewer(QWidget *parent)
 {
+    if (!TAppState::instance().openGlUsable) {
+        QSkinnedMessageBox::critical(parent, product::kProductTitle,
+                                     tr("OpenGL not supported by your GPU! Image viewer cannot be used!"),
+                                     QMessageBox::Ok);
+        return nullptr;
+    }
     QMessageBox::information(
         parent, product::kProductTitle,
         tr("This build has no integrated image viewer. Choose an external application in the "

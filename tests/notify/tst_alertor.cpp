@@ -12,6 +12,7 @@
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
@@ -363,14 +364,23 @@ private Q_SLOTS:
         QVERIFY(arguments.open(QIODevice::ReadOnly));
         QCOMPARE(arguments.readAll(), "1|/no where/$(touch x)/a.0005.exr");
 
-        QString said;
-        QTimer::singleShot(0, &farm.alertor, [&said] {
-            QTRY_VERIFY(QApplication::activeModalWidget());
-            said = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())->text();
-            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
-        });
-        farm.alertor.actOpenOutput();
-        QCOMPARE(said, QStringLiteral("Cannot open output folder /no where/$(touch x)"));
+        const auto saidBy = [&farm](void (Alertor::*act)()) {
+            QString said;
+            QTimer::singleShot(0, &farm.alertor, [&said] {
+                QTRY_VERIFY(QApplication::activeModalWidget());
+                QWidget *box = QApplication::activeModalWidget();
+                for (const QLabel *label : box->findChildren<QLabel *>())
+                    said += label->text();
+                QTest::keyClick(box->focusWidget(), Qt::Key_Return);
+            });
+            (farm.alertor.*act)();
+            return said;
+        };
+        QVERIFY(
+            saidBy(&Alertor::actOpenFrame)
+                .contains(QStringLiteral("OpenGL not supported by your GPU! Image viewer cannot be used!")));
+        QCOMPARE(saidBy(&Alertor::actOpenOutput),
+                 QStringLiteral("Cannot open output folder /no where/$(touch x)"));
     }
 
     void theWindowIsManagedAndTakesKeys()
