@@ -7,8 +7,8 @@
 
 namespace TImageLibrary {
 
-/// Throws when the last chunk of scan lines does not unpack to the pixels that the header speaks of. OpenEXR looks itself
-/// in most compressions, but fills what deflated lines or runs leave over with what stood in its memory before.
+/// Throws when the last chunk of scan lines does not unpack to the pixels that the header speaks of. OpenEXR fills what
+/// deflated lines or runs leave over with what stood in its memory before; most other compressions it checks itself.
 void checkLastChunk(ExrFile &file, int part);
 
 /// Whether the part's scan lines are stored just as the planes want them.

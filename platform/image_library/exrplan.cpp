@@ -12,9 +12,9 @@ namespace TImageLibrary {
 
 namespace {
 
-/// What a display window may ask for where no data lies, which costs addresses and no memory until it is shown: the
-/// data of a blank frame may be a single pixel.
-constexpr std::uint64_t kBlankBytes = std::uint64_t(1) << 30;
+/// What a display window may ask for where no data lies: a blank frame of a sequence stores a single pixel, in the largest
+/// pictures that are usual a colour of halves in 8K.
+constexpr std::uint64_t kBlankBytes = std::uint64_t(8192) * 4320 * 4 * 2;
 
 std::vector<ExrChannel> chosenChannels(const std::vector<ExrChannel> &all, const std::set<std::string> &names)
 {

@@ -220,9 +220,12 @@ CTImageChannel OiioFile::readInterleaved(Progress &progress)
 void OiioFile::readInto(CTImageChannel &pixels, Progress &progress)
 {
     const TPlaneFormat &format = pixels.format();
-    if (!m_input->read_image(0, 0, 0, m_spec.nchannels, planeType(format), pixels.data(),
-                             OIIO::stride_t(format.pixelBytes()), OIIO::AutoStride, OIIO::AutoStride,
-                             reportProgress, &progress))
+    m_input->geterror(); // of the opening, which went well enough
+    const bool done = m_input->read_image(0, 0, 0, m_spec.nchannels, planeType(format), pixels.data(),
+                                          OIIO::stride_t(format.pixelBytes()), OIIO::AutoStride,
+                                          OIIO::AutoStride, reportProgress, &progress);
+    // Some decoders only mention that pixels were missing.
+    if (!done || m_input->has_error())
         fail(*m_input);
 }
 
