@@ -90,6 +90,24 @@ bool isTarga(const SourceFile &file)
     return makesSense && (file.tail().ends_with("TRUEVISION-XFILE.\0"sv) || hasExtensionOf(file, "targa"));
 }
 
+/// Walks from chunk to chunk to the last. Where a file ends before it, libpng jumps out of OpenImageIO's reader, which loses
+/// the memory of its message.
+bool isWholePng(const SourceFile &file)
+{
+    constexpr std::size_t kSignature = 8;
+    constexpr std::size_t kFrame = 12; // length, type and checksum
+    const std::string bytes = file.contents();
+    for (std::size_t at = kSignature; at + kFrame <= bytes.size();) {
+        std::size_t length = 0;
+        for (std::size_t i = 0; i < 4; ++i)
+            length = length << 8 | static_cast<unsigned char>(bytes[at + i]);
+        if (bytes.compare(at + 4, 4, "IEND") == 0)
+            return true;
+        at += kFrame + length;
+    }
+    return false;
+}
+
 /// Walks from marker to marker to the end of the image. Its decoder paints what a cut file lacks in grey.
 bool isWholeJpeg(const SourceFile &file)
 {
@@ -114,7 +132,7 @@ bool isWholeJpeg(const SourceFile &file)
 
 const std::array<OiioFormat, 15> kFormats = {{
     {"png", 2100, OiioAlpha::AsTold,
-     [](const SourceFile &file) { return startsWith(file, "\x89PNG\r\n\x1a\n"sv); }, nullptr},
+     [](const SourceFile &file) { return startsWith(file, "\x89PNG\r\n\x1a\n"sv); }, isWholePng},
     {"jpeg", 1000, OiioAlpha::AsTold,
      [](const SourceFile &file) { return startsWith(file, "\xff\xd8\xff"sv); }, isWholeJpeg},
     {"raw", 64, OiioAlpha::AsTold, isRaw, nullptr},
