@@ -1,0 +1,191 @@
+// What a load through the image library costs against the fastest way to read the same channels with OpenEXR alone, against
+// OpenImageIO, and in memory. Every contender opens the file, takes memory for the planes and fills them.
+
+#include "exrreaders.h"
+
+#include <iimagecore.h>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace TImageLibrary;
+
+namespace {
+
+constexpr int kRounds = 9;
+constexpr double kTimePromise = 1.10;
+constexpr double kMemoryPromise = 1.15;
+
+struct Contender {
+    std::string name;
+    std::function<bool()> load;
+};
+
+bool loadThroughLibrary(const ExrSample &sample)
+{
+    CTImage *image = IImageCore::Load(sample.path.c_str(), "exr", sample.wanted, nullptr, nullptr);
+    IImageCore::DestroyImage(image);
+    return image;
+}
+
+std::vector<Contender> bareReaders(const ExrSample &sample)
+{
+    std::vector<Contender> readers;
+    for (const int threads : {0, 2}) {
+        readers.push_back({"C++, " + std::to_string(threads) + " threads",
+                           [&sample, threads] { return readPlanar(sample, threads); }});
+    }
+    // The core interface of OpenEXR 3.1 does not decode DWA.
+    if (sample.compression != Imf::DWAA_COMPRESSION)
+        readers.push_back({"core", [&sample] { return readCore(sample); }});
+    return readers;
+}
+
+double milliseconds(const std::function<bool()> &load)
+{
+    const auto start = std::chrono::steady_clock::now();
+    if (!load()) {
+        std::fprintf(stderr, "a file does not load\n");
+        std::exit(1);
+    }
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+}
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+/// All in turn, so that a slow moment of the machine meets them all; the medians count.
+std::vector<double> compare(const std::vector<Contender> &contenders)
+{
+    std::vector<std::vector<double>> times(contenders.size());
+    for (int round = 0; round < kRounds; ++round) {
+        for (std::size_t i = 0; i < contenders.size(); ++i)
+            times[i].push_back(milliseconds(contenders[i].load));
+    }
+    std::vector<double> medians;
+    std::transform(times.begin(), times.end(), std::back_inserter(medians), median);
+    return medians;
+}
+
+/// Runs in a process of its own and gives the most memory, in bytes, that it has held.
+double inChild(const std::function<bool()> &run)
+{
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(run() ? 0 : 1);
+    int status = 1;
+    rusage usage{};
+    if (child < 0 || wait4(child, &status, 0, &usage) != child || status != 0) {
+        std::fprintf(stderr, "a child process failed\n");
+        std::exit(1);
+    }
+    return double(usage.ru_maxrss) * 1024.0;
+}
+
+double peakMemory(const std::function<bool()> &load)
+{
+    return inChild(load) - inChild([] { return true; });
+}
+
+void printMemory(const ExrSample &sample)
+{
+    const double planes = double(sample.planeBytes());
+    const double library = peakMemory([&sample] { return loadThroughLibrary(sample); });
+    double bare = 0.0;
+    for (const Contender &reader : bareReaders(sample))
+        bare = std::max(bare, peakMemory(reader.load));
+    // What OpenEXR needs is what the bare reader takes beyond the planes.
+    const double allowed = kMemoryPromise * planes + std::max(0.0, bare - planes);
+    std::printf("  memory: planes %.1f MB, library %.1f MB, bare %.1f MB, of what is promised %.2f\n",
+                planes / 1e6, library / 1e6, bare / 1e6, library / allowed);
+}
+
+void printRatios(const ExrSample &sample)
+{
+    std::vector<Contender> contenders = bareReaders(sample);
+    const std::size_t bareCount = contenders.size();
+    contenders.push_back({"OpenImageIO", [&sample] { return readOpenImageIO(sample); }});
+    contenders.push_back({"library", [&sample] { return loadThroughLibrary(sample); }});
+    const std::vector<double> times = compare(contenders);
+    const double bare = *std::min_element(times.begin(), times.begin() + std::ptrdiff_t(bareCount));
+    const double library = times.back();
+    std::printf("%s: ratio to the fastest bare read %.2f (promise %.2f), to OpenImageIO %.2f\n ",
+                sample.name.c_str(), library / bare, kTimePromise, library / times[bareCount]);
+    for (std::size_t i = 0; i < contenders.size(); ++i)
+        std::printf(" %s %.1f ms;", contenders[i].name.c_str(), times[i]);
+    std::printf("\n");
+    std::fflush(stdout);
+}
+
+/// A folder for the files, gone with this.
+class Folder final {
+public:
+    Folder()
+    {
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "bench_image_library.XXXXXX").string();
+        if (mkdtemp(pattern.data()))
+            m_path = pattern;
+    }
+    ~Folder()
+    {
+        std::error_code error;
+        std::filesystem::remove_all(m_path, error);
+    }
+    Folder(const Folder &) = delete;
+    Folder &operator=(const Folder &) = delete;
+
+    const std::filesystem::path &path() const { return m_path; }
+
+private:
+    std::filesystem::path m_path;
+};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const Folder folder;
+    const std::vector<ExrSample> samples = listSamples(folder.path());
+    // First, while this process has loaded nothing and has no threads that its children would miss.
+    for (const ExrSample &sample : samples) {
+        inChild([&sample] {
+            writeSample(sample);
+            return true;
+        });
+        printMemory(sample);
+    }
+    for (const ExrSample &sample : samples) {
+        benchmark::RegisterBenchmark(sample.name.c_str(),
+                                     [&sample](benchmark::State &state) {
+                                         for (auto _ : state)
+                                             benchmark::DoNotOptimize(loadThroughLibrary(sample));
+                                         state.SetBytesProcessed(state.iterations()
+                                                                 * std::int64_t(sample.planeBytes()));
+                                     })
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime();
+    }
+    benchmark::Initialize(&argc, argv);
+    for (const ExrSample &sample : samples)
+        printRatios(sample);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

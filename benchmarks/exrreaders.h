@@ -1,0 +1,36 @@
+#pragma once
+
+#include <ImfCompression.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <set>
+#include <string>
+#include <vector>
+
+/// An OpenEXR file of half channels and the channels to read from it.
+struct ExrSample {
+    std::string name;
+    std::string path;
+    int width = 0;
+    int height = 0;
+    Imf::Compression compression = Imf::NO_COMPRESSION;
+    std::vector<std::string> channels;
+    std::set<std::string> wanted;
+
+    std::size_t planeBytes() const { return std::size_t(width) * std::size_t(height) * 2 * wanted.size(); }
+};
+
+/// Full HD and 4K colour in every compression compared, and one file of many channels of which a colour is wanted; none
+/// is written yet.
+std::vector<ExrSample> listSamples(const std::filesystem::path &folder);
+void writeSample(const ExrSample &sample);
+
+// Each takes memory for the wanted planes and fills it; false when the file does not read.
+
+/// OpenEXR's C++ interface, one slice for each plane, with so many threads in its pool.
+bool readPlanar(const ExrSample &sample, int threads);
+/// OpenEXR's core interface on this thread.
+bool readCore(const ExrSample &sample);
+/// OpenImageIO, the wanted channels interleaved.
+bool readOpenImageIO(const ExrSample &sample);
