@@ -1,5 +1,6 @@
 #include "qskinneddialog.h"
 
+#include "managedwindow.h"
 #include "product.h"
 #include "qheaderlabel.h"
 #include "qskinneddialogborder.h"
@@ -232,9 +233,8 @@ void QSkinnedDialog::loadDefaultState()
 
 bool QSkinnedDialog::event(QEvent *event)
 {
+    keepManaged(this, event);
     if (event->type() == QEvent::WinIdChange && windowHandle()) {
-        // On X11 the hint would take the window away from the window manager, and with it the keyboard focus.
-        windowHandle()->setFlag(Qt::BypassWindowManagerHint, false);
         windowHandle()->installEventFilter(this);
         addDropShadow(this);
     }
