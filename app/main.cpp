@@ -79,9 +79,6 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationName(product::kOrganisation);
     QCoreApplication::setOrganizationDomain(product::kDomain);
     QCoreApplication::setApplicationName(product::kApplicationName);
-    // Textures outlive the windows they were made in: a viewer that goes full screen keeps its frames.
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    expectOpenGl(line.forceGl2);
     bool isEnding = false;
     QtSingleApplication application(argc, argv);
     QApplication::setFont(QFont(QStringLiteral("Lato")));

@@ -6,9 +6,13 @@
 #include <tappstate.h>
 
 #include <QtCore/QDir>
+#include <QtCore/QPointer>
 #include <QtCore/QStandardPaths>
+#include <QtGui/QOpenGLContext>
 #include <QtGui/QSurfaceFormat>
+#include <QtGui/QWindow>
 #include <QtNetwork/QLocalSocket>
+#include <QtOpenGLWidgets/QOpenGLWidget>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
@@ -118,7 +122,6 @@ private Q_SLOTS:
     void openGlIsProbed()
     {
         QFETCH(bool, forceGl2);
-        QSurfaceFormat::setDefaultFormat({});
         TAppState state;
         state.forceGl2 = forceGl2;
         probeOpenGl(state);
@@ -129,6 +132,25 @@ private Q_SLOTS:
         QCOMPARE(format.profile(),
                  forceGl2 ? QSurfaceFormat::CompatibilityProfile : QSurfaceFormat::CoreProfile);
         QCOMPARE(format.swapBehavior(), QSurfaceFormat::DoubleBuffer);
+    }
+
+    void texturesOutliveTheirWindow()
+    {
+        TAppState state;
+        probeOpenGl(state);
+        QVERIFY(QOpenGLContext::globalShareContext());
+        QWidget window;
+        auto *picture = new QOpenGLWidget(&window);
+        window.show();
+        QTRY_VERIFY(picture->isValid());
+        const QPointer<QOpenGLContext> context = picture->context();
+        QVERIFY(QOpenGLContext::areSharing(picture->context(), QOpenGLContext::globalShareContext()));
+        picture->setParent(nullptr);
+        picture->showFullScreen();
+        QTRY_VERIFY(picture->window()->windowHandle()->isExposed());
+        QVERIFY(context);
+        QCOMPARE(picture->context(), context.data());
+        delete picture;
     }
 
     void othersAreKeptOut()
