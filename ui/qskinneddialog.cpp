@@ -234,7 +234,8 @@ void QSkinnedDialog::loadDefaultState()
 bool QSkinnedDialog::event(QEvent *event)
 {
     keepManaged(this, event);
-    if (event->type() == QEvent::WinIdChange && windowHandle()) {
+    // The event also comes when the native window goes.
+    if (event->type() == QEvent::WinIdChange && internalWinId()) {
         windowHandle()->installEventFilter(this);
         addDropShadow(this);
     }
