@@ -113,8 +113,9 @@ void printMemory(const ExrSample &sample)
         bare = std::max(bare, peakMemory(reader.load));
     // What OpenEXR needs is what the bare reader takes beyond the planes.
     const double allowed = kMemoryPromise * planes + std::max(0.0, bare - planes);
-    std::printf("  memory: planes %.1f MB, library %.1f MB, bare %.1f MB, of what is promised %.2f\n",
-                planes / 1e6, library / 1e6, bare / 1e6, library / allowed);
+    std::printf(
+        "%s, memory: ratio to what is promised %.2f (planes %.1f MB, library %.1f MB, bare %.1f MB)\n",
+        sample.name.c_str(), library / allowed, planes / 1e6, library / 1e6, bare / 1e6);
 }
 
 void printRatios(const ExrSample &sample)

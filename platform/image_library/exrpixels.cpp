@@ -147,15 +147,18 @@ public:
     }
 
 private:
-    /// Every band ends with a wait for its last chunk: enough chunks in each keep the threads busy, and sixteen bands are
-    /// plenty for a progress bar.
+    /// Every band ends with a wait for its last chunk: enough chunks in each, and as many for each thread, keep the threads
+    /// busy. Sixteen bands are plenty for a progress bar.
     std::int64_t rowsPerBand() const
     {
         constexpr std::int64_t kBands = 16;
+        constexpr std::int64_t kChunksPerThread = 8;
+        const std::int64_t threads = std::max(exrPoolThreads(), 1);
         const std::int64_t chunkRows = m_file.chunkRows(m_part);
         const std::int64_t chunkLines = (m_data.max.y - m_data.min.y) / chunkRows + 1;
-        const std::int64_t busy = 4 * std::max(exrPoolThreads(), 1) / m_rows->chunksPerRow() + 1;
-        return chunkRows * std::max(busy, (chunkLines + kBands - 1) / kBands);
+        const std::int64_t busy = (threads * kChunksPerThread - 1) / m_rows->chunksPerRow() + 1;
+        const std::int64_t lines = std::max(busy, (chunkLines - 1) / kBands + 1);
+        return chunkRows * ((lines - 1) / threads + 1) * threads;
     }
 
     void setPlanes()
