@@ -9,6 +9,7 @@ Splash::Splash()
     : QSplashScreen(QPixmap(QStringLiteral(":/") + QStringLiteral("Misc/") + QStringLiteral("Resources/")
                             + QStringLiteral("splash.png")))
 {
+    create();
     addDropShadow(this);
     auto *version = new QLabel(
         tr("%1 - Release Build %2 %3").arg(product::kVersion, product::kBuildNumber, product::kBuildDate),

@@ -6,5 +6,7 @@
 
 void addDropShadow(QWidget *window)
 {
-    TDesktop::AddDropShadow(window->winId());
+    // Not winId(): that would make a native window, also in the middle of one's end.
+    if (const WId native = window->internalWinId())
+        TDesktop::AddDropShadow(native);
 }
