@@ -1,0 +1,112 @@
+#include "framecache.h"
+
+#include <iterator>
+#include <new>
+
+namespace {
+
+/// Copies the planes, since the library's image goes after the load. False when there is no memory for them.
+bool keepInMainMemory(ImageFrame &frame)
+{
+    try {
+        for (std::size_t i = 0; i < frame.planes.size(); ++i) {
+            const auto *data = static_cast<const std::byte *>(frame.planes[i]);
+            frame.ownedPlanes.emplace_back(data, data + frame.planeBytes(i));
+        }
+    } catch (const std::bad_alloc &) {
+        frame.ownedPlanes.clear();
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+FrameCache::FrameCache(CacheTotals &totals, FrameDisplay &display)
+    : m_totals(totals)
+    , m_display(display)
+{ }
+
+FrameCache::~FrameCache()
+{
+    clear();
+}
+
+bool FrameCache::contains(const std::string &path) const
+{
+    return m_frames.find(path) != m_frames.end();
+}
+
+ImageFrame *FrameCache::find(const std::string &path) const
+{
+    const auto found = m_frames.find(path);
+    return found == m_frames.end() ? nullptr : found->second.frame.get();
+}
+
+ImageFrame &FrameCache::insert(std::unique_ptr<ImageFrame> frame, const std::string &path)
+{
+    remove(path);
+    place(*frame);
+
+    ImageFrame &inserted = *frame;
+    const auto entry = m_frames.emplace(path, Entry{std::move(frame), {}}).first;
+    Queue &queue = queueOf(inserted);
+    entry->second.position = queue.insert(queue.end(), &entry->first);
+    usedBy(inserted) += inserted.byteSize;
+    return inserted;
+}
+
+bool FrameCache::remove(const std::string &path)
+{
+    const auto found = m_frames.find(path);
+    if (found == m_frames.end())
+        return false;
+    destroy(found);
+    return true;
+}
+
+void FrameCache::clear()
+{
+    m_display.showFrame(nullptr);
+    while (!m_frames.empty())
+        destroy(std::prev(m_frames.end()));
+}
+
+void FrameCache::place(ImageFrame &frame)
+{
+    frame.inVideoMemory = true;
+    if (m_totals.videoMemoryUsed < m_totals.videoMemoryBudget)
+        return;
+    if (m_totals.mainMemoryUsed < m_totals.mainMemoryBudget) {
+        frame.inVideoMemory = !keepInMainMemory(frame);
+        return;
+    }
+    removeOldest(m_videoMemory);
+    removeOldest(m_mainMemory);
+}
+
+void FrameCache::removeOldest(const Queue &queue)
+{
+    if (!queue.empty())
+        destroy(m_frames.find(*queue.front()));
+}
+
+void FrameCache::destroy(Frames::iterator entry)
+{
+    ImageFrame &frame = *entry->second.frame;
+    m_display.frameDies(frame);
+    frame.deleteTextures();
+    usedBy(frame) -= frame.byteSize;
+    queueOf(frame).erase(entry->second.position);
+    m_frames.erase(entry);
+}
+
+FrameCache::Queue &FrameCache::queueOf(const ImageFrame &frame)
+{
+    return frame.inVideoMemory ? m_videoMemory : m_mainMemory;
+}
+
+std::uint64_t &FrameCache::usedBy(const ImageFrame &frame)
+{
+    return frame.inVideoMemory ? m_totals.videoMemoryUsed : m_totals.mainMemoryUsed;
+}

@@ -1,0 +1,97 @@
+#include "frameloader.h"
+
+#include "framebuilder.h"
+#include "framecache.h"
+#include "framedisplay.h"
+
+#include <filesystem.h>
+
+#include <algorithm>
+#include <memory>
+#include <set>
+#include <utility>
+
+using TImageLibrary::CTImage;
+using TImageLibrary::IImageCore;
+
+namespace {
+
+struct DestroyImage {
+    void operator()(CTImage *image) const { IImageCore::DestroyImage(image); }
+};
+using Image = std::unique_ptr<CTImage, DestroyImage>;
+
+/// Null when the smaller image cannot be made. No side becomes less than a pixel.
+Image downsampled(Image image, std::int32_t halvings)
+{
+    const std::int32_t divisor = 1 << std::clamp(halvings, 0, LoadRequest::kMaxDownsampling);
+    if (!image || divisor == 1)
+        return image;
+    CTImage *smaller = nullptr;
+    image->Resize(std::max(1, image->GetWidth() / divisor), std::max(1, image->GetHeight() / divisor),
+                  smaller);
+    return Image(smaller);
+}
+
+std::unique_ptr<ImageFrame> buildFrame(const CTImage &image, const LayerList &layers,
+                                       const std::string &entry)
+{
+    const CompositeLayer *composite = layers.composite(entry);
+    return composite ? ::buildFrame(image, *composite) : ::buildFrame(image, LayerList::layerName(entry));
+}
+
+} // namespace
+
+FrameLoader::FrameLoader(FrameCache &cache, FrameDisplay &display)
+    : m_cache(cache)
+    , m_display(display)
+{ }
+
+LoadResult FrameLoader::load(const LoadRequest &request)
+{
+    LoadResult result;
+    if (ImageFrame *cached = m_cache.find(request.path)) {
+        m_display.showFrame(cached);
+        result.outcome = LoadOutcome::Shown;
+        return result;
+    }
+    if (!TFramework::TFileSystem::CheckFile(request.path)) {
+        result.outcome = LoadOutcome::NotFound;
+        return result;
+    }
+    result.outcome = LoadOutcome::Corrupted;
+    const char *format = IImageCore::Probe(request.path.c_str());
+    if (!format) {
+        m_display.showFrame(nullptr);
+        return result;
+    }
+    std::set<std::string> names;
+    if (!IImageCore::LoadLayers(request.path.c_str(), format, names))
+        return result;
+    result.layers = listLayers(names);
+    result.layer = result.layers->resolved(request.layer, request.fresh);
+    result.outcome = loadLayer(request, format, result);
+    return result;
+}
+
+LoadOutcome FrameLoader::loadLayer(const LoadRequest &request, const std::string &format,
+                                   const LoadResult &result)
+{
+    Image image(IImageCore::Load(request.path.c_str(), format.c_str(), result.layers->members(result.layer),
+                                 request.progress, request.user));
+    if (!image)
+        return LoadOutcome::Corrupted;
+    image = downsampled(std::move(image), request.downsampling);
+    auto frame = image ? buildFrame(*image, *result.layers, result.layer) : nullptr;
+    if (!frame)
+        return LoadOutcome::NothingShown;
+
+    frame->filePath = request.path;
+    frame->formatName = format;
+    frame->display = &m_display;
+    m_display.uploadTextures(*frame);
+    ImageFrame &kept = m_cache.insert(std::move(frame), request.path);
+    m_display.showFrame(&kept);
+    kept.planes.clear(); // they go with the image
+    return LoadOutcome::Shown;
+}

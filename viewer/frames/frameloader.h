@@ -1,0 +1,55 @@
+#pragma once
+
+#include "compositelayers.h"
+
+#include <iimagecore.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+class FrameCache;
+class FrameDisplay;
+
+struct LoadRequest {
+    std::string path;
+    std::string layer; ///< the layer selector's entry; empty when there is none yet
+    bool fresh = false; ///< the first frame of a frame set: the selector is to be filled anew
+    std::int32_t downsampling = 0; ///< halvings of width and height, at most LoadRequest::kMaxDownsampling
+    TImageLibrary::TLoadProgress progress = nullptr;
+    void *user = nullptr; ///< handed to `progress`
+
+    static constexpr std::int32_t kMaxDownsampling = 4;
+};
+
+enum class LoadOutcome {
+    Shown,
+    NotFound,
+    Corrupted,
+    NothingShown, ///< the file is sound, but holds the layer in no form that can be shown
+};
+
+struct LoadResult {
+    LoadOutcome outcome = LoadOutcome::NothingShown;
+    std::optional<LayerList>
+        layers; ///< set when the file's layers were listed, which a cached frame does not need
+    std::string layer; ///< the entry of `layers` that was loaded
+
+    bool shown() const { return outcome == LoadOutcome::Shown; }
+};
+
+/// Brings one frame on the display, from the cache or from its file through the image library; blocks meanwhile. A load
+/// that fails leaves the cache as it was.
+class FrameLoader final {
+public:
+    /// Both must outlive the loader.
+    FrameLoader(FrameCache &cache, FrameDisplay &display);
+
+    LoadResult load(const LoadRequest &request);
+
+private:
+    LoadOutcome loadLayer(const LoadRequest &request, const std::string &format, const LoadResult &result);
+
+    FrameCache &m_cache;
+    FrameDisplay &m_display;
+};

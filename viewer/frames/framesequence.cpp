@@ -1,0 +1,117 @@
+#include "framesequence.h"
+
+#include <filesystem.h>
+#include <tframesrange.h>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+#include <vector>
+
+using TClientLib::TFramesRange;
+using TFramework::TFileSystem;
+
+namespace {
+
+constexpr std::int64_t kMinFrame = std::numeric_limits<std::int32_t>::min();
+constexpr std::int64_t kMaxFrame = std::numeric_limits<std::int32_t>::max();
+
+/// Frame 1 stands for a range that is empty, refused, or out of a frame number's reach.
+void setFrames(FrameSequence &sequence, const std::vector<TFramesRange> &ranges, std::size_t leastFrames)
+{
+    std::int64_t step = 1;
+    sequence.frames = TFramesRange::NumberedFrames(ranges, step);
+    sequence.byFrame = static_cast<std::int32_t>(std::clamp<std::int64_t>(step, 1, kMaxFrame));
+    const bool isUsable = sequence.frames.size() >= leastFrames && *sequence.frames.begin() >= kMinFrame
+        && *sequence.frames.rbegin() <= kMaxFrame;
+    if (!isUsable)
+        sequence.frames = {1};
+}
+
+/// The frames of the record, the current one among them or the first.
+void takeRecord(FrameSequence &sequence, const FramesOrigin &origin, std::int32_t frame)
+{
+    if (origin.chunk)
+        setFrames(sequence, {{origin.chunk->getStart(), origin.chunk->getEnd(), origin.chunk->getStep()}}, 1);
+    else
+        setFrames(sequence, origin.job->GetFrameRanges(), 2);
+    const auto first = static_cast<std::int32_t>(*sequence.frames.begin());
+    const auto last = static_cast<std::int32_t>(*sequence.frames.rbegin());
+    sequence.currentFrame = frame < first || frame > last ? first : frame;
+}
+
+/// Mask of a path that is to be shown as a sequence, else empty. A numbered file sets the starting frame.
+std::string sequenceMask(const FramesRequest &request, std::int32_t &start)
+{
+    if (!TFileSystem::GetFileFromMask(request.path, 1).empty())
+        return request.maskIsSequence ? request.path : std::string();
+    std::int32_t number = 0;
+    std::string mask = TFileSystem::GetSequenceMask(request.path, true, number);
+    if (mask.empty() || mask == request.path)
+        return {};
+    start = number;
+    return mask;
+}
+
+std::set<long> existingRun(const std::string &mask, std::int32_t start)
+{
+    std::set<long> frames;
+    const auto exists = [&mask, &frames](std::int64_t frame) {
+        return frame >= kMinFrame && frame <= kMaxFrame && frames.size() < TFramesRange::kMaxFrames
+            && TFileSystem::CheckFile(TFileSystem::GetFileFromMask(mask, frame));
+    };
+    std::int64_t frame = start;
+    for (; exists(frame); --frame)
+        frames.insert(frames.begin(), static_cast<long>(frame));
+    if (frames.empty())
+        return frames;
+    for (frame = std::int64_t(start) + 1; exists(frame); ++frame)
+        frames.insert(frames.end(), static_cast<long>(frame));
+    return frames;
+}
+
+} // namespace
+
+std::string FrameSequence::currentFile() const
+{
+    return isSequence ? TFileSystem::GetFileFromMask(framesPath, currentFrame) : framesPath;
+}
+
+std::optional<FrameSequence> openFrames(const FrameSequence &shown, const FramesRequest &request,
+                                        const FramesOrigin &origin)
+{
+    if (request.path == shown.framesPath && !request.force)
+        return std::nullopt;
+
+    std::int32_t start = request.preferredFrame;
+    if (start == FramesRequest::kNoFrame)
+        start = request.force ? shown.currentFrame : 0;
+    FrameSequence sequence;
+    sequence.framesPath = request.path;
+    const bool hasRecord = origin.job || origin.chunk;
+    if (hasRecord) {
+        takeRecord(sequence, origin, start);
+        start = sequence.currentFrame;
+    } else {
+        sequence.frames = {1};
+    }
+
+    const std::string mask = sequenceMask(request, start);
+    if (mask.empty())
+        return sequence;
+    if (!hasRecord) {
+        sequence.frames = existingRun(mask, start);
+        sequence.currentFrame = start;
+    }
+    sequence.isSequence = sequence.frames.size() >= 2;
+    if (sequence.isSequence) {
+        sequence.framesPath = mask;
+        return sequence;
+    }
+    sequence.frames = {start};
+    sequence.currentFrame = start;
+    const std::string file = TFileSystem::GetFileFromMask(mask, start);
+    if (!file.empty() && file != mask)
+        sequence.framesPath = file;
+    return sequence;
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+class FrameDisplay;
+
+/// Width and height in pixels.
+struct PlaneSize {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+
+    bool operator==(const PlaneSize &other) const = default;
+};
+
+/// One decoded frame: its planes, what GL makes of them, and who shows it. Built by buildFrame(), owned by the frame
+/// cache, which also deletes the textures. Plane lists have one entry per texture; GL enums are plain numbers.
+struct ImageFrame {
+    std::vector<PlaneSize> planeSizes;
+    std::string channelLayout; ///< "R,G,B,A", "R,G,B", "Y,Cb,Cr,A", "Y,Cb,Cr", or the one channel's name
+    std::string filePath;
+    std::string formatName; ///< as the image library's probe calls it, for example "exr"
+    std::int32_t textureCount = 0; ///< 1, 3 or 4
+    std::vector<std::uint32_t> textureNames; ///< empty unless uploaded
+    std::vector<const void *> planes; ///< into the library's image; empty once that is released
+    std::vector<std::vector<std::byte>>
+        ownedPlanes; ///< copies of the planes, of a frame kept in main memory only
+    std::uint32_t internalFormat = 0;
+    std::int32_t components = 0; ///< samples per texel in one plane
+    std::uint32_t pixelType = 0; ///< of one sample
+    bool inVideoMemory = true; ///< counts against the video-memory budget and keeps its textures
+    bool isYCbCr = false;
+    std::uint64_t byteSize = 0; ///< of all planes
+    bool yFlipped = false;
+    bool premultiplied = false;
+    std::int32_t displayCount = 0;
+    FrameDisplay *display = nullptr; ///< whose GL context owns the textures; not owned
+
+    /// Pixels of a plane, its own copy where there is one; null when neither is there any more.
+    const void *planeData(std::size_t index) const;
+    /// Bytes of a plane, 0 past the last.
+    std::uint64_t planeBytes(std::size_t index) const;
+
+    /// The display is about to show the frame: one that has no lasting textures gets some.
+    void retain();
+    /// The display has stopped showing the frame: textures that do not last go.
+    void release();
+    void deleteTextures();
+};
