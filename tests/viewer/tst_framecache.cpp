@@ -1,0 +1,159 @@
+#include "fakedisplay.h"
+#include "framecache.h"
+
+#include <QtGui/qopengl.h>
+#include <QtTest/QTest>
+
+#include <memory>
+
+namespace {
+
+constexpr std::uint64_t kFrameBytes = 12;
+
+struct Window {
+    explicit Window(CacheTotals &totals)
+        : cache(totals, display)
+    { }
+
+    /// A frame of two planes, 4 and 8 bytes, whose image goes after the load.
+    ImageFrame &insert(char path)
+    {
+        auto frame = std::make_unique<ImageFrame>();
+        frame->planeSizes = {{2, 1}, {2, 2}};
+        frame->planes = {pixels.constData(), pixels.constData() + 4};
+        frame->components = 1;
+        frame->pixelType = GL_HALF_FLOAT;
+        frame->byteSize = kFrameBytes;
+        frame->display = &display;
+        display.uploadTextures(*frame);
+        ImageFrame &inserted = cache.insert(std::move(frame), std::string(1, path));
+        inserted.planes.clear();
+        return inserted;
+    }
+    /// "aV bM": which of the frames a to z are where.
+    QByteArray state() const
+    {
+        QByteArray places;
+        for (char name = 'a'; name <= 'z'; ++name) {
+            if (const ImageFrame *frame = cache.find(std::string(1, name)))
+                places.append(name).append(frame->inVideoMemory ? "V " : "M ");
+        }
+        return places.trimmed();
+    }
+
+    QByteArray pixels = "0123456789ab";
+    FakeDisplay display;
+    FrameCache cache;
+};
+
+} // namespace
+
+class FrameCacheTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void placement_data();
+    void placement();
+    void mainMemory();
+    void shownFrameDies();
+    void windowsShareTotals();
+    void status();
+};
+
+void FrameCacheTest::placement_data()
+{
+    QTest::addColumn<int>("videoBudget");
+    QTest::addColumn<int>("mainBudget");
+    QTest::addColumn<QByteArray>("inserted");
+    QTest::addColumn<QByteArray>("state");
+    QTest::newRow("video memory first") << 24 << 24 << QByteArray("abcd") << QByteArray("aV bV cM dM");
+    QTest::newRow("full: one leaves each") << 24 << 24 << QByteArray("abcde") << QByteArray("bV dM eV");
+    QTest::newRow("budgets are soft") << 13 << 1 << QByteArray("abc") << QByteArray("aV bV cM");
+    QTest::newRow("no budget") << 0 << 0 << QByteArray("abc") << QByteArray("cV");
+    QTest::newRow("replaced is youngest") << 24 << 0 << QByteArray("abac") << QByteArray("aV cV");
+    QTest::newRow("changes memory") << 12 << 24 << QByteArray("abcab") << QByteArray("aV bM cM");
+}
+
+void FrameCacheTest::placement()
+{
+    QFETCH(const int, videoBudget);
+    QFETCH(const int, mainBudget);
+    QFETCH(const QByteArray, inserted);
+    QFETCH(const QByteArray, state);
+    CacheTotals totals{0, 0, std::uint64_t(videoBudget), std::uint64_t(mainBudget)};
+    Window window(totals);
+    for (const char path : inserted) {
+        window.insert(path);
+        window.cache.find("a"); // does not make a younger
+    }
+    QCOMPARE(window.state(), state);
+    QCOMPARE(totals.videoMemoryUsed, std::uint64_t(state.count('V')) * kFrameBytes);
+    QCOMPARE(totals.mainMemoryUsed, std::uint64_t(state.count('M')) * kFrameBytes);
+    QVERIFY(!window.cache.remove("z"));
+    window.cache.clear();
+    QCOMPARE(window.display.textures, 0);
+    QCOMPARE(totals.videoMemoryUsed + totals.mainMemoryUsed, std::uint64_t(0));
+}
+
+/// Textures of a frame in main memory live while it is shown and come back from its own copies.
+void FrameCacheTest::mainMemory()
+{
+    CacheTotals totals{0, 0, 1, 100};
+    Window window(totals);
+    FakeDisplay &display = window.display;
+    ImageFrame &video = window.insert('v');
+    ImageFrame &main = window.insert('m');
+    window.pixels.fill('-');
+
+    display.showFrame(&main);
+    QCOMPARE(display.uploads, 2); // those of its load still stand
+    display.showFrame(&video);
+    QVERIFY(main.textureNames.empty() && video.ownedPlanes.empty());
+    display.showFrame(&main);
+    QCOMPARE(display.uploaded, (QList<QByteArray>{"0123", "456789ab"}));
+    display.showFrame(nullptr);
+    QCOMPARE(display.textures, 2);
+}
+
+/// Whatever takes a frame out of the cache, the display is told while the frame still lives.
+void FrameCacheTest::shownFrameDies()
+{
+    CacheTotals totals{0, 0, 1, 1};
+    Window window(totals);
+    FakeDisplay &display = window.display;
+    window.insert('v');
+    display.showFrame(&window.insert('m'));
+    ImageFrame &evicting = window.insert('a');
+    QVERIFY(!display.shown);
+    display.showFrame(&evicting);
+    display.showFrame(&window.insert('a'));
+    QVERIFY(window.cache.remove("a") && !display.shown);
+    display.showFrame(&window.insert('b'));
+    window.cache.clear();
+    QVERIFY(!display.shown);
+}
+
+void FrameCacheTest::windowsShareTotals()
+{
+    CacheTotals totals{0, 0, 25, 0};
+    Window first(totals);
+    first.insert('a');
+    {
+        Window second(totals);
+        for (const char path : {'b', 'c', 'd'})
+            second.insert(path);
+        QCOMPARE(second.state(), QByteArray("cV dV")); // a window evicts its own frames alone
+    }
+    QCOMPARE(first.state(), QByteArray("aV"));
+    QCOMPARE(totals.videoMemoryUsed, kFrameBytes);
+}
+
+void FrameCacheTest::status()
+{
+    QCOMPARE((CacheTotals{333, 3, 1000, 2}.statusText()),
+             u"VRAM Cache Usage: 33.30% RAM Cache Usage: 150.00% "_qs);
+    QCOMPARE((CacheTotals{0, 1, 0, 0}.statusText()), u"VRAM Cache Usage: 0.00% RAM Cache Usage: 100.00% "_qs);
+}
+
+QTEST_APPLESS_MAIN(FrameCacheTest)
+#include "tst_framecache.moc"

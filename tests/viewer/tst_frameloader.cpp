@@ -1,0 +1,270 @@
+#include "fakedisplay.h"
+#include "framebuilder.h"
+#include "framecache.h"
+#include "frameloader.h"
+#include "loadprogress.h"
+#include "sampleformat.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
+#include <QtGui/qopengl.h>
+#include <QtTest/QTest>
+
+#include <ImfChannelList.h>
+#include <ImfFrameBuffer.h>
+#include <ImfHeader.h>
+#include <ImfOutputFile.h>
+
+#include <limits>
+#include <vector>
+
+using namespace TImageLibrary;
+using Bytes = QByteArray;
+
+namespace {
+
+/// One layer for each channel, named alike.
+CTImage makeImage(std::vector<CTImageChannel> channels)
+{
+    std::vector<CTImageLayer> layers;
+    for (CTImageChannel &channel : channels) {
+        const std::string name = channel.GetChannelName();
+        std::vector<CTImageChannel> own;
+        own.push_back(std::move(channel));
+        layers.emplace_back(name, std::move(own));
+    }
+    return CTImage(30, 20, true, std::move(layers));
+}
+
+std::unique_ptr<ImageFrame> frameOf(const TPlaneFormat &format)
+{
+    std::vector<CTImageChannel> channels;
+    channels.emplace_back("", format);
+    return buildFrame(makeImage(std::move(channels)), std::string());
+}
+
+/// A file of float channels, the first one all 1.0, the second 2.0, and so on.
+void writeExr(const QString &path, const Bytes &names, int side = 2)
+{
+    Imf::Header header(side, side);
+    Imf::FrameBuffer pixels;
+    std::vector<std::vector<float>> planes;
+    for (const Bytes &name : names.split(' ')) {
+        header.channels().insert(name.constData(), Imf::Channel(Imf::FLOAT));
+        planes.emplace_back(std::size_t(side * side), float(planes.size() + 1));
+        pixels.insert(name.constData(),
+                      Imf::Slice(Imf::FLOAT, reinterpret_cast<char *>(planes.back().data()), sizeof(float),
+                                 sizeof(float) * std::size_t(side)));
+    }
+    Imf::OutputFile file(path.toLocal8Bit().constData(), header);
+    file.setFrameBuffer(pixels);
+    file.writePixels(side);
+}
+
+} // namespace
+
+class FrameLoaderTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void formats();
+    void composite();
+    void layers_data();
+    void layers();
+    void failures_data();
+    void failures();
+    void cached();
+    void downsampling();
+    void progress();
+
+private:
+    QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
+    LoadResult load(const char *name, const std::string &layer = {}, int downsampling = 0);
+    /// First float of each plane of the last upload.
+    QList<float> uploadedValues() const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    CacheTotals m_totals;
+    float m_fraction = 0.0F; ///< last one that a load reported
+    std::unique_ptr<FakeDisplay> m_display;
+    std::unique_ptr<FrameCache> m_cache;
+};
+
+void FrameLoaderTest::init()
+{
+    m_cache.reset();
+    m_totals = {};
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_display = std::make_unique<FakeDisplay>();
+    m_cache = std::make_unique<FrameCache>(m_totals, *m_display);
+}
+
+LoadResult FrameLoaderTest::load(const char *name, const std::string &layer, int downsampling)
+{
+    m_fraction = 0.0F;
+    const auto note = [](float fraction, void *user) { *static_cast<float *>(user) = fraction; };
+    return FrameLoader(*m_cache, *m_display)
+        .load({path(name).toStdString(), layer, false, downsampling, note, &m_fraction});
+}
+
+QList<float> FrameLoaderTest::uploadedValues() const
+{
+    QList<float> values;
+    for (const Bytes &plane : m_display->uploaded)
+        values << *reinterpret_cast<const float *>(plane.constData());
+    return values;
+}
+
+void FrameLoaderTest::formats()
+{
+    const auto frame = frameOf({.width = 3, .height = 2, .depth = 2, .isFloat = true, .samples = 4});
+    QCOMPARE(frame->internalFormat, unsigned(GL_RGBA16F));
+    QCOMPARE(frame->pixelType, unsigned(GL_HALF_FLOAT));
+    QCOMPARE(frame->byteSize, std::uint64_t(3 * 2 * 4 * 2));
+    QCOMPARE(frame->planeSizes.front(), (PlaneSize{3, 2}));
+    QCOMPARE(frame->channelLayout, std::string("RGBA"));
+    QVERIFY(frame->yFlipped && !frame->premultiplied && !frame->isYCbCr);
+    QCOMPARE(frameOf({.width = 1, .height = 1, .depth = 1})->channelLayout, std::string("Luminance"));
+    // An integer format for one sample, normalised ones for more.
+    QCOMPARE(frameOf({.width = 1, .height = 1, .depth = 2})->internalFormat, unsigned(GL_R16UI));
+    QCOMPARE(frameOf({.width = 1, .height = 1, .depth = 2, .samples = 3})->internalFormat,
+             unsigned(GL_RGB16));
+    QVERIFY(!frameOf({.width = 1, .height = 1, .depth = 1, .samples = 2}));
+    QVERIFY(!frameOf({.width = 1, .height = 1, .depth = 8}));
+
+    constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+    QCOMPARE(planeBytes(kMost, kMost, 1, 4), std::optional(4 * std::uint64_t(kMost) * std::uint64_t(kMost)));
+    QVERIFY(!planeBytes(kMost, kMost, 3, 4) && !planeBytes(-1, -1, 1, 1) && !planeBytes(0, 1, 1, 1));
+}
+
+void FrameLoaderTest::composite()
+{
+    std::vector<CTImageChannel> channels;
+    channels.emplace_back("Y", TPlaneFormat{.width = 4, .height = 2, .depth = 2, .isFloat = true});
+    channels.emplace_back("BY", TPlaneFormat{.width = 2, .height = 1, .depth = 2, .isFloat = true});
+    channels.emplace_back("wide", TPlaneFormat{.width = 2, .height = 1, .depth = 4, .isFloat = true});
+    channels.emplace_back("short", TPlaneFormat{.width = 2, .height = 1, .depth = 2});
+    channels.emplace_back("many",
+                          TPlaneFormat{.width = 2, .height = 1, .depth = 2, .isFloat = true, .samples = 3});
+    const CTImage image = makeImage(std::move(channels));
+
+    CompositeLayer composite{"YCbCr", {"BY", "Y"}, "Y,Cb,Cr", true};
+    const auto frame = buildFrame(image, composite);
+    QCOMPARE(frame->planeSizes, (std::vector<PlaneSize>{{2, 1}, {4, 2}}));
+    QCOMPARE(frame->planes.back(), image.GetLayer("Y")->GetDefaultChannel()->GetChannelData());
+    QCOMPARE(frame->byteSize, std::uint64_t(2 * (2 + 8)));
+    QCOMPARE(frame->internalFormat, unsigned(GL_R16F));
+    QVERIFY(frame->isYCbCr && frame->premultiplied && frame->yFlipped);
+    // Samples of another kind than the default layer's would be read as if they were of its kind.
+    for (const char *other : {"wide", "short", "many", "missing"}) {
+        composite.members.back() = other;
+        QVERIFY2(!buildFrame(image, composite), other);
+    }
+}
+
+void FrameLoaderTest::layers_data()
+{
+    QTest::addColumn<Bytes>("channels");
+    QTest::addColumn<Bytes>("layer");
+    QTest::addColumn<Bytes>("layout");
+    QTest::addColumn<QList<float>>("values"); // the channel's place in the list, per texture
+    const Bytes colour = "A B G R p.B p.G p.R Z";
+    using Values = QList<float>;
+    QTest::newRow("colour") << colour << Bytes() << Bytes("R,G,B,A") << Values{4, 3, 2, 1};
+    QTest::newRow("the default layer") << colour << Bytes("deep") << Bytes("R") << Values{4};
+    QTest::newRow("luma") << Bytes("Y BY RY A") << Bytes() << Bytes("Y,Cb,Cr,A") << Values{1, 2, 3, 4};
+}
+
+void FrameLoaderTest::layers()
+{
+    QFETCH(const Bytes, channels);
+    QFETCH(const Bytes, layer);
+    writeExr(path("a.exr"), channels);
+    QVERIFY(load("a.exr", layer.toStdString()).shown());
+    const ImageFrame &frame = *m_display->shown;
+    QTEST(Bytes::fromStdString(frame.channelLayout), "layout");
+    QTEST(uploadedValues(), "values");
+    QCOMPARE(frame.formatName, std::string("exr"));
+    QCOMPARE(m_fraction, 1.0F);
+    QVERIFY(frame.planes.empty()); // they went with the image
+}
+
+void FrameLoaderTest::failures_data()
+{
+    QTest::addColumn<int>("keptBytes"); // of a sound file; -1 for no file
+    QTest::addColumn<LoadOutcome>("outcome");
+    QTest::addColumn<bool>("isCleared");
+    QTest::newRow("missing") << -1 << LoadOutcome::NotFound << false;
+    QTest::newRow("empty") << 0 << LoadOutcome::Corrupted << true;
+    QTest::newRow("header cut") << 40 << LoadOutcome::Corrupted << false;
+    QTest::newRow("pixels cut") << 450 << LoadOutcome::Corrupted << false;
+}
+
+/// A failure leaves the cache as it was, and the next try starts anew.
+void FrameLoaderTest::failures()
+{
+    QFETCH(const int, keptBytes);
+    writeExr(path("a.exr"), "Z", 64);
+    QVERIFY(load("a.exr").shown());
+    QFile cut(path("b.exr"));
+    QVERIFY(keptBytes < 0 || (QFile::copy(path("a.exr"), path("b.exr")) && cut.resize(keptBytes)));
+    QTEST(load("b.exr").outcome, "outcome");
+    QTEST(m_display->shown == nullptr, "isCleared");
+    QVERIFY(m_cache->contains(path("a.exr").toStdString())
+            && !m_cache->contains(path("b.exr").toStdString()));
+    writeExr(path("b.exr"), "Z");
+    QVERIFY(load("b.exr").shown());
+}
+
+/// Shown again after its image and its file are gone, a frame in main memory has its own pixels.
+void FrameLoaderTest::cached()
+{
+    m_totals.videoMemoryBudget = 0;
+    writeExr(path("a.exr"), "R G B");
+    writeExr(path("b.exr"), "Z");
+    QVERIFY(load("a.exr").shown() && load("b.exr").shown());
+    QCOMPARE(m_display->textures, 1);
+    QVERIFY(QFile::remove(path("a.exr")));
+    const LoadResult again = load("a.exr");
+    QVERIFY(again.shown() && !again.layers);
+    QCOMPARE(uploadedValues(), (QList<float>{1, 2, 3}));
+}
+
+void FrameLoaderTest::downsampling()
+{
+    QImage image(100, 50, QImage::Format_RGB888);
+    image.fill(Qt::red);
+    QVERIFY(image.save(path("a.png")) && image.scaled(9, 9).save(path("small.png")));
+    QVERIFY(load("a.png", {}, 4).shown());
+    QCOMPARE(m_display->shown->planeSizes.front(), (PlaneSize{6, 3}));
+    QCOMPARE(m_display->uploaded.front().left(3), QByteArrayLiteral("\xff\0\0"));
+    QVERIFY(load("small.png", {}, 4).shown());
+    QCOMPARE(m_display->shown->planeSizes.front(), (PlaneSize{1, 1})); // a side never becomes 0
+}
+
+void FrameLoaderTest::progress()
+{
+    std::int64_t now = 41;
+    LoadProgress progress([&now] { return now; });
+    const auto report = [&progress](float fraction) {
+        const LoadProgress::Step step = progress.report(fraction);
+        return Bytes::number(step.value) + (step.barVisible ? " bar" : "")
+            + (step.setWaitCursor ? " wait" : "") + (step.restoreCursor ? " restore" : "");
+    };
+    for (int load = 0; load < 2; ++load) {
+        QCOMPARE(report(0.25009F), Bytes("2500 bar"));
+        QCOMPARE(report(0.5F), Bytes("5000 bar"));
+        now += 1;
+        QCOMPARE(report(0.75F), Bytes("7500 bar wait"));
+        QCOMPARE(report(0.99999F), Bytes("9999 bar"));
+        QCOMPARE(report(1.0F), Bytes("0 restore"));
+    }
+    // A cursor that this load did not set is another's.
+    QCOMPARE(report(-1e30F), Bytes("0 bar"));
+    QCOMPARE(report(std::numeric_limits<float>::quiet_NaN()), Bytes("0"));
+}
+
+QTEST_GUILESS_MAIN(FrameLoaderTest)
+#include "tst_frameloader.moc"
