@@ -9,7 +9,6 @@
 #include "windowplacement.h"
 #include "windowshadow.h"
 
-#include <QtCore/QPointer>
 #include <QtCore/QSettings>
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
@@ -209,12 +208,12 @@ void QSkinnedDialog::setRefresh()
 void QSkinnedDialog::setDefaultState(bool showPopup)
 {
     if (showPopup) {
-        const QPointer<QSkinnedDialog> guard(this);
+        // A dialog that goes while it asks takes the question with it: that is no yes either.
         const auto answer = QSkinnedMessageBox::question(
             this, product::kProductTitle,
             tr("Are you sure you want to set the default size and position for this dialog ?"),
             QMessageBox::Yes | QMessageBox::No);
-        if (!guard || answer != QMessageBox::Yes)
+        if (answer != QMessageBox::Yes)
             return;
     }
     QSettings settings;

@@ -257,6 +257,7 @@ private Q_SLOTS:
     void headerButtonsAct()
     {
         Dialog dialog;
+        dialog.setStyleSheet(QStringLiteral("QPushButton { min-width: 0px; padding: 1px 3px }"));
         dialog.setShowRefresh(true);
         dialog.setTitle(QString(200, QLatin1Char('t')));
         dialog.resize(250, 150);
