@@ -23,6 +23,13 @@ if(TARROW_SANITIZE)
   add_link_options(-fsanitize=${TARROW_SANITIZE})
 endif()
 
+# Keeps a program's libraries loaded to the end where leaks are looked for.
+function(tarrow_keep_libraries target)
+  if(TARROW_SANITIZE)
+    target_sources(${target} PRIVATE ${CMAKE_SOURCE_DIR}/tests/support/keeploaded.cpp)
+  endif()
+endfunction()
+
 find_program(TARROW_CCACHE ccache)
 if(TARROW_CCACHE)
   set(CMAKE_C_COMPILER_LAUNCHER ${TARROW_CCACHE})
