@@ -51,7 +51,8 @@ bool runsMake(std::span<const char> bytes, std::size_t size)
 {
     std::size_t made = 0;
     for (std::size_t i = 0; i < bytes.size();) {
-        const int count = static_cast<signed char>(bytes[i]);
+        const int byte = static_cast<unsigned char>(bytes[i]);
+        const int count = byte < 128 ? byte : byte - 256;
         made += count < 0 ? std::size_t(-count) : std::size_t(count) + 1;
         i += count < 0 ? std::size_t(-count) + 1 : 2;
     }

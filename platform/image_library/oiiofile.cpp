@@ -174,6 +174,7 @@ std::vector<std::string> OiioFile::layers() const
     if (isInterleaved())
         return {std::string()};
     std::vector<std::string> names;
+    names.reserve(std::size_t(m_spec.nchannels));
     for (int channel = 0; channel < m_spec.nchannels; ++channel)
         names.push_back(channelName(m_spec, channel));
     return names;
