@@ -65,8 +65,8 @@ double receiveMessages()
     QByteArray payload;
     QObject::connect(&socket, &QLWTCPSocket::messageReady, &socket, [&] {
         uint command = 0;
-        while (socket.hasMessage())
-            messages += socket.getMessage(&command, &payload, nullptr) ? 1 : 0;
+        while (socket.getMessage(&command, &payload, nullptr))
+            ++messages;
         if (messages == kFrames)
             loop.quit();
     });

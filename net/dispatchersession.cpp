@@ -67,10 +67,9 @@ void DispatcherSession::drain(const std::function<void(uint command, QByteArray 
     const QPointer<QLWTCPSocket> socket = m_socket;
     uint command = 0;
     QByteArray data;
-    while (socket && socket == m_socket && socket->hasMessage()) {
-        if (socket->getMessage(&command, &data, nullptr))
-            process(command, &data);
-    }
+    // A message that cannot be taken out leaves nothing behind it to go on with.
+    while (socket && socket == m_socket && socket->getMessage(&command, &data, nullptr))
+        process(command, &data);
 }
 
 void DispatcherSession::logIn()

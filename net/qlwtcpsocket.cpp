@@ -15,7 +15,10 @@
 namespace {
 
 constexpr qint64 kBufferLimit = qint64(1024) * 1024;
-constexpr qint64 kReadSize = 65535;
+// Small reads keep what is read, cut into frames and copied out of them in the processor's nearest cache, and so does a
+// limit on what the toolkit reads ahead; the limit also holds while a modal box keeps us from reading.
+constexpr qint64 kReadSize = 16384;
+constexpr qint64 kReadAhead = qint64(512) * 1024;
 // What the toolkit may hold of our queue: its own write buffer knows no limit.
 constexpr qint64 kWriteAhead = qint64(64) * 1024;
 constexpr auto kHeartbeatCheck = std::chrono::seconds(5);
@@ -36,8 +39,7 @@ QLWTCPSocket::QLWTCPSocket(QObject *parent)
 {
     m_receiveBuffer.reserve(kBufferLimit);
     m_sendBuffer.reserve(kBufferLimit);
-    // Without a limit the toolkit would go on buffering while a modal box keeps us from reading.
-    setReadBufferSize(kBufferLimit);
+    setReadBufferSize(kReadAhead);
     connect(this, &QIODevice::readyRead, this, &QLWTCPSocket::readReady);
     connect(this, &QIODevice::bytesWritten, this, &QLWTCPSocket::writeReady);
     connect(this, &QAbstractSocket::disconnected, this, [this] { m_sendBuffer.resize(0); });
@@ -128,23 +130,19 @@ bool QLWTCPSocket::getMessage(uint *command, QByteArray *data, uint *param)
     const FrameReader::Next found = m_receiveBuffer.take(frame);
     if (param)
         *param = frame.header.param;
-    if (found == FrameReader::Next::Frame) {
-        *command = frame.header.command;
-        return takePayload(frame, data);
+    if (found != FrameReader::Next::Frame) {
+        data->resize(0);
+        if (found == FrameReader::Next::Broken)
+            breakStream("a frame of negative length");
+        return false;
     }
-    data->clear();
-    if (found == FrameReader::Next::Broken)
-        breakStream("a frame of negative length");
-    return false;
-}
-
-bool QLWTCPSocket::takePayload(const RawFrame &frame, QByteArray *data)
-{
+    *command = frame.header.command;
     if (frame.header.type == FrameHeader::Compressed)
         return inflateMessage(frame, data);
-    // The memory of the last message serves the next.
     const qsizetype size = frame.header.type == FrameHeader::NoPayload ? 0 : frame.payload.size() + 1;
-    data->resize(size);
+    // The memory of the last message serves the next.
+    if (data->size() != size)
+        data->resize(size);
     if (size > 0) {
         char *to = data->data();
         std::memcpy(to, frame.payload.data(), std::size_t(size - 1));

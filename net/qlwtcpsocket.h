@@ -62,7 +62,6 @@ public Q_SLOTS:
 private:
     bool queueMessage(qsizetype position, uint command, const QByteArray &payload, uint param);
     void writeQueued();
-    bool takePayload(const RawFrame &frame, QByteArray *data);
     bool inflateMessage(const RawFrame &frame, QByteArray *data);
     void breakStream(const char *why);
     void clearBuffers();
