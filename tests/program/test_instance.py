@@ -4,39 +4,42 @@ import os
 import signal
 import tempfile
 
-from desktop import alertor, client_windows, second_start, starting_alertor, write_template
-from farmtest import check, equal, run, wait_for
+from desktop import WINDOW, alertor, second_start, starting_alertor, write_template, xdotool
+from farmtest import check, equal, run, wait_for, windows
 
 HAND_OVER = 5  # seconds that the second start may wait for the first
 START = 20  # seconds for a start on a busy machine, sanitizers included
 
 
-def wakes_up():
-    first = alertor()
-    # The icon alone, then the hint beside it: once for the start, once for the second start.
-    for what in ("the hint that the client runs in the background", "the hint once more"):
-        wait_for(lambda: len(client_windows()) == 2, what)
-        wait_for(lambda: len(client_windows()) == 1, "the hint to go")
-        if what.endswith("background"):
-            second_start()
-    check(first.is_running(), "the first instance is gone")
-    return first
+def put_away(count=1):
+    """Without a tray a window that was put away shows who was woken up."""
+    for window in wait_for(lambda: len(windows(WINDOW)) == count and windows(WINDOW), "the window"):
+        xdotool("windowminimize", window)
+    wait_for(lambda: not windows(WINDOW), "the window to go to the task bar")
 
 
-def killed_leaves_nothing(first):
+def woken_up(count=1):
+    wait_for(lambda: len(windows(WINDOW)) == count, "the window that was woken up")
+
+
+def killed_leaves_nothing():
     folder = os.environ["XDG_RUNTIME_DIR"]
-    first.kill()
+    alertor().kill()
     check({"tarrow-alertor.socket", "tarrow-alertor.lock"} <= set(os.listdir(folder)), "nothing was left behind")
     first = alertor()
+    put_away()
     second_start()
+    woken_up()
     first.quit()
 
 
 def stopped_does_not_hold():
     first = alertor()
+    put_away()
     os.kill(first.pid, signal.SIGSTOP)
     second_start(HAND_OVER + START)
     os.kill(first.pid, signal.SIGCONT)
+    woken_up()
     first.quit()
 
 
@@ -48,6 +51,7 @@ def starting_hears_of_it():
     second_start()
     equal(len(first.matching("^tarrow.app: ")), 0, "the first instance was no longer starting")
     first.expect("^tarrow.app: OpenGL ")
+    woken_up()
     first.quit()
     write_template("slow.py", "")
 
@@ -66,16 +70,20 @@ def of_two_at_once_one_remains():
 def users_do_not_meet():
     with tempfile.TemporaryDirectory() as other:
         mine, theirs = alertor(), alertor(XDG_RUNTIME_DIR=other)
+        put_away(2)
         second_start()
+        woken_up(1)
         second_start(XDG_RUNTIME_DIR=other)
+        woken_up(2)
         mine.quit()
+        put_away()
         second_start(XDG_RUNTIME_DIR=other)
+        woken_up()
         theirs.quit()
 
 
 def test():
-    first = wakes_up()
-    killed_leaves_nothing(first)
+    killed_leaves_nothing()
     stopped_does_not_hold()
     starting_hears_of_it()
     of_two_at_once_one_remains()

@@ -7,7 +7,7 @@ import socket
 import subprocess
 
 import farmtest
-from desktop import alertor, click_icon, client_windows, starting_alertor, write_template, xdotool
+from desktop import alertor, click_icon, client_windows, second_start, starting_alertor, write_template, xdotool
 from farmtest import PATIENCE, check, equal, farm, run, wait_for, windows, write_settings
 
 KEPT_OPEN = []
@@ -48,8 +48,20 @@ def opengl_is_probed():
         equal(names, [] if "QT_XCB_GL_INTEGRATION" in environment else wanted, f"found with {options} {environment}")
 
 
+def a_second_start_gives_the_hint_again():
+    first = alertor()
+    # The icon alone, then the hint beside it: once for the start, once for the second start.
+    wait_for(lambda: len(client_windows()) == 2, "the hint that the client runs in the background")
+    wait_for(lambda: len(client_windows()) == 1, "the hint to go")
+    second_start()
+    wait_for(lambda: len(client_windows()) == 2, "the hint once more")
+    first.quit()
+
+
 def during_the_splash():
     write_template("slow.py", "import time\nprint('loading', flush=True)\ntime.sleep(1)\n")
+    # The splash tells of this one next, and handles what has come meanwhile.
+    write_template("then.py", "")
     program = starting_alertor()
     program.expect("^loading$")
     return program
@@ -103,6 +115,7 @@ def with_the_menu_open():
 def test():
     texts_need_no_display()
     opengl_is_probed()
+    a_second_start_gives_the_hint_again()
     write_settings(SETTINGS)
     folder = os.path.join(os.environ["XDG_CONFIG_HOME"], "Loomwright")
     with open(os.path.join(folder, "Tarrow\\9\\Alertor.conf"), "rb") as file:
