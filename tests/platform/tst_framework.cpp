@@ -53,6 +53,7 @@ private Q_SLOTS:
     void sequenceMask();
     void fileFromMask_data();
     void fileFromMask();
+    void paths_data();
     void paths();
     void foldersAndFiles();
     void unreadableFolders();
@@ -151,18 +152,33 @@ void FrameworkTest::fileFromMask()
     QCOMPARE(bytes(TFileSystem::GetFileFromMask(mask.toStdString(), frame)), path);
 }
 
+void FrameworkTest::paths_data()
+{
+    QTest::addColumn<QByteArray>("folder");
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QByteArray>("path");
+    QTest::addColumn<QByteArray>("folderAgain");
+
+    const auto row = [](const char *folder, const char *name, const char *path, const char *folderAgain) {
+        QTest::addRow("%s + %s", folder, name)
+            << QByteArray(folder) << QByteArray(name) << QByteArray(path) << QByteArray(folderAgain);
+    };
+    row("/a", "b", "/a/b", "/a");
+    row("/a//", "//b", "/a/b", "/a");
+    row("/", "b", "/b", "/");
+    row("", "b", "b", "");
+    row("/a/", "", "/a/", "/a");
+    row("/\xff", "\xc3.exr", "/\xff/\xc3.exr", "/\xff");
+}
+
 void FrameworkTest::paths()
 {
-    const char *const rows[][4] = {
-        // folder, name, both, the folder of both
-        {"/a", "b", "/a/b", "/a"}, {"/a//", "//b", "/a/b", "/a"},
-        {"/", "b", "/b", "/"},     {"", "b", "b", ""},
-        {"/a/", "", "/a/", "/a"},  {"/\xff", "\xc3.exr", "/\xff/\xc3.exr", "/\xff"},
-    };
-    for (const auto &[folder, name, path, folderAgain] : rows) {
-        QCOMPARE(bytes(TFileSystem::JoinPath(folder, name)), path);
-        QCOMPARE(bytes(TFileSystem::GetFilePath(path)), folderAgain);
-    }
+    QFETCH(const QByteArray, folder);
+    QFETCH(const QByteArray, name);
+    QFETCH(const QByteArray, path);
+    QFETCH(const QByteArray, folderAgain);
+    QCOMPARE(bytes(TFileSystem::JoinPath(folder.toStdString(), name.toStdString())), path);
+    QCOMPARE(bytes(TFileSystem::GetFilePath(path.toStdString())), folderAgain);
 }
 
 void FrameworkTest::foldersAndFiles()

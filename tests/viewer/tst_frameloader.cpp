@@ -71,6 +71,7 @@ private Q_SLOTS:
     void init();
     void formats();
     void composite();
+    void layers_data();
     void layers();
     void failures_data();
     void failures();
@@ -161,25 +162,31 @@ void FrameLoaderTest::composite()
     }
 }
 
+void FrameLoaderTest::layers_data()
+{
+    QTest::addColumn<Bytes>("channels");
+    QTest::addColumn<Bytes>("layer");
+    QTest::addColumn<Bytes>("layout");
+    QTest::addColumn<QList<float>>("values"); // the channel's place in the list, per texture
+    const Bytes colour = "A B G R p.B p.G p.R Z";
+    using Values = QList<float>;
+    QTest::newRow("colour") << colour << Bytes() << Bytes("R,G,B,A") << Values{4, 3, 2, 1};
+    QTest::newRow("the default layer") << colour << Bytes("deep") << Bytes("R") << Values{4};
+    QTest::newRow("luma") << Bytes("Y BY RY A") << Bytes() << Bytes("Y,Cb,Cr,A") << Values{1, 2, 3, 4};
+}
+
 void FrameLoaderTest::layers()
 {
-    const auto loaded = [this](const char *name, const Bytes &channels, const char *layer) {
-        writeExr(path(name), channels);
-        return load(name, layer).shown();
-    };
-    const Bytes colour = "A B G R p.B p.G p.R Z";
-    QVERIFY(loaded("a.exr", colour, "deep"));
-    QCOMPARE(m_display->shown->channelLayout, "R");
-    QCOMPARE(uploadedValues(), QList<float>{4}); // the channel's place in the list, per texture
-    QVERIFY(loaded("b.exr", "Y BY RY A", ""));
-    QCOMPARE(m_display->shown->channelLayout, "Y,Cb,Cr,A");
-    QCOMPARE(uploadedValues(), (QList<float>{1, 2, 3, 4}));
-    QVERIFY(loaded("c.exr", colour, ""));
-    QCOMPARE(m_display->shown->channelLayout, "R,G,B,A");
-    QCOMPARE(uploadedValues(), (QList<float>{4, 3, 2, 1}));
-    QCOMPARE(m_display->shown->formatName, "exr");
+    QFETCH(const Bytes, channels);
+    QFETCH(const Bytes, layer);
+    writeExr(path("a.exr"), channels);
+    QVERIFY(load("a.exr", layer.toStdString()).shown());
+    const ImageFrame &frame = *m_display->shown;
+    QTEST(Bytes::fromStdString(frame.channelLayout), "layout");
+    QTEST(uploadedValues(), "values");
+    QCOMPARE(frame.formatName, std::string("exr"));
     QCOMPARE(m_fraction, 1.0F);
-    QVERIFY(m_display->shown->planes.empty()); // they went with the image
+    QVERIFY(frame.planes.empty()); // they went with the image
 }
 
 void FrameLoaderTest::failures_data()
