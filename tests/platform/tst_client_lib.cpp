@@ -52,6 +52,7 @@ private Q_SLOTS:
     void escapes_data();
     void escapes();
     void numbers();
+    void counts_data();
     void counts();
     void jobRoundTrip();
     void jobTruncated();
@@ -61,6 +62,7 @@ private Q_SLOTS:
     void frameRange_data();
     void frameRange();
     void numberedFrames();
+    void tooManyFrames();
 };
 
 void ClientLibTest::escapes_data()
@@ -70,10 +72,13 @@ void ClientLibTest::escapes_data()
     QTest::addColumn<bool>("written"); // whether the writer gives this value for the text
 
     QTest::newRow("line feed") << QByteArray("a\\nb") << QByteArray("a\nb") << true;
+    QTest::newRow("backslash, n") << QByteArray("a\\\\nb") << QByteArray("a\\nb") << true;
     QTest::newRow("backslash, line feed") << QByteArray("\\\\\\n") << QByteArray("\\\n") << true;
+    QTest::newRow("ends in backslash") << QByteArray("a\\\\") << QByteArray("a\\") << true;
     QTest::newRow("lone backslash at the end") << QByteArray("a\\") << QByteArray("a\\") << false;
     QTest::newRow("other escape") << QByteArray("a\\tb") << QByteArray("a\\tb") << false;
     QTest::newRow("zero byte") << QByteArray("a\\\\\0b", 5) << QByteArray("a\\\0b", 4) << true;
+    QTest::newRow("empty") << QByteArray("") << QByteArray("") << true;
 }
 
 void ClientLibTest::escapes()
@@ -97,7 +102,10 @@ void ClientLibTest::numbers()
                         "-2147483648",
                         "4294967295",
                         "-1",
-                        "12 "};
+                        "",
+                        "12 ",
+                        "0x10",
+                        "+1"};
     TRecordReader reader(values);
     QCOMPARE(reader.integer(), kLowest);
     QCOMPARE(reader.integer(), 0);
@@ -111,17 +119,24 @@ void ClientLibTest::numbers()
     QCOMPARE(reader.text(), std::string());
 }
 
+void ClientLibTest::counts_data()
+{
+    QTest::addColumn<QByteArray>("announced");
+    QTest::addColumn<int>("count");
+    QTest::newRow("fewer") << QByteArray("1") << 1;
+    QTest::newRow("all") << QByteArray("2") << 2;
+    QTest::newRow("one too many") << QByteArray("3") << 2;
+    QTest::newRow("largest") << QByteArray("9223372036854775807") << 2;
+    QTest::newRow("too large") << QByteArray("18446744073709551615") << 0;
+    QTest::newRow("negative") << QByteArray("-1") << 0;
+}
+
 void ClientLibTest::counts()
 {
-    const auto count = [](const char *announced) {
-        const Values values{announced, "1", "2", "3", "4", "5", "6", "7", "8"};
-        return TRecordReader(values).count(3);
-    };
-    QCOMPARE(count("1"), 1U);
-    QCOMPARE(count("3"), 2U);
-    QCOMPARE(count("9223372036854775807"), 2U);
-    QCOMPARE(count("18446744073709551615"), 0U);
-    QCOMPARE(count("-1"), 0U);
+    QFETCH(const QByteArray, announced);
+    QFETCH(const int, count);
+    const Values values{announced.toStdString(), "1", "2", "3", "4", "5", "6", "7", "8"};
+    QCOMPARE(TRecordReader(values).count(3), static_cast<std::size_t>(count));
 }
 
 void ClientLibTest::jobRoundTrip()
@@ -133,6 +148,9 @@ void ClientLibTest::jobRoundTrip()
     job.attributeSetString("left over", "from an earlier record");
     QVERIFY(job.Unmarshall(values, nullptr));
     QCOMPARE(job.Marshall(), record);
+    QCOMPARE(job.getName(), sampleJob().getName());
+    QCOMPARE(job.getTasksMask(), 0xFFFFFFFEU);
+    QCOMPARE(job.attributeGetString("output_folder"), std::string("/out\\n"));
     QCOMPARE(job.attributeGetString("left over"), std::string());
 
     // The order of the values is what other programs of the farm rely on.
@@ -220,17 +238,23 @@ void ClientLibTest::frameRange_data()
         QTest::addRow("%lld-%lld/%lld", start, end, step) << start << end << step << count << first;
     };
     constexpr quint64 kTooMany = TFramesRange::kMaxFrames + 1;
+    row(1, 10, 1, 10, 1);
     row(1, 10, 4, 3, 1);
     row(1, 10, 0, 10, 1);
     row(10, 1, -4, 3, 2);
+    row(5, 5, -1, 1, 5);
     row(10, 1, 1, 0);
+    row(10, 1, 0, 0);
     row(1, 10, -1, 0);
     row(1, 1'000'000, 1, 1'000'000, 1);
     row(0, 1'000'000, 1, kTooMany);
+    row(999'999, 0, -1, 1'000'000, 0);
     row(kLowest, kHighest, 1, kTooMany);
+    row(kHighest, kLowest, -1, kTooMany);
     row(kLowest, kHighest, kHighest, 3, kLowest);
     row(kHighest, kLowest, kLowest, 2, -1);
     row(kHighest, kHighest, kHighest, 1, kHighest);
+    row(kLowest, kLowest, kLowest, 1, kLowest);
 }
 
 void ClientLibTest::frameRange()
@@ -264,6 +288,13 @@ void ClientLibTest::numberedFrames()
     QCOMPARE(TFramesRange::NumberedFrames({{20, 10, -5}, {9, 11, 1}, {3, 1, 1}}, step),
              (std::set<long>{9, 10, 11, 15, 20}));
     QCOMPARE(step, 5);
+    TFramesRange::NumberedFrames({{1, 2, kLowest}}, step);
+    QCOMPARE(step, kHighest);
+}
+
+void ClientLibTest::tooManyFrames()
+{
+    std::int64_t step = 0;
     QCOMPARE(TFramesRange::NumberedFrames({{1, 500'000, 1}, {500'001, 1'000'000, 1}}, step).size(),
              1'000'000U);
     QVERIFY(TFramesRange::NumberedFrames({{1, 500'000, 1}, {1, 500'001, 1}}, step).empty());

@@ -57,8 +57,10 @@ private Q_SLOTS:
     void paths();
     void foldersAndFiles();
     void unreadableFolders();
+    void base64_data();
     void base64();
     void lists();
+    void replace();
     void library();
     void settingsFolders();
 };
@@ -75,16 +77,26 @@ void FrameworkTest::sequenceMask_data()
     row("/a/v2/shot.0007.exr", "/a/v2/shot.####.exr", 7);
     row("/a/shot_v02.0101.exr", "/a/shot_v02.####.exr", 101);
     row("/a/shot.0007.exr.gz", "/a/shot.####.exr.gz", 7);
+    row("shot010", "shot###", 10);
+    row("file7.exr", "file#.exr", 7);
     row("0007.exr", "####.exr", 7);
     row(".0007", ".####", 7);
+    row("/a/clip_12.mp4", "/a/clip_##.mp4", 12);
+    row("/a/clip.r3d", "");
     row("/a/v2/clip.j2k", "");
     row("shot.0007", "");
+    row("/v2/still.exr", "");
     row("/a/0007/", "");
     row("", "");
+    // Signs
     row("a.-0012.exr", "a.####.exr", -12);
+    row("a_-1.exr", "a_#.exr", -1);
+    row("-0012.exr", "####.exr", -12);
+    row("/a/-5", "/a/#", -5);
     row("shot-0012.exr", "shot-####.exr", 12);
     row("a.--0012.exr", "a.--####.exr", 12);
     row("a.-0000.exr", "");
+    // Limits of the number and of the field
     row("a.2147483647.exr", "a.##########.exr", 2147483647);
     row("a.2147483648.exr", "");
     row("a.-2147483648.exr", "a.##########.exr", std::numeric_limits<int>::min());
@@ -92,9 +104,12 @@ void FrameworkTest::sequenceMask_data()
     row("a.99999999999999999999999.exr", "");
     row("a.00000000000000000000000000000007.exr", "a.################################.exr", 7);
     row("a.000000000000000000000000000000007.exr", "");
+    // Names that could be taken for another mask
     row("shot_v02.####.exr", "");
+    row("a1_@@.exr", "");
     row("a1_%04d.exr", "");
     row("take7b.exr", "");
+    row("0007_logo@2x.exr", "");
     row("/a#b/v%04d/x_07.exr", "/a#b/v%04d/x_##.exr", 7);
     row("bad\xff\xc3_07.exr", "bad\xff\xc3_##.exr", 7);
 }
@@ -128,10 +143,14 @@ void FrameworkTest::fileFromMask_data()
     row("/a/v2/b.####.exr", 7, "/a/v2/b.0007.exr");
     row("b.@@@.exr", 7, "b.007.exr");
     row("b.%04d.exr", 7, "b.0007.exr");
+    row("b.%010d.exr", 7, "b.0000000007.exr");
     row("b.####.exr", -12, "b.-0012.exr");
+    row("b.%04d.exr", -12, "b.-0012.exr");
     row("b.##.exr", 12345, "b.12345.exr");
     row("b.##.exr", kLowest, "b.-9223372036854775808.exr");
+    row("b.####", 0, "b.0000");
     row("b.#", 10, "b.10");
+    row("b#.exr", 3, "b3.exr");
     row("b.##.####.exr", 7, "b.##.0007.exr");
     row("b.####_%02d.exr", 7, "b.####_07.exr");
     row("b.%04d.@@x", 7, "b.%04d.07x");
@@ -168,6 +187,8 @@ void FrameworkTest::paths_data()
     row("/", "b", "/b", "/");
     row("", "b", "b", "");
     row("/a/", "", "/a/", "/a");
+    row("a", "/", "a/", "a");
+    row("", "", "", "");
     row("/\xff", "\xc3.exr", "/\xff/\xc3.exr", "/\xff");
 }
 
@@ -225,12 +246,24 @@ void FrameworkTest::unreadableFolders()
     }
 }
 
+void FrameworkTest::base64_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QByteArray>("plain");
+    QTest::newRow("line breaks") << QByteArray("Zm9v\r\nYm Fy\n") << QByteArray("foobar");
+    QTest::newRow("no padding") << QByteArray("Zm9vYg") << QByteArray("foob");
+    QTest::newRow("ends at =") << QByteArray("Zm8=Zm9v") << QByteArray("fo");
+    QTest::newRow("lone character") << QByteArray("Zm9vY") << QByteArray("foo");
+    QTest::newRow("foreign bytes") << QByteArray("\xff\x80Zm_-9v", 8) << QByteArray("foo");
+    QTest::newRow("only =") << QByteArray("====") << QByteArray();
+}
+
 void FrameworkTest::base64()
 {
-    QCOMPARE(TStringHelper::FromBase64("Zm9v\r\nYm Fy\nZm9vY"), "foobarfoo");
-    QCOMPARE(TStringHelper::FromBase64("Zm9vYg"), "foob");
-    QCOMPARE(TStringHelper::FromBase64("Zm8=Zm9v"), "fo");
-    QCOMPARE(TStringHelper::FromBase64("\xff\x80Zm_-9v"), "foo");
+    QFETCH(const QByteArray, text);
+    QFETCH(const QByteArray, plain);
+    QCOMPARE(bytes(TStringHelper::FromBase64(text.toStdString())), plain);
+
     QByteArray all;
     for (int i = 0; i < 256; ++i) {
         const std::string encoded = TStringHelper::ToBase64(all.toStdString());
@@ -248,6 +281,11 @@ void FrameworkTest::lists()
     QCOMPARE(joined(TStringHelper::TokenizeString("ab", "")), "<ab>");
     QCOMPARE(joined(TStringHelper::DecodeFramesMask(" /a b/c.#.exr ;; \t;d.##.exr;")),
              "</a b/c.#.exr><d.##.exr>");
+    QCOMPARE(joined(TStringHelper::DecodeFramesMask("")), "");
+}
+
+void FrameworkTest::replace()
+{
     QCOMPARE(bytes(TStringHelper::Replace("a.py.py.bak", ".py", "")), "a.bak");
     QCOMPARE(bytes(TStringHelper::Replace("aaa", "aa", "aab")), "aaba");
     QCOMPARE(bytes(TStringHelper::Replace("abc", "", "x")), "abc");
@@ -269,7 +307,12 @@ void FrameworkTest::library()
     SetLibraryContext("Alertor", &context);
     SetLibraryContext(nullptr, &context);
     QCOMPARE(GetLibraryContext("Alertor"), &context);
+    QCOMPARE(GetLibraryContext("Other"), nullptr);
     QCOMPARE(GetLibraryContext(nullptr), nullptr);
+    SetLibraryContext("Alertor", nullptr);
+    QCOMPARE(GetLibraryContext("Alertor"), nullptr);
+
+    SetLibraryContext("Alertor", &context);
     ShutdownLibrary();
     QCOMPARE(GetLibraryContext("Alertor"), nullptr);
     QVERIFY(GetModuleBasePath().empty());

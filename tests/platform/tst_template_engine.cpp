@@ -107,6 +107,7 @@ private Q_SLOTS:
     void importFolders();
     void hooks_data();
     void hooks();
+    void messageBytes();
     void sending();
     void messageWhileSending();
     void lostStandardOutput();
@@ -164,6 +165,8 @@ void TestTemplateEngine::refusedSources_data()
         {"nested too deeply", QByteArray(200000, '('), "Error"},
         {"raises", "\n\n1 / 0\n", "ZeroDivisionError: division by zero, at line 3"},
         {"text of many lines", "raise ValueError('a\\n\\nb')", "ValueError: a b"},
+        {"exit", "import sys\nsys.exit(3)", "SystemExit: 3, at line 2"},
+        {"missing module", "import not_there", "No module named 'not_there'"},
         {"no exception text", "class E(Exception):\n  def __str__(self): raise self\nraise E",
          "cannot be shown"},
         {"ID too large", "TEMPLATE_ID = 2**31", "TEMPLATE_ID is no 32-bit integer"},
@@ -186,8 +189,10 @@ void TestTemplateEngine::refusedSources()
     QVERIFY2(line.contains(report), line);
     QCOMPARE(line.count('\n'), 1);
     QVERIFY(line.endsWith('\n'));
+
     QVERIFY(engine.load(u"good.py"_qs, hook("pass")));
     QVERIFY(!engine.call(12));
+    QCOMPARE(errors.take(), QByteArray());
 }
 
 void TestTemplateEngine::refusedFiles()
@@ -270,16 +275,21 @@ void TestTemplateEngine::hooks_data()
     const QByteArray id = "TEMPLATE_ID = 12\n";
     addRows({
         {"missing", id, ""},
+        {"garbage returned", hook("return [object(), lambda: 1]"), ""},
         {"raises", hook("raise ValueError('one\\ntwo')"), "ValueError: one\ntwo"},
         {"place", hook("\n\nundefined"), "x.py\", line 6, in onCustom"},
         {"exit", hook("raise SystemExit(1)"), "SystemExit: 1"},
+        {"interrupt", hook("raise KeyboardInterrupt"), "KeyboardInterrupt"},
         {"endless recursion", hook("onCustomDispatcherMessageToAlertor(message)"), "RecursionError"},
         {"no callable", id + "onCustomDispatcherMessageToAlertor = 5", "'int' object is not callable"},
+        {"no parameter", id + "def onCustomDispatcherMessageToAlertor(): pass",
+         "takes 0 positional arguments"},
         {"broken look-up", id + "def __getattr__(name):\n  if name[:2] == 'on': raise OSError", "OSError"},
         {"no text", hook("class E(Exception):\n  def __str__(self): raise self\nraise E"),
          "E: <exception str()"},
         {"text that is no UTF-8", hook("raise ValueError('\\udcff')"), "ValueError: \\udcff"},
         {"wrong payload", hook("alertor.send(1, 'text')"), "TypeError: send()"},
+        {"wrong command", hook("alertor.send(-1, b'')"), "TypeError: send()"},
         {"wrong parameter", hook("alertor.send(1, b'', 2**32)"), "TypeError: send()"},
         {"send in a thread",
          hook("import concurrent.futures\nwith concurrent.futures.ThreadPoolExecutor() as pool:\n"
@@ -305,6 +315,19 @@ void TestTemplateEngine::hooks()
         QCOMPARE(engine.call(13, "next"), std::nullopt);
     }
     QCOMPARE(link.payloads(), (QList<QByteArray>{"next", "next"}));
+}
+
+void TestTemplateEngine::messageBytes()
+{
+    Engine engine;
+    RecordedLink link;
+    QVERIFY(
+        engine.load(u"x.py"_qs, hook("assert type(message) is bytes\nalertor.send(1, message + b'\\0|')")));
+    for (const char *message : {"", "text\0behind", "\xff\xfe \n\x01"})
+        QCOMPARE(engine.call(12, message), std::nullopt);
+    QCOMPARE(link.payloads(),
+             (QList<QByteArray>{QByteArray("\0|", 2), QByteArray("text\0|", 6),
+                                QByteArray("\xff\xfe \n\x01\0|", 7)}));
 }
 
 void TestTemplateEngine::sending()

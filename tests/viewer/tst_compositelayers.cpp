@@ -44,11 +44,14 @@ void CompositeLayersTest::layers_data()
                                               << QByteArray(entry) << QByteArray(textures);
     };
     row("-", "Default", "Default", true, "Default", "");
+    row("R G B Z", "RGB Z", "", false, "RGB", "R G B");
     row("R G B Z", "RGB Z", "Default", true, "RGB", "R G B");
     row("R G B Z", "RGB Z", "spec.R", false, "spec.R", "");
     row("R G B A p.R p.G p.B -", "p.RGB RGBA Default", "Default", false, "RGBA", "R G B A");
+    row("R G B A p.R p.G p.B -", "p.RGB RGBA Default", "spec.R", true, "RGBA", "R G B A");
     row("R G A r g b", "A G R b g r", "G", true, "G", "");
     row("R G B A Y BY RY", "YCbCr RGBA", "YCbCr", true, "YCbCr", "Y BY RY");
+    row("d.R d.G d.B d.A spec.R A", "d.RGBA A spec.R", "", true, "d.RGBA", "d.R d.G d.B d.A");
     row("a.R a.G a.B b.Y b.BY b.RY b.A xR xG xB", "b.YCbCrA a.RGB xB xG xR", "", true, "b.YCbCrA",
         "b.Y b.BY b.RY b.A");
 }

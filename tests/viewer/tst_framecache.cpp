@@ -66,6 +66,7 @@ void FrameCacheTest::placement_data()
     QTest::addColumn<int>("mainBudget");
     QTest::addColumn<QByteArray>("inserted");
     QTest::addColumn<QByteArray>("state");
+    QTest::newRow("video memory first") << 24 << 24 << QByteArray("abcd") << QByteArray("aV bV cM dM");
     QTest::newRow("full: one leaves each") << 24 << 24 << QByteArray("abcde") << QByteArray("bV dM eV");
     QTest::newRow("budgets are soft") << 13 << 1 << QByteArray("abc") << QByteArray("aV bV cM");
     QTest::newRow("no budget") << 0 << 0 << QByteArray("abc") << QByteArray("cV");

@@ -125,6 +125,7 @@ void FrameLoaderTest::formats()
     QCOMPARE(frame->byteSize, std::uint64_t(3 * 2 * 4 * 2));
     QCOMPARE(frame->planeSizes.front(), (PlaneSize{3, 2}));
     QCOMPARE(frame->channelLayout, std::string("RGBA"));
+    QVERIFY(frame->yFlipped && !frame->premultiplied && !frame->isYCbCr);
     QCOMPARE(frameOf({.width = 1, .height = 1, .depth = 1})->channelLayout, std::string("Luminance"));
     // An integer format for one sample, normalised ones for more.
     QCOMPARE(frameOf({.width = 1, .height = 1, .depth = 2})->internalFormat, unsigned(GL_R16UI));
@@ -154,6 +155,7 @@ void FrameLoaderTest::composite()
     QCOMPARE(frame->planeSizes, (std::vector<PlaneSize>{{2, 1}, {4, 2}}));
     QCOMPARE(frame->planes.back(), image.GetLayer("Y")->GetDefaultChannel()->GetChannelData());
     QCOMPARE(frame->byteSize, std::uint64_t(2 * (2 + 8)));
+    QCOMPARE(frame->internalFormat, unsigned(GL_R16F));
     QVERIFY(frame->isYCbCr && frame->premultiplied && frame->yFlipped);
     // Samples of another kind than the default layer's would be read as if they were of its kind.
     for (const char *other : {"wide", "short", "many", "missing"}) {
@@ -259,7 +261,8 @@ void FrameLoaderTest::progress()
         QCOMPARE(report(0.99999F), Bytes("9999 bar"));
         QCOMPARE(report(1.0F), Bytes("0 restore"));
     }
-    QCOMPARE(report(-1e30F), Bytes("0 bar")); // a cursor that this load did not set is another's
+    // A cursor that this load did not set is another's.
+    QCOMPARE(report(-1e30F), Bytes("0 bar"));
     QCOMPARE(report(std::numeric_limits<float>::quiet_NaN()), Bytes("0"));
 }
 

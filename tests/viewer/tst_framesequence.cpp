@@ -72,6 +72,7 @@ void FrameSequenceTest::paths_data()
     row("n.000.exr", -1, false, "n.###.exr: -1 0 @0");
     row("end.2147483647.exr", -1, false, "end.##########.exr: 2147483646 2147483647 @2147483647");
     row("lone.0007.exr", -1, true, "file lone.0007.exr: 7 @7");
+    row("logo.png", 5, true, "file logo.png: 1 @1");
     row("shot.%02d.exr", 4, true, "shot.%02d.exr: 3 4 5 @4");
     row("shot.##.exr", 4, false, "file shot.##.exr: 1 @1");
     row("shot.##.exr", -1, true, "file shot.00.exr: 0 @0");
@@ -100,16 +101,20 @@ void FrameSequenceTest::records_data()
         QTest::newRow(title) << isChunk << ranges << QByteArray(name) << current << QByteArray(expected);
     };
     row("chunk", true, {3, 10, 3}, "o.##.exr", 6, "o.##.exr: 3 6 9 @6 by 3");
+    row("chunk of one frame", true, {7, 7, 1}, "o.##.exr", 1, "file o.07.exr: 7 @7");
+    row("no step", true, {3, 4, 0}, "o.##.exr", 5, "o.##.exr: 3 4 @3");
     row("backwards", true, {4, 3, -1}, "o.##.exr", 4, "o.##.exr: 3 4 @4");
     row("unreachable", true, {5, 3, 1}, "o.##.exr", 1, "file o.01.exr: 1 @1");
     row("most", true, {1, 1'000'000, 1}, "o.##.exr", 1, "o.##.exr: 1..1000000 @1");
     row("too many", true, {0, 1'000'000, 1}, "o.##.exr", 1, "file o.01.exr: 1 @1");
+    row("all there are", true, {kLowest, kHighest, 1}, "o.##.exr", 1, "file o.01.exr: 1 @1");
     row("beyond 32 bits", true, {kHighest - 1, kHighest, 1}, "o.##.exr", 1, "file o.01.exr: 1 @1");
     row("enormous step", true, {1, 5, kLowest}, "o.##.exr", 1, "file o.01.exr: 1 @1 by 2147483647");
     row("job", false, {1, 3, 2, 9, 9, 1}, "o.##.exr", 2, "o.##.exr: 1 3 9 @2 by 2");
     row("job by a file", false, {5, 6, 1}, "o.06.exr", 7, "o.##.exr: 5 6 @5");
     row("job by a film", false, {5, 6, 1}, "o.mov", 6, "file o.mov: 5 6 @6");
     row("job of one frame", false, {7, 7, 1}, "o.##.exr", 7, "file o.01.exr: 1 @1");
+    row("its file", false, {7, 7, 1}, "o.07.exr", 1, "file o.07.exr: 7 @7");
     row("no range", false, {}, "o.##.exr", 1, "file o.01.exr: 1 @1");
 }
 
