@@ -32,7 +32,7 @@ constexpr quint32 kFlashTicks = 4;
 constexpr quint32 kConnectionTicks = 16;
 constexpr int kAcknowledgedColumnWidth = 30;
 // In the order of the columns; the last takes what is left.
-constexpr int kColumnWidths[EventsModel::ColumnCount] = {100, kAcknowledgedColumnWidth, 155, 260, 90, 170, 60,
+constexpr int kColumnWidths[EventsModel::ColumnCount] = {100, kAcknowledgedColumnWidth, 175, 260, 90, 170, 60,
                                                          200};
 constexpr int kSingleFramePacket = 2; // packet type of the jobs that make one frame
 
