@@ -1,5 +1,6 @@
 #include "imagefiles.h"
 
+#include <QtCore/QtEndian>
 #include <QtTest/QTest>
 
 #include <algorithm>
@@ -44,22 +45,20 @@ qsizetype peakMemory()
 QByteArray bigEndian(std::initializer_list<quint32> values)
 {
     QByteArray bytes;
-    for (const quint32 value : values)
-        bytes.append(char(value >> 24))
-            .append(char(value >> 16))
-            .append(char(value >> 8))
-            .append(char(value));
+    for (const quint32 value : values) {
+        const quint32 stored = qToBigEndian(value);
+        bytes.append(reinterpret_cast<const char *>(&stored), sizeof stored);
+    }
     return bytes;
 }
 
 QByteArray littleEndian(std::initializer_list<quint32> values)
 {
     QByteArray bytes;
-    for (const quint32 value : values)
-        bytes.append(char(value))
-            .append(char(value >> 8))
-            .append(char(value >> 16))
-            .append(char(value >> 24));
+    for (const quint32 value : values) {
+        const quint32 stored = qToLittleEndian(value);
+        bytes.append(reinterpret_cast<const char *>(&stored), sizeof stored);
+    }
     return bytes;
 }
 

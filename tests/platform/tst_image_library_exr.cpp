@@ -14,6 +14,7 @@ private Q_SLOTS:
     void compressions();
     void dataWindows_data();
     void dataWindows();
+    void types_data();
     void types();
     void lumaChroma();
     void layerNames_data();
@@ -144,29 +145,41 @@ void ImageLibraryExrTest::dataWindows()
     }
 }
 
+void ImageLibraryExrTest::types_data()
+{
+    QTest::addColumn<QByteArray>("names");
+    QTest::addColumn<int>("depth");
+
+    QTest::newRow("half") << QByteArray("R") << 2;
+    QTest::newRow("float") << QByteArray("Z") << 4;
+    QTest::newRow("integer") << QByteArray("id") << 4;
+    QTest::newRow("half beside float") << QByteArray("R Z") << 4;
+    QTest::newRow("half beside integer") << QByteArray("R id") << 4;
+}
+
 void ImageLibraryExrTest::types()
 {
+    QFETCH(const QByteArray, names);
+    QFETCH(const int, depth);
     const ImageFolder folder;
     ExrSpec spec;
     spec.channels = {{"R"}, {"Z", Imf::FLOAT}, {"id", Imf::UINT}};
     for (const Imf::Compression compression : {Imf::ZIP_COMPRESSION, Imf::NO_COMPRESSION}) {
         spec.compression = compression;
         writeExr(folder("a.exr"), spec);
-        for (const std::set<std::string> &wanted :
-             std::vector<std::set<std::string>>{{"R"}, {"Z"}, {"id"}, {"R", "Z"}, {"R", "id"}}) {
-            const Image image = loadImage(folder("a.exr"), wanted);
-            QVERIFY(image);
-            QCOMPARE(image->GetLayers().size(), wanted.size());
-            for (const CTImageLayer &layer : image->GetLayers()) {
-                const CTImageChannel &channel = *layer.GetDefaultChannel();
-                // One wide channel makes all of them wide.
-                QCOMPARE(channel.GetChannelBitDepth(), wanted == std::set<std::string>{"R"} ? 2 : 4);
-                QCOMPARE(channel.GetChannelBitType(), 1);
-                const int index = layer.GetLayerName() == "R" ? 0 : layer.GetLayerName() == "Z" ? 1 : 2;
-                for (const QPoint pixel : {QPoint(0, 0), QPoint(39, 0), QPoint(7, 13), QPoint(39, 29)})
-                    QCOMPARE(sampleAt(channel, pixel.x(), pixel.y()),
-                             double(testValue(pixel.x(), pixel.y(), index)));
-            }
+        std::set<std::string> wanted;
+        for (const QByteArray &name : names.split(' '))
+            wanted.insert(name.toStdString());
+        const Image image = loadImage(folder("a.exr"), wanted);
+        QVERIFY(image);
+        QCOMPARE(image->GetLayers().size(), wanted.size());
+        for (const CTImageLayer &layer : image->GetLayers()) {
+            QCOMPARE(layer.GetDefaultChannel()->GetChannelBitDepth(), depth);
+            QCOMPARE(layer.GetDefaultChannel()->GetChannelBitType(), 1);
+            const int index = layer.GetLayerName() == "R" ? 0 : layer.GetLayerName() == "Z" ? 1 : 2;
+            for (const QPoint pixel : {QPoint(0, 0), QPoint(39, 0), QPoint(7, 13), QPoint(39, 29)})
+                QCOMPARE(sampleAt(*layer.GetDefaultChannel(), pixel.x(), pixel.y()),
+                         double(testValue(pixel.x(), pixel.y(), index)));
         }
     }
 }
