@@ -9,7 +9,6 @@ Splash::Splash()
     : QSplashScreen(QPixmap(QStringLiteral(":/") + QStringLiteral("Misc/") + QStringLiteral("Resources/")
                             + QStringLiteral("splash.png")))
 {
-    setWindowTitle(tr("Tarrow Alertor"));
     create();
     addDropShadow(this);
     auto *version = new QLabel(
