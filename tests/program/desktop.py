@@ -4,7 +4,7 @@ import os
 import subprocess
 
 import farmtest
-from farmtest import PATIENCE, Failure, Program, equal, wait_for
+from farmtest import PATIENCE, Failure, Program, equal, wait_for, windows
 
 WINDOW = "Tarrow Alertor"
 READY = r"^tarrow\.app: OpenGL "
@@ -23,10 +23,19 @@ def write_template(name, text):
         file.write(text)
 
 
+def splash_is_up():
+    """The splash has the window's title, and is known by its type."""
+    types = [["xprop", "-id", window, "_NET_WM_WINDOW_TYPE"] for window in windows(WINDOW)]
+    return any(
+        "_TYPE_SPLASH" in subprocess.run(command, capture_output=True, text=True, check=False).stdout for command in types
+    )
+
+
 def alertor(*options, **environment):
-    """The client with nobody to connect to, once it has probed OpenGL, the last of its start."""
+    """The client with nobody to connect to, once it has started: probed OpenGL, then closed its splash."""
     program = starting_alertor(*options, **environment)
     program.expect(READY)
+    wait_for(lambda: not splash_is_up(), "the splash to close")
     return program
 
 

@@ -4,7 +4,7 @@ import os
 import signal
 import tempfile
 
-from desktop import WINDOW, alertor, second_start, starting_alertor, write_template, xdotool
+from desktop import READY, WINDOW, alertor, second_start, splash_is_up, starting_alertor, write_template, xdotool
 from farmtest import check, equal, run, wait_for, windows
 
 HAND_OVER = 5  # seconds that the second start may wait for the first
@@ -50,7 +50,8 @@ def starting_hears_of_it():
     first.expect("^loading$")
     second_start()
     equal(len(first.matching("^tarrow.app: ")), 0, "the first instance was no longer starting")
-    first.expect("^tarrow.app: OpenGL ")
+    first.expect(READY)
+    wait_for(lambda: not splash_is_up(), "the splash to close")
     woken_up()
     first.quit()
     write_template("slow.py", "")
@@ -61,7 +62,7 @@ def of_two_at_once_one_remains():
     wait_for(lambda: [program.is_running() for program in both].count(False) == 1, "one of two to end")
     for program in both:
         if program.is_running():
-            program.expect("^tarrow.app: OpenGL ")
+            program.expect(READY)
             program.quit()
         else:
             equal(program.exit_code(), 0, "exit code of the one that ended")

@@ -5,25 +5,24 @@ import subprocess
 from desktop import WINDOW, alertor, click_icon, client_windows, icon_position, second_start, tray, xdotool
 from farmtest import check, equal, run, wait_for, windows, write_settings
 
+TITLE = f"^{WINDOW}$"
+
 
 def state_of_window():
-    """What the window manager knows of the window's states, in one line."""
-    window = xdotool("search", "--name", f"^{WINDOW}$")
-    result = subprocess.run(
-        ["xprop", "-id", window[-1], "WM_STATE", "_NET_WM_STATE"], capture_output=True, text=True, check=False
-    )
-    return result.stdout
+    """What the window manager knows of the states of the windows with the title: the closed splash may be one more."""
+    found = [["xprop", "-id", window, "WM_STATE", "_NET_WM_STATE"] for window in xdotool("search", "--name", TITLE)]
+    return "".join(subprocess.run(command, capture_output=True, text=True, check=False).stdout for command in found)
 
 
 def close_window():
-    xdotool("search", "--onlyvisible", "--name", f"^{WINDOW}$", "windowactivate", "--sync")
+    xdotool("search", "--onlyvisible", "--name", TITLE, "windowactivate", "--sync")
     xdotool("key", "alt+F4")
 
 
 def without_a_tray():
     wait_for(lambda: windows(WINDOW), "the window")
     shown = client_windows()
-    xdotool("search", "--onlyvisible", "--name", f"^{WINDOW}$", "windowactivate", "--sync")
+    xdotool("search", "--onlyvisible", "--name", TITLE, "windowactivate", "--sync")
     xdotool("key", "alt+m")
     wait_for(lambda: len(client_windows()) == len(shown) + 1, "the menu of the button")
     xdotool("key", "Escape")
