@@ -75,10 +75,17 @@ def icon_position():
     return None
 
 
-def click_icon(button, times=1):
-    """Wants the bubbles off: their arrow covers the icon."""
-    x, y = wait_for(icon_position, "the icon in the tray")
-    xdotool("mousemove", x, y, "click", "--repeat", times, "--delay", 60, button)
+def click_icon(button, times, condition, what):
+    """Clicks until the condition holds, as a user would: an icon that has just come may be on its way to its place.
+    Wants the bubbles off: their arrow covers the icon."""
+    for attempt in range(4):
+        x, y = wait_for(icon_position, "the icon in the tray")
+        xdotool("mousemove", x, y, "click", "--repeat", times, "--delay", 60, button)
+        try:
+            return wait_for(condition, what, PATIENCE // 6)
+        except Failure:
+            if attempt == 3:
+                raise
 
 
 def client_windows():

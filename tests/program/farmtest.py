@@ -139,10 +139,10 @@ def windows(title):
     return result.stdout.split()
 
 
-def wait_for(condition, what):
+def wait_for(condition, what, patience=PATIENCE):
     """For what no program prints: asks again and again until the condition holds."""
     pause = threading.Event()
-    for _ in range(PATIENCE * 10):
+    for _ in range(patience * 10):
         result = condition()
         if result:
             return result

@@ -107,8 +107,7 @@ def with_a_dialog_open():
 def with_the_menu_open():
     program = alertor()
     wait_for(lambda: len(client_windows()) == 1, "the icon")
-    click_icon(3)
-    wait_for(lambda: len(client_windows()) == 2, "the tray menu")
+    click_icon(3, 1, lambda: len(client_windows()) == 2, "the tray menu")
     return program
 
 

@@ -41,12 +41,10 @@ def with_a_tray():
     wait_for(lambda: not windows(WINDOW), "the window to hide")
     icon = client_windows()
     equal(len(icon), 1, "number of visible windows")
-    click_icon(3)
-    wait_for(lambda: len(client_windows()) == 2, "the tray menu")
+    click_icon(3, 1, lambda: len(client_windows()) == 2, "the tray menu")
     xdotool("key", "Escape")
     wait_for(lambda: client_windows() == icon, "the menu to go")
-    click_icon(1, times=2)
-    wait_for(lambda: windows(WINDOW), "the window after a double click")
+    click_icon(1, 2, lambda: windows(WINDOW), "the window after a double click")
 
 
 def test():
