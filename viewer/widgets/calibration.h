@@ -1,0 +1,16 @@
+#pragma once
+
+/// How the picture's colours are shown; what each value does is in the image fragment shader. Neutral by default.
+struct Calibration {
+    float gamma = 1.0F; ///< of the output
+    float brightness = 1.0F;
+    float saturation = 1.0F;
+    float contrast = 1.0F;
+    float levelInputMin = 0.0F;
+    float levelInputMax = 1.0F;
+    float levelOutputMin = 0.0F;
+    float levelOutputMax = 1.0F;
+    float softClip = 1.0F;
+
+    bool operator==(const Calibration &other) const = default;
+};

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "calibration.h"
+
+#include <framedisplay.h>
+
+#include <QtCore/QPoint>
+#include <QtCore/QSize>
+#include <QtGui/QColor>
+#include <QtGui/QImage>
+#include <QtGui/QOpenGLFunctions>
+#include <QtOpenGLWidgets/QOpenGLWidget>
+
+/// Shows one frame, calibrated and zoomed, over a checker; the middle button asks to pan, the wheel to zoom.
+/// All sizes and offsets here are device pixels: at zoom 1 a pixel of the frame is one of the screen.
+/// Without a usable context it shows nothing and says so in the log.
+class imageWidget final : public QOpenGLWidget, public FrameDisplay, private QOpenGLFunctions {
+    Q_OBJECT
+
+public:
+    explicit imageWidget(QWidget *parent = nullptr);
+    ~imageWidget() override;
+
+    const ImageFrame *frame() const;
+    float zoomFactor() const;
+    QPoint pan() const;
+    /// Of the widget's picture area.
+    QSize viewSize() const;
+    /// The frame's size times the zoom; of 320 x 240 pixels without a frame.
+    QSize displayedSize() const;
+    /// Known once the context is initialised, see initialized().
+    bool floatTexturesUsable() const;
+    /// The frame at its own pixels on the checker and the background, without border and HUD; needs no window on the
+    /// screen. Null without a frame or a context.
+    QImage grabPicture();
+
+    /// Keeps the wanted offset within the displayed picture; returns what it became.
+    QPoint setPan(QPoint wanted);
+
+    void uploadTextures(ImageFrame &frame) override;
+    void deleteTextures(ImageFrame &frame) override;
+    void showFrame(ImageFrame *frame) override;
+    void frameDies(const ImageFrame &frame) override;
+
+    /// Textures of frames and HUDs that all pictures of the program hold now.
+    static int liveTextures();
+
+public Q_SLOTS:
+    void setCalibration(const Calibration &calibration);
+    void setSourceGamma(float gamma);
+    void setChannelViewMode(int mode);
+    void setCheckerOn(bool on);
+    void setAlphaOn(bool on);
+    void setHudOn(bool on);
+    void setZoomFactor(float zoom);
+    void setBackgroundColor(const QColor &color);
+    void setHudColor(const QColor &color);
+
+Q_SIGNALS:
+    /// Values for the viewer's scroll bars, not yet clamped.
+    void horizontalScrollRequested(int value);
+    void verticalScrollRequested(int value);
+    void zoomInRequested();
+    void zoomOutRequested();
+    /// The view has another size.
+    void resized();
+    /// A context has come up; again after the widget has moved to another window.
+    void initialized();
+};
