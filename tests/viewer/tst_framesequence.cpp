@@ -74,8 +74,9 @@ void FrameSequenceTest::paths_data()
     row("lone.0007.exr", -1, true, "file lone.0007.exr: 7 @7");
     row("logo.png", 5, true, "file logo.png: 1 @1");
     row("shot.%02d.exr", 4, true, "shot.%02d.exr: 3 4 5 @4");
-    row("shot.##.exr", 4, false, "file shot.##.exr: 1 @1");
-    row("shot.##.exr", -1, true, "file shot.00.exr: 0 @0");
+    row("shot.##.exr", 4, false, "file shot.04.exr: 4 @4");
+    row("shot.##.exr", -1, true, "shot.##.exr: 3 4 5 @3");
+    row("none.##.exr", -1, true, "file none.00.exr: 0 @0");
     row("lone.####.exr", 7, true, "file lone.0007.exr: 7 @7");
 }
 
@@ -112,8 +113,8 @@ void FrameSequenceTest::records_data()
     row("enormous step", true, {1, 5, kLowest}, "o.##.exr", 1, "file o.01.exr: 1 @1 by 2147483647");
     row("job", false, {1, 3, 2, 9, 9, 1}, "o.##.exr", 2, "o.##.exr: 1 3 9 @2 by 2");
     row("job by a file", false, {5, 6, 1}, "o.06.exr", 7, "o.##.exr: 5 6 @5");
-    row("job by a film", false, {5, 6, 1}, "o.mov", 6, "file o.mov: 5 6 @6");
-    row("job of one frame", false, {7, 7, 1}, "o.##.exr", 7, "file o.01.exr: 1 @1");
+    row("job by a film", false, {5, 6, 1}, "o.mov", 6, "file o.mov: 1 @1");
+    row("job of one frame", false, {7, 7, 1}, "o.##.exr", 7, "file o.07.exr: 7 @7");
     row("its file", false, {7, 7, 1}, "o.07.exr", 1, "file o.07.exr: 7 @7");
     row("no range", false, {}, "o.##.exr", 1, "file o.01.exr: 1 @1");
 }

@@ -88,6 +88,7 @@ LoadOutcome FrameLoader::loadLayer(const LoadRequest &request, const std::string
 
     frame->filePath = request.path;
     frame->formatName = format;
+    frame->premultiplied = frame->premultiplied && request.premultiplied;
     frame->display = &m_display;
     m_display.uploadTextures(*frame);
     ImageFrame &kept = m_cache.insert(std::move(frame), request.path);

@@ -15,6 +15,7 @@ struct LoadRequest {
     std::string path;
     std::string layer; ///< the layer selector's entry; empty when there is none yet
     bool fresh = false; ///< the first frame of a frame set: the selector is to be filled anew
+    bool premultiplied = true; ///< off: colours count as straight, whatever the file says
     std::int32_t downsampling = 0; ///< halvings of width and height, at most LoadRequest::kMaxDownsampling
     TImageLibrary::TLoadProgress progress = nullptr;
     void *user = nullptr; ///< handed to `progress`

@@ -1,5 +1,7 @@
 #include "framesequence.h"
 
+#include "framesondisk.h"
+
 #include <filesystem.h>
 #include <tframesrange.h>
 
@@ -17,12 +19,12 @@ constexpr std::int64_t kMinFrame = std::numeric_limits<std::int32_t>::min();
 constexpr std::int64_t kMaxFrame = std::numeric_limits<std::int32_t>::max();
 
 /// Frame 1 stands for a range that is empty, refused, or out of a frame number's reach.
-void setFrames(FrameSequence &sequence, const std::vector<TFramesRange> &ranges, std::size_t leastFrames)
+void setFrames(FrameSequence &sequence, const std::vector<TFramesRange> &ranges)
 {
     std::int64_t step = 1;
     sequence.frames = TFramesRange::NumberedFrames(ranges, step);
     sequence.byFrame = static_cast<std::int32_t>(std::clamp<std::int64_t>(step, 1, kMaxFrame));
-    const bool isUsable = sequence.frames.size() >= leastFrames && *sequence.frames.begin() >= kMinFrame
+    const bool isUsable = !sequence.frames.empty() && *sequence.frames.begin() >= kMinFrame
         && *sequence.frames.rbegin() <= kMaxFrame;
     if (!isUsable)
         sequence.frames = {1};
@@ -32,25 +34,34 @@ void setFrames(FrameSequence &sequence, const std::vector<TFramesRange> &ranges,
 void takeRecord(FrameSequence &sequence, const FramesOrigin &origin, std::int32_t frame)
 {
     if (origin.chunk)
-        setFrames(sequence, {{origin.chunk->getStart(), origin.chunk->getEnd(), origin.chunk->getStep()}}, 1);
+        setFrames(sequence, {{origin.chunk->getStart(), origin.chunk->getEnd(), origin.chunk->getStep()}});
     else
-        setFrames(sequence, origin.job->GetFrameRanges(), 2);
+        setFrames(sequence, origin.job->GetFrameRanges());
     const auto first = static_cast<std::int32_t>(*sequence.frames.begin());
     const auto last = static_cast<std::int32_t>(*sequence.frames.rbegin());
     sequence.currentFrame = frame < first || frame > last ? first : frame;
 }
 
-/// Mask of a path that is to be shown as a sequence, else empty. A numbered file sets the starting frame.
-std::string sequenceMask(const FramesRequest &request, std::int32_t &start)
+struct PathMask {
+    std::string mask; ///< empty when the path is neither a mask nor a numbered file
+    bool showsSequence = false;
+};
+
+/// A numbered file sets the starting frame; so does, for want of a record, a mask that has no file of that frame.
+PathMask maskOf(const FramesRequest &request, bool hasRecord, std::int32_t &start)
 {
-    if (!TFileSystem::GetFileFromMask(request.path, 1).empty())
-        return request.maskIsSequence ? request.path : std::string();
+    const bool isMask = !TFileSystem::GetFileFromMask(request.path, 1).empty();
+    if (isMask) {
+        if (!hasRecord && !TFileSystem::CheckFile(TFileSystem::GetFileFromMask(request.path, start)))
+            start = firstFrameOnDisk(request.path).value_or(start);
+        return {request.path, request.maskIsSequence};
+    }
     std::int32_t number = 0;
     std::string mask = TFileSystem::GetSequenceMask(request.path, true, number);
     if (mask.empty() || mask == request.path)
         return {};
     start = number;
-    return mask;
+    return {std::move(mask), true};
 }
 
 std::set<long> existingRun(const std::string &mask, std::int32_t start)
@@ -96,22 +107,23 @@ std::optional<FrameSequence> openFrames(const FrameSequence &shown, const Frames
         sequence.frames = {1};
     }
 
-    const std::string mask = sequenceMask(request, start);
-    if (mask.empty())
+    const auto [mask, showsSequence] = maskOf(request, hasRecord, start);
+    if (mask.empty()) {
+        sequence.frames = {1};
+        sequence.currentFrame = 1;
         return sequence;
-    if (!hasRecord) {
+    }
+    if (!hasRecord && showsSequence) {
         sequence.frames = existingRun(mask, start);
         sequence.currentFrame = start;
     }
-    sequence.isSequence = sequence.frames.size() >= 2;
+    sequence.isSequence = showsSequence && sequence.frames.size() >= 2;
     if (sequence.isSequence) {
         sequence.framesPath = mask;
         return sequence;
     }
     sequence.frames = {start};
     sequence.currentFrame = start;
-    const std::string file = TFileSystem::GetFileFromMask(mask, start);
-    if (!file.empty() && file != mask)
-        sequence.framesPath = file;
+    sequence.framesPath = TFileSystem::GetFileFromMask(mask, start);
     return sequence;
 }

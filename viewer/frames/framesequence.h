@@ -36,7 +36,8 @@ struct FramesRequest {
 };
 
 /// The frames of a path. Those of a job or chunk are its records', capped like TFramesRange; those of a path are the
-/// unbroken run of existing files round its own number. Where fewer than two are found, the single file. Nothing when the
-/// path is the one in `shown` and not forced.
+/// unbroken run of existing files round its own number, those of a mask the run round the frame to start at, or round the
+/// first file on disk when that has none. Where fewer than two are found, the single file. Nothing when the path is the
+/// one in `shown` and not forced.
 std::optional<FrameSequence> openFrames(const FrameSequence &shown, const FramesRequest &request,
                                         const FramesOrigin &origin);

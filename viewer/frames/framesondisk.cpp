@@ -1,0 +1,63 @@
+#include "framesondisk.h"
+
+#include <filesystem.h>
+#include <iimagecore.h>
+
+#include <algorithm>
+#include <set>
+
+using TFramework::TFileSystem;
+
+namespace {
+
+std::set<std::string> namesIn(const std::string &folder)
+{
+    std::set<std::string> names;
+    std::string name;
+    TFramework::TDirectoryEnumeration *listing = TFileSystem::EnumDirFirstFile(folder, name);
+    if (!listing)
+        return names;
+    do
+        names.insert(name);
+    while (TFileSystem::EnumDirNextFile(listing, name));
+    TFileSystem::EnumDirClose(listing);
+    return names;
+}
+
+bool isImage(const std::string &path)
+{
+    return TFileSystem::CheckFile(path) && TImageLibrary::IImageCore::Probe(path.c_str());
+}
+
+} // namespace
+
+std::optional<std::int32_t> firstFrameOnDisk(const std::string &mask)
+{
+    std::optional<std::int32_t> first;
+    const std::string folder = TFileSystem::GetFilePath(mask);
+    for (const std::string &name : namesIn(folder.empty() ? "." : folder)) {
+        const std::string path = TFileSystem::JoinPath(folder, name);
+        std::int32_t frame = 0;
+        const bool isFrame = !TFileSystem::GetSequenceMask(path, true, frame).empty()
+            && TFileSystem::GetFileFromMask(mask, frame) == path && TFileSystem::CheckFile(path);
+        if (isFrame)
+            first = std::min(first.value_or(frame), frame);
+    }
+    return first;
+}
+
+std::string firstImageOf(const std::string &folder)
+{
+    std::string single;
+    for (const std::string &name : namesIn(folder)) {
+        const std::string path = TFileSystem::JoinPath(folder, name);
+        std::int32_t frame = 0;
+        const bool isNumbered = !TFileSystem::GetSequenceMask(path, true, frame).empty();
+        if ((!isNumbered && !single.empty()) || !isImage(path))
+            continue;
+        if (isNumbered)
+            return path;
+        single = path;
+    }
+    return single;
+}
