@@ -1,24 +1,29 @@
 #pragma once
 
-#include <QtWidgets/QWidget>
+#include "framestrip.h"
 
-#include <set>
+#include <QtGui/QColor>
+
 #include <string>
 
 class FrameCache;
 
-class imagesAllocationWidget : public QWidget {
+/// Shows which frames of the sequence are in the viewer's frame cache, and in which memory.
+class imagesAllocationWidget : public FrameStrip {
     Q_OBJECT
 
 public:
     explicit imagesAllocationWidget(QWidget *parent = nullptr);
 
-    QSize sizeHint() const override;
-
-    void setFrames(std::set<long> _frames);
-    void setRange(long startFrame, long endFrame);
     /// Mask from which a frame's file name is made.
     void setFileMask(const std::string &mask);
     /// Not owned; null shows nothing as cached.
     void setCache(const FrameCache *cache);
+
+private:
+    void drawColumn(QPainter &painter, const FrameColumn &column, QSize frame) const override;
+    QColor cacheColor(const FrameColumn &column) const;
+
+    std::string m_fileMask;
+    const FrameCache *m_cache = nullptr;
 };

@@ -1,22 +1,29 @@
 #pragma once
 
 #include "chunkmap.h"
+#include "framestrip.h"
 
-#include <QtWidgets/QWidget>
+#include <cstdint>
+#include <vector>
 
-#include <set>
-
-class imagesMarkerWidget : public QWidget {
+/// Shows which frames and chunks are marked for requeue. It holds what it was last told of both.
+class imagesMarkerWidget : public FrameStrip {
     Q_OBJECT
 
 public:
     explicit imagesMarkerWidget(QWidget *parent = nullptr);
 
-    QSize sizeHint() const override;
-
-    void setFrames(std::set<long> _frames);
-    void setRange(long startFrame, long endFrame);
     void setChunks(const ChunkMap &chunks);
     void setMarkedChunks(const MarkedChunks &chunks);
     void setMarkedFrames(const MarkedFrames &frames);
+
+private:
+    void drawColumn(QPainter &painter, const FrameColumn &column, QSize frame) const override;
+    bool hasMarkedFrame(const FrameColumn &column) const;
+    /// Of the column's chunk, null for none.
+    const QColor *chunkColor(const FrameColumn &column) const;
+
+    ChunkMap m_chunks;
+    MarkedChunks m_markedChunks;
+    std::vector<std::int32_t> m_markedFrames; ///< in order
 };

@@ -1,9 +1,18 @@
 #pragma once
 
+#include "framescale.h"
+
 #include <QtWidgets/QWidget>
 
+#include <cstdint>
 #include <set>
+#include <vector>
 
+class QPainter;
+
+/// The frame ruler under the picture: ticks and numbers of the frames that exist, the missing ones shaded, the current
+/// one in red. The left button scrubs and picks; Shift, Control and Alt make a pick a request to mark or unmark, which
+/// the signals carry. Setters do not repaint.
 class imageTimeline : public QWidget {
     Q_OBJECT
 
@@ -11,6 +20,7 @@ public:
     explicit imageTimeline(QWidget *parent = nullptr);
 
     QSize sizeHint() const override;
+    /// Frames from the first to the last, gaps included.
     Q_INVOKABLE size_t getLength() const;
 
 public Q_SLOTS:
@@ -18,12 +28,40 @@ public Q_SLOTS:
     void setRange(long startFrame, long endFrame);
     bool setByFrame(long step);
     void setPosition(long frame);
+    /// To the next frame that exists some steps on, or else the last; false when that is where it stands, and while the
+    /// user drags.
     bool moveNext();
     bool movePrevious();
     void moveFirst();
     void moveLast();
 
 Q_SIGNALS:
+    /// The user or a move has settled on a frame.
     void frameChanged(int frame, bool addChunk, bool addFrame, bool removeChunk, bool removeFrame);
+    /// A drag has passed onto another existing frame.
     void frameScrubbed(int frame, bool addChunk, bool addFrame, bool removeChunk, bool removeFrame);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    std::int32_t frameAt(const QMouseEvent &event) const;
+    /// Where steps from the position end; there is at least one frame.
+    std::int32_t stepped(std::int64_t step) const;
+    bool move(std::int64_t step);
+    bool moveTo(std::int32_t frame);
+    void dragTo(std::int32_t frame);
+    void show(std::int32_t frame);
+    void drawTicks(QPainter &painter, const std::vector<FrameColumn> &columns, int bottom) const;
+    void drawFrames(QPainter &painter, const std::vector<FrameColumn> &columns, int bottom) const;
+
+    FrameScale m_scale;
+    std::int32_t m_byFrame = 1;
+    std::int32_t m_position = 1;
+    std::int32_t m_scrubFrame = 1;
+    bool m_dragging = false;
 };

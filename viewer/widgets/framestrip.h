@@ -1,0 +1,31 @@
+#pragma once
+
+#include "framescale.h"
+
+#include <QtWidgets/QWidget>
+
+#include <set>
+
+class QPainter;
+
+/// A thin strip under the timeline on the same scale, that says something about every frame by a colour and hatches those
+/// that are missing. Takes no input; setters do not repaint.
+class FrameStrip : public QWidget {
+public:
+    QSize sizeHint() const override;
+
+    void setFrames(std::set<long> _frames);
+    void setRange(long startFrame, long endFrame);
+
+protected:
+    explicit FrameStrip(QWidget *parent);
+
+    void paintEvent(QPaintEvent *event) override;
+    const FrameScale &scale() const { return m_scale; }
+
+private:
+    /// Height is that of the strip's black inside.
+    virtual void drawColumn(QPainter &painter, const FrameColumn &column, QSize frame) const = 0;
+
+    FrameScale m_scale;
+};

@@ -1,0 +1,237 @@
+#include "imagetimeline.h"
+
+#include <QtGui/QGuiApplication>
+#include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr int kTickSpacing = 4;
+constexpr int kTickLength = 10;
+constexpr int kLineTop = 15;
+constexpr int kBaseline = 10;
+
+/// What the modifier keys that are down make of a pick.
+struct Request {
+    bool addChunk = false;
+    bool addFrame = false;
+    bool removeChunk = false;
+    bool removeFrame = false;
+};
+
+Request currentRequest()
+{
+    const Qt::KeyboardModifiers keys = QGuiApplication::keyboardModifiers();
+    const bool remove = keys.testFlag(Qt::AltModifier);
+    const bool chunk = keys.testFlag(Qt::ShiftModifier);
+    const bool frame = !chunk && keys.testFlag(Qt::ControlModifier);
+    return {chunk && !remove, frame && !remove, chunk && remove, frame && remove};
+}
+
+std::int32_t clamped(std::int64_t value, std::int64_t lowest = std::numeric_limits<std::int32_t>::min())
+{
+    constexpr std::int64_t kHighest = std::numeric_limits<std::int32_t>::max();
+    return static_cast<std::int32_t>(std::clamp(value, lowest, kHighest));
+}
+
+} // namespace
+
+imageTimeline::imageTimeline(QWidget *parent)
+    : QWidget(parent)
+{
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+QSize imageTimeline::sizeHint() const
+{
+    return {0, 60};
+}
+
+size_t imageTimeline::getLength() const
+{
+    const auto &frames = m_scale.frames();
+    return frames.size() < 2 ? 1 : static_cast<size_t>(std::int64_t{frames.back()} - frames.front() + 1);
+}
+
+void imageTimeline::setFrames(std::set<long> _frames)
+{
+    m_scale.setFrames(_frames);
+}
+
+void imageTimeline::setRange(long startFrame, long endFrame)
+{
+    m_scale.setRange(startFrame, endFrame);
+}
+
+bool imageTimeline::setByFrame(long step)
+{
+    m_byFrame = clamped(step, 1);
+    return true;
+}
+
+void imageTimeline::setPosition(long frame)
+{
+    m_position = m_scrubFrame = clamped(frame);
+}
+
+bool imageTimeline::moveNext()
+{
+    return move(m_byFrame);
+}
+
+bool imageTimeline::movePrevious()
+{
+    return move(-std::int64_t{m_byFrame});
+}
+
+void imageTimeline::moveFirst()
+{
+    if (!m_scale.frames().empty())
+        moveTo(m_scale.frames().front());
+}
+
+void imageTimeline::moveLast()
+{
+    if (!m_scale.frames().empty())
+        moveTo(m_scale.frames().back());
+}
+
+bool imageTimeline::move(std::int64_t step)
+{
+    return !m_scale.frames().empty() && moveTo(stepped(step));
+}
+
+bool imageTimeline::moveTo(std::int32_t frame)
+{
+    if (m_dragging || frame == m_position)
+        return false;
+    m_position = frame;
+    show(frame);
+    Q_EMIT frameChanged(frame, false, false, false, false);
+    return true;
+}
+
+std::int32_t imageTimeline::stepped(std::int64_t step) const
+{
+    const auto &frames = m_scale.frames();
+    const std::int64_t next = m_position + step;
+    if (next > frames.back())
+        return frames.back();
+    if (next < frames.front())
+        return frames.front();
+    // From frame to frame and not from step to step: a gap may be a billion steps wide.
+    const auto reached = [this, step](std::int64_t frame) { return (frame - m_position) % step == 0; };
+    if (step > 0) {
+        const auto from = std::lower_bound(frames.begin(), frames.end(), next);
+        const auto found = std::find_if(from, frames.end(), reached);
+        return found != frames.end() ? *found : frames.back();
+    }
+    const auto from = std::make_reverse_iterator(std::upper_bound(frames.begin(), frames.end(), next));
+    const auto found = std::find_if(from, frames.rend(), reached);
+    return found != frames.rend() ? *found : frames.front();
+}
+
+std::int32_t imageTimeline::frameAt(const QMouseEvent &event) const
+{
+    return m_scale.frameAt(event.position().toPoint().x(), width());
+}
+
+void imageTimeline::mousePressEvent(QMouseEvent *event)
+{
+    m_dragging = event->button() == Qt::LeftButton;
+    if (m_dragging)
+        dragTo(frameAt(*event));
+}
+
+void imageTimeline::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_dragging)
+        dragTo(frameAt(*event));
+}
+
+void imageTimeline::mouseReleaseEvent(QMouseEvent *event)
+{
+    const bool picks = m_dragging && event->button() == Qt::LeftButton;
+    m_dragging = false;
+    if (!picks)
+        return;
+    const std::int32_t under = frameAt(*event);
+    const std::int32_t frame = under != m_position && m_scale.contains(under) ? under : m_scrubFrame;
+    if (frame == m_position)
+        return;
+    m_position = frame;
+    show(frame);
+    const Request request = currentRequest();
+    Q_EMIT frameChanged(frame, request.addChunk, request.addFrame, request.removeChunk, request.removeFrame);
+}
+
+void imageTimeline::hideEvent(QHideEvent *event)
+{
+    // The release will go elsewhere.
+    m_dragging = false;
+    QWidget::hideEvent(event);
+}
+
+void imageTimeline::dragTo(std::int32_t frame)
+{
+    if (frame == m_scrubFrame || !m_scale.contains(frame))
+        return;
+    show(frame);
+    const Request request = currentRequest();
+    Q_EMIT frameScrubbed(frame, request.addChunk, request.addFrame, request.removeChunk, request.removeFrame);
+}
+
+void imageTimeline::show(std::int32_t frame)
+{
+    m_scrubFrame = frame;
+    update();
+}
+
+void imageTimeline::paintEvent(QPaintEvent * /*event*/)
+{
+    const QRect inner = rect().adjusted(1, 1, -1, -1);
+    const std::vector<FrameColumn> columns = m_scale.columns(width());
+    QPainter painter(this);
+    painter.fillRect(inner, Qt::black);
+    drawTicks(painter, columns, inner.bottom());
+    drawFrames(painter, columns, inner.bottom());
+    if (m_scale.inRange(m_scrubFrame)) {
+        const int x = m_scale.position(m_scrubFrame, width());
+        painter.setPen(QPen(QColor(255, 10, 10), 2));
+        painter.drawLine(x, kLineTop, x, inner.bottom());
+    }
+}
+
+void imageTimeline::drawTicks(QPainter &painter, const std::vector<FrameColumn> &columns, int bottom) const
+{
+    painter.setPen(QColor(200, 200, 200));
+    int last = 0;
+    for (const FrameColumn &column : columns) {
+        if (column.existing == 0 || column.x - last < kTickSpacing)
+            continue;
+        painter.drawLine(column.x, bottom - kTickLength, column.x, bottom);
+        last = column.x;
+    }
+}
+
+void imageTimeline::drawFrames(QPainter &painter, const std::vector<FrameColumn> &columns, int bottom) const
+{
+    const QBrush missing(QColor(100, 100, 100), Qt::Dense3Pattern);
+    const int columnWidth = m_scale.columnWidth(width());
+    painter.setPen(QPen(QColor(150, 150, 150), 2));
+    painter.setFont(QFont(QStringLiteral("Lato"), 7));
+    const int spacing = painter.fontMetrics().horizontalAdvance(QStringLiteral("999.99"));
+    int last = 0;
+    for (const FrameColumn &column : columns) {
+        if (column.hasMissing())
+            painter.fillRect(column.x, 0, columnWidth, bottom, missing);
+        if (column.existing == 0 || (column.x != 0 && column.x - last < spacing))
+            continue;
+        painter.drawLine(column.x, kLineTop, column.x, bottom);
+        painter.drawText(QPointF(column.x, kBaseline), QString::number(column.firstExisting));
+        last = column.x;
+    }
+}
