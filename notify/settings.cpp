@@ -157,6 +157,22 @@ bool hasRoom(const QSettings &store)
 #endif
 }
 
+/// The file holds a password that the cipher merely hides: it is for its owner alone, from its first byte on. QSettings
+/// would make it readable by everybody, and leaves the permissions of a file that is there. Who put a link in its place
+/// has chosen who reads what it points to.
+void keepToOwner(const QSettings &store)
+{
+#ifdef Q_OS_WIN
+    Q_UNUSED(store); // the registry
+#else
+    constexpr QFile::Permissions kOwner = QFile::ReadOwner | QFile::WriteOwner;
+    QFile file(store.fileName());
+    const bool isNew = file.open(QIODevice::WriteOnly | QIODevice::NewOnly, kOwner);
+    if (!isNew && !QFileInfo(file).isSymLink())
+        file.setPermissions(kOwner);
+#endif
+}
+
 } // namespace
 
 LinkSettings Settings::link() const
@@ -197,6 +213,7 @@ bool saveSettings(const Settings &settings)
     // Writing over a file that could not be read would lose what it holds.
     bool saved = store.status() != QSettings::AccessError && hasRoom(store);
     if (saved) {
+        keepToOwner(store);
         for (const Entry &entry : kEntries)
             store.setValue(entry.path(), std::visit(Writer{settings}, entry.member));
         store.sync();

@@ -76,6 +76,7 @@ private Q_SLOTS:
     void readsAndWritesEveryKey_data();
     void readsAndWritesEveryKey();
     void storesThePasswordEnciphered();
+    void keepsTheFileToItsOwner();
     void damagedFileKeepsWhatIsReadable();
     void failedWriteKeepsTheOldFile();
     void folderInPlaceOfTheFile();
@@ -304,6 +305,20 @@ void TestSettings::storesThePasswordEnciphered()
 
     QSettings().setValue(key, cipher(kKey + 1).encipher(u"hunter2"_s));
     QCOMPARE(loadSettings().authenticationPassword, QString());
+}
+
+void TestSettings::keepsTheFileToItsOwner()
+{
+    const auto access = [] {
+        return QFile::permissions(QSettings().fileName()) & QFile::Permissions(0x7077);
+    };
+    constexpr QFile::Permissions kOwner = QFile::ReadOwner | QFile::WriteOwner;
+    QVERIFY(saveSettings(Settings()));
+    QCOMPARE(access(), kOwner);
+    // As an older version left it.
+    QVERIFY(QFile::setPermissions(QSettings().fileName(), kOwner | QFile::ReadGroup | QFile::ReadOther));
+    QVERIFY(saveSettings(Settings()));
+    QCOMPARE(access(), kOwner);
 }
 
 void TestSettings::damagedFileKeepsWhatIsReadable()
