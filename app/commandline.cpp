@@ -23,6 +23,8 @@ CommandLine CommandLine::parse(std::span<char *const> arguments)
             line.overrides.user = QString::fromLocal8Bit(value);
         else if (argument == "-pass" && value)
             line.overrides.password = QString::fromLocal8Bit(value);
+        else if ((argument == "--language" || argument == "-language") && value)
+            line.language = QString::fromLocal8Bit(value);
         else if (argument == "-port" && value)
             line.overrides.port = std::atoi(value);
     }
@@ -44,6 +46,7 @@ QString commandLineHelp()
                           "  -port NUMBER    its TCP port\n"
                           "  -user NAME      log-in name\n"
                           "  -pass PASSWORD  password, in clear: other users of this machine can read it\n"
+                          "  --language CODE language of the texts: de, en, es, fr, it or ja\n"
                           "  -forcegl2       show images with OpenGL 2.1 even where 3.2 is there\n"
                           "  --help          print this text and exit\n"
                           "  --version       print the version and exit\n"

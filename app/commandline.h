@@ -10,6 +10,7 @@
 /// ignored as the last argument.
 struct CommandLine {
     CommandLineOverrides overrides; ///< "-server", "-user", "-pass", "-port"
+    QString language; ///< "--language" or "-language": code of the texts' language
     bool forceGl2 = false; ///< "-forcegl2"
     bool help = false; ///< "--help"
     bool version = false; ///< "--version"

@@ -6,6 +6,7 @@
 #include "templates.h"
 
 #include <alertor.h>
+#include <language.h>
 #include <product.h>
 #include <tappstate.h>
 #include <tdesktop.h>
@@ -79,6 +80,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationName(product::kOrganisation);
     QCoreApplication::setOrganizationDomain(product::kDomain);
     QCoreApplication::setApplicationName(product::kApplicationName);
+    QGuiApplication::setDesktopFileName(QStringLiteral("tarrow-alertor"));
     bool isEnding = false;
     QtSingleApplication application(argc, argv);
     QApplication::setFont(QFont(QStringLiteral("Lato")));
@@ -87,6 +89,8 @@ int main(int argc, char *argv[])
         return 0;
     }
     quitOnTermination(application, isEnding);
+    if (!installLanguage(line.language) && !line.language.isEmpty())
+        std::fprintf(stderr, "There are no texts in the language %s\n", qUtf8Printable(line.language));
     TFramework::InitializeLibrary(argv[0]);
     Templates templates;
     QApplication::setQuitOnLastWindowClosed(false);

@@ -52,6 +52,8 @@ QString summary(const CommandLine &line)
     add("pass", line.overrides.password);
     if (line.overrides.port)
         given += QStringLiteral("port=%1").arg(*line.overrides.port);
+    if (!line.language.isEmpty())
+        given += QStringLiteral("language=") + line.language;
     if (line.forceGl2)
         given += QStringLiteral("gl2");
     if (line.help)
@@ -84,6 +86,7 @@ private Q_SLOTS:
         row("port: no number", "-port x7", "port=0");
         row("port: digits lead", "-port 98x3", "port=98");
         row("port: kept as it is", "-port 75000", "port=75000");
+        row("language", "--language de -language fr_CA", "language=fr_CA");
         row("help", "-port 1 --help", "port=1 help");
         row("version", "--version", "version");
     }
