@@ -1,0 +1,53 @@
+"""The windows without eyes and without a mouse: names, roles, the way round with Tab, states that are words."""
+
+import accessible
+from desktop import WINDOW, alertor, client_windows, xdotool
+from farmtest import EVENT, check, equal, farm, run, wait_for, windows, write_settings
+
+KINDS = {"Success", "Warning", "Error", "Start", "Service", "Alert"}
+COLUMNS = 8
+
+
+def choose_in_menu(key):
+    """The menu of the button that stands in for the tray."""
+    xdotool("windowactivate", "--sync", windows(WINDOW)[-1])
+    shown = client_windows()
+    xdotool("key", "alt+m")
+    wait_for(lambda: len(client_windows()) > len(shown), "the menu")
+    xdotool("key", key)
+
+
+def rows_say_their_state(sent):
+    tree = next(iter(accessible.window(WINDOW)))
+
+    def states():
+        return [row[1] for row in accessible.rows_of(tree, COLUMNS)]
+
+    rows = wait_for(lambda: len(states()) == sent and accessible.rows_of(tree, COLUMNS), "the rows")
+    check({row[0] for row in rows} <= KINDS, f"kinds of events: {rows}")
+    equal(set(states()), {"Pending"}, "states of new events")
+    choose_in_menu("a")
+    wait_for(lambda: set(states()) == {"Acknowledged"}, "the acknowledged events")
+
+
+def walk(title):
+    top = accessible.window(title)
+    accessible.every_control_is_named(top)
+    accessible.every_control_is_reached_by_tab(top)
+
+
+def test():
+    write_settings({"behaviours": {"showBubble": "false", "autoAckOnRaise": "false"}})
+    night = farm("--jobs", "1", "--rate", "400", "--once")
+    program = alertor("-server", "127.0.0.1", "-port", str(night.port), **accessible.ENVIRONMENT)
+    sent = int(night.expect(r"^sent (\d+) events$").group(1))
+    program.expect(EVENT, sent)
+    rows_say_their_state(sent)
+    walk(WINDOW)
+    choose_in_menu("c")
+    walk("Alertor Preferences")
+    xdotool("key", "Escape")
+    program.quit()
+
+
+run(test)
