@@ -30,6 +30,7 @@ function(tarrow_register_test name)
     math(EXPR TEST_TIMEOUT "${TEST_TIMEOUT} * 4")
   endif()
   add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/scripts/isolated.sh ${TEST_COMMAND})
-  set_tests_properties(${name} PROPERTIES TIMEOUT ${TEST_TIMEOUT}
-    ENVIRONMENT "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
+  # Memory that there is not is refused, as it is without the sanitizers, and the programs go on.
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${TEST_TIMEOUT} ENVIRONMENT
+    "ASAN_OPTIONS=allocator_may_return_null=1;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
 endfunction()
