@@ -1,15 +1,18 @@
 #pragma once
 
-#include "calibration.h"
+#include "picturelook.h"
+#include "viewgeometry.h"
 
 #include <framedisplay.h>
 
-#include <QtCore/QPoint>
-#include <QtCore/QSize>
-#include <QtGui/QColor>
+#include <QtCore/QStringList>
 #include <QtGui/QImage>
 #include <QtGui/QOpenGLFunctions>
 #include <QtOpenGLWidgets/QOpenGLWidget>
+
+#include <memory>
+
+class PictureRenderer;
 
 /// Shows one frame, calibrated and zoomed, over a checker; the middle button asks to pan, the wheel to zoom.
 /// All sizes and offsets here are device pixels: at zoom 1 a pixel of the frame is one of the screen.
@@ -66,4 +69,38 @@ Q_SIGNALS:
     void resized();
     /// A context has come up; again after the widget has moved to another window.
     void initialized();
+
+protected:
+    void initializeGL() override;
+    void resizeGL(int width, int height) override;
+    void paintGL() override;
+    bool event(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    class Current;
+
+    template <typename T>
+    void change(T &member, const T &value);
+    ViewGeometry viewGeometry() const;
+    QPoint devicePosition(const QMouseEvent &event) const;
+    void stopPanning();
+    void releaseRenderer();
+
+    std::unique_ptr<PictureRenderer> m_renderer; ///< while there is a context
+    QMetaObject::Connection m_contextEnds;
+    ImageFrame *m_frame = nullptr;
+    QStringList m_hudLines; ///< of the frame; empty until they are painted
+    PictureLook m_look;
+    float m_zoom = 1.0F;
+    QPoint m_pan;
+    bool m_floatTexturesUsable = false;
+
+    bool m_panning = false;
+    QPoint m_pressPosition;
+    QPoint m_pressPan;
+    int m_wheelRest = 0; ///< eighths of a degree that made no step yet
 };

@@ -1,0 +1,4 @@
+void main()
+{
+    fragColor = vec4(1.0, 0.0, 0.0, 1.0);
+}

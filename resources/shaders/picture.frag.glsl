@@ -1,0 +1,123 @@
+VARYING vec2 fragTexCoord;
+uniform sampler2D tex0;
+uniform sampler2D tex1;
+uniform sampler2D tex2;
+uniform sampler2D tex3;
+uniform int numOfTextures;
+uniform int redChannelOnly;
+uniform int isYCbCr;
+uniform int skipAlpha;
+uniform int premultiplied;
+uniform int channelViewMode;
+uniform float gamma;
+uniform float sourceGamma;
+uniform float brightness;
+uniform float saturation;
+uniform float contrast;
+uniform float levelInputMin;
+uniform float levelInputMax;
+uniform float levelOutputMin;
+uniform float levelOutputMax;
+uniform float softClip;
+
+float brightnessContrast(float value)
+{
+    return (value - 0.5) * contrast + 0.5 + brightness;
+}
+
+float knee(float value, float f)
+{
+    return log(value * f + 1.0) / f;
+}
+
+vec4 texel()
+{
+    if (numOfTextures == 1) {
+        vec4 whole = TEXTURE(tex0, fragTexCoord);
+        return redChannelOnly == 1 ? vec4(whole.rrr, 1.0) : whole;
+    }
+    if (numOfTextures != 3 && numOfTextures != 4)
+        return vec4(0.0);
+    vec4 planes = vec4(TEXTURE(tex0, fragTexCoord).r, TEXTURE(tex1, fragTexCoord).r,
+                       TEXTURE(tex2, fragTexCoord).r, 1.0);
+    if (numOfTextures == 4)
+        planes.a = TEXTURE(tex3, fragTexCoord).r;
+    return planes;
+}
+
+// The row vector times the matrix: each output channel is the product with a column.
+vec3 fromYCbCr(vec3 rgb)
+{
+    const mat4 columns = mat4(1.0000, 1.0000, 1.0000, 0.0000,
+                              0.0000, -0.3441, 1.7720, 0.0000,
+                              1.4020, -0.7141, 0.0000, 0.0000,
+                              -0.7010, 0.5291, -0.8860, 1.0000);
+    return (vec4(rgb, 1.0) * columns).rgb;
+}
+
+// What is below black has no power and stays.
+float power(float value, float exponent)
+{
+    return value >= 0.0 ? pow(value, exponent) : value;
+}
+
+vec3 power(vec3 rgb, float exponent)
+{
+    return vec3(power(rgb.r, exponent), power(rgb.g, exponent), power(rgb.b, exponent));
+}
+
+vec3 saturated(vec3 rgb)
+{
+    float intensity = dot(rgb, vec3(0.2125, 0.7154, 0.0721));
+    return mix(vec3(intensity), rgb, saturation);
+}
+
+// Divisor and factor are the maxima themselves, not the ranges.
+vec3 levelled(vec3 rgb)
+{
+    return (rgb - levelInputMin) / levelInputMax * levelOutputMax + levelOutputMin;
+}
+
+float softClipped(float value)
+{
+    float k = 1.0 - softClip;
+    return value > k ? k + (1.0 - exp(-(value - k) / softClip)) * softClip : value;
+}
+
+vec4 channelView(vec4 colour)
+{
+    if (channelViewMode == 0)
+        return colour;
+    if (channelViewMode == 1)
+        return colour.rrra;
+    if (channelViewMode == 2)
+        return colour.ggga;
+    if (channelViewMode == 3)
+        return colour.bbba;
+    if (channelViewMode == 4)
+        return colour.aaaa;
+    if (channelViewMode == 5)
+        return vec4(vec3(max(colour.r, max(colour.g, colour.b))), colour.a);
+    return vec4(0.0);
+}
+
+void main()
+{
+    vec4 colour = texel();
+    if (isYCbCr == 1)
+        colour.rgb = fromYCbCr(colour.rgb);
+    if (skipAlpha == 1 && channelViewMode != 4)
+        colour.a = 1.0;
+    if (premultiplied == 1)
+        colour.rgb /= colour.a;
+    if (isYCbCr == 0)
+        colour.rgb = power(colour.rgb, 1.0 / sourceGamma);
+    colour.rgb = power(colour.rgb, gamma);
+    colour.rgb = (colour.rgb - 0.5) * max(contrast, 0.0) + 0.5;
+    colour.rgb += brightness - 1.0;
+    colour.rgb = saturated(colour.rgb);
+    colour.rgb = levelled(colour.rgb);
+    colour.rgb = vec3(softClipped(colour.r), softClipped(colour.g), softClipped(colour.b));
+    colour.rgb *= colour.a;
+    fragColor = channelView(colour);
+}

@@ -1,0 +1,370 @@
+#include "imagewidget.h"
+
+#include "hud.h"
+#include "picturerenderer.h"
+#include "viewerlog.h"
+
+#include <imageframe.h>
+#include <tappstate.h>
+
+#include <QtGui/QMouseEvent>
+#include <QtGui/QOpenGLContext>
+#include <QtGui/QPainter>
+#include <QtGui/QWheelEvent>
+#include <QtOpenGL/QOpenGLFramebufferObject>
+#include <QtWidgets/QApplication>
+
+#include <cmath>
+#include <utility>
+
+namespace {
+
+// The wheel's unit of an eighth of a degree: a step takes a whole degree.
+constexpr int kWheelStep = 8;
+
+bool usesCore()
+{
+    return TAppState::instance().gl32Supported;
+}
+
+bool hasFloatTextures(const QOpenGLContext &context)
+{
+    return context.hasExtension("GL_ARB_half_float_pixel")
+        && context.hasExtension("GL_ARB_color_buffer_float") && context.hasExtension("GL_ARB_texture_float");
+}
+
+} // namespace
+
+/// The widget's context, current for as long as this stands; brought up first when the widget was never shown.
+class imageWidget::Current {
+    Q_DISABLE_COPY_MOVE(Current)
+
+public:
+    explicit Current(imageWidget &widget)
+        : m_widget(widget)
+    {
+        // A grab is what initialises a widget that has not been shown.
+        if (!widget.m_renderer && !widget.isValid())
+            widget.grabFramebuffer();
+        m_entered = widget.m_renderer && QOpenGLContext::currentContext() != widget.context();
+        if (m_entered)
+            widget.makeCurrent();
+    }
+    ~Current()
+    {
+        if (m_entered)
+            m_widget.doneCurrent();
+    }
+
+    explicit operator bool() const
+    {
+        return m_widget.m_renderer && QOpenGLContext::currentContext() == m_widget.context();
+    }
+
+private:
+    imageWidget &m_widget;
+    bool m_entered = false;
+};
+
+imageWidget::imageWidget(QWidget *parent)
+    : QOpenGLWidget(parent)
+{ }
+
+imageWidget::~imageWidget()
+{
+    stopPanning();
+    // The base destroys the context when the members are gone.
+    disconnect(m_contextEnds);
+    releaseRenderer();
+}
+
+const ImageFrame *imageWidget::frame() const
+{
+    return m_frame;
+}
+
+float imageWidget::zoomFactor() const
+{
+    return m_zoom;
+}
+
+QPoint imageWidget::pan() const
+{
+    return m_pan;
+}
+
+QSize imageWidget::viewSize() const
+{
+    return size() * devicePixelRatio();
+}
+
+QSize imageWidget::displayedSize() const
+{
+    return viewGeometry().displayedSize();
+}
+
+bool imageWidget::floatTexturesUsable() const
+{
+    return m_floatTexturesUsable;
+}
+
+QImage imageWidget::grabPicture()
+{
+    const Current current(*this);
+    if (!current || !m_frame || m_frame->textureNames.empty())
+        return {};
+    const PlaneSize size = m_frame->planeSizes.front();
+    const QSize pixels(size.width, size.height);
+    QOpenGLFramebufferObject target(pixels);
+    if (!target.isValid() || !target.bind())
+        return {};
+    ViewGeometry whole;
+    whole.view = pixels;
+    whole.frame = pixels;
+    m_renderer->drawPicture({m_frame, whole, m_look});
+    // What shone through has been mixed in already.
+    glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_TRUE);
+    glClear(GL_COLOR_BUFFER_BIT);
+    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+    target.release();
+    return target.toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+QPoint imageWidget::setPan(QPoint wanted)
+{
+    change(m_pan, viewGeometry().clampedPan(wanted));
+    return m_pan;
+}
+
+void imageWidget::uploadTextures(ImageFrame &frame)
+{
+    if (const Current current(*this); current)
+        m_renderer->textures().upload(frame);
+}
+
+void imageWidget::deleteTextures(ImageFrame &frame)
+{
+    if (const Current current(*this); current)
+        m_renderer->textures().remove(frame);
+    frame.textureNames.clear();
+}
+
+void imageWidget::showFrame(ImageFrame *frame)
+{
+    if (frame == m_frame)
+        return;
+    if (ImageFrame *before = std::exchange(m_frame, frame))
+        before->release();
+    if (frame)
+        frame->retain();
+    m_hudLines.clear();
+    update();
+}
+
+void imageWidget::frameDies(const ImageFrame &frame)
+{
+    if (&frame != m_frame)
+        return;
+    m_frame = nullptr;
+    m_hudLines.clear();
+    update();
+}
+
+int imageWidget::liveTextures()
+{
+    return Textures::live();
+}
+
+void imageWidget::setCalibration(const Calibration &calibration)
+{
+    change(m_look.calibration, calibration);
+}
+
+void imageWidget::setSourceGamma(float gamma)
+{
+    change(m_look.sourceGamma, gamma);
+}
+
+void imageWidget::setChannelViewMode(int mode)
+{
+    change(m_look.channelViewMode, mode);
+}
+
+void imageWidget::setCheckerOn(bool on)
+{
+    change(m_look.checkerOn, on);
+}
+
+void imageWidget::setAlphaOn(bool on)
+{
+    change(m_look.alphaOn, on);
+}
+
+void imageWidget::setHudOn(bool on)
+{
+    change(m_look.hudOn, on);
+}
+
+void imageWidget::setZoomFactor(float zoom)
+{
+    if (std::isfinite(zoom) && zoom > 0.0F)
+        change(m_zoom, zoom);
+}
+
+void imageWidget::setBackgroundColor(const QColor &color)
+{
+    change(m_look.background, color);
+}
+
+void imageWidget::setHudColor(const QColor &color)
+{
+    change(m_look.hud, color);
+}
+
+void imageWidget::initializeGL()
+{
+    initializeOpenGLFunctions();
+    glDisable(GL_DEPTH_TEST);
+    const bool core = usesCore();
+    m_floatTexturesUsable = core || hasFloatTextures(*context());
+    QOpenGLFunctions &gl = *this;
+    m_renderer = std::make_unique<PictureRenderer>(gl, core);
+    m_contextEnds =
+        connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &imageWidget::releaseRenderer);
+    Q_EMIT initialized();
+}
+
+void imageWidget::resizeGL(int /*width*/, int /*height*/)
+{
+    // The viewport is set with each paint, from the same size in device pixels.
+    Q_EMIT resized();
+}
+
+void imageWidget::paintGL()
+{
+    if (!m_renderer)
+        return;
+    const ViewGeometry view = viewGeometry();
+    const PictureRenderer::Scene scene{m_frame, view, m_look};
+    m_renderer->drawPicture(scene);
+    m_renderer->drawBorder(scene);
+    if (!m_frame || !m_look.hudOn)
+        return;
+    if (m_hudLines.isEmpty())
+        m_hudLines = hudLines(*m_frame);
+    if (usesCore()) {
+        m_renderer->drawHud(scene, m_hudLines, devicePixelRatio());
+    } else {
+        QPainter painter(this);
+        paintHud(painter, m_hudLines, m_look.hud);
+    }
+}
+
+bool imageWidget::event(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Hide:
+    case QEvent::UngrabMouse:
+    case QEvent::WindowBlocked:
+    case QEvent::WindowDeactivate:
+        stopPanning();
+        break;
+    default:
+        break;
+    }
+    return QOpenGLWidget::event(event);
+}
+
+void imageWidget::mousePressEvent(QMouseEvent *event)
+{
+    if (event->buttons() != Qt::MiddleButton || m_panning) {
+        QOpenGLWidget::mousePressEvent(event);
+        return;
+    }
+    m_pressPosition = devicePosition(*event);
+    m_pressPan = m_pan;
+    m_panning = true;
+    setMouseTracking(true);
+    QApplication::setOverrideCursor(Qt::SizeAllCursor);
+}
+
+void imageWidget::mouseMoveEvent(QMouseEvent *event)
+{
+    // The release may have gone to another window.
+    if (m_panning && !(event->buttons() & Qt::MiddleButton))
+        stopPanning();
+    if (!m_panning) {
+        QOpenGLWidget::mouseMoveEvent(event);
+        return;
+    }
+    const QPoint wanted = m_pressPan - (devicePosition(*event) - m_pressPosition);
+    Q_EMIT horizontalScrollRequested(wanted.x());
+    Q_EMIT verticalScrollRequested(wanted.y());
+}
+
+void imageWidget::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!m_panning) {
+        QOpenGLWidget::mouseReleaseEvent(event);
+        return;
+    }
+    stopPanning();
+}
+
+void imageWidget::wheelEvent(QWheelEvent *event)
+{
+    event->accept();
+    const int delta = event->angleDelta().y();
+    if (delta == 0)
+        return;
+    // A turn the other way starts anew.
+    if ((delta > 0) != (m_wheelRest > 0))
+        m_wheelRest = 0;
+    const int turned = m_wheelRest + delta;
+    m_wheelRest = turned % kWheelStep;
+    if (turned / kWheelStep > 0)
+        Q_EMIT zoomInRequested();
+    else if (turned / kWheelStep < 0)
+        Q_EMIT zoomOutRequested();
+}
+
+template <typename T>
+void imageWidget::change(T &member, const T &value)
+{
+    if (member == value)
+        return;
+    member = value;
+    update();
+}
+
+ViewGeometry imageWidget::viewGeometry() const
+{
+    ViewGeometry geometry;
+    geometry.view = viewSize();
+    if (m_frame && !m_frame->planeSizes.empty())
+        geometry.frame = {m_frame->planeSizes.front().width, m_frame->planeSizes.front().height};
+    geometry.zoom = m_zoom;
+    geometry.pan = m_pan;
+    return geometry;
+}
+
+QPoint imageWidget::devicePosition(const QMouseEvent &event) const
+{
+    return (event.position() * devicePixelRatio()).toPoint();
+}
+
+void imageWidget::stopPanning()
+{
+    if (!std::exchange(m_panning, false))
+        return;
+    setMouseTracking(false);
+    QApplication::restoreOverrideCursor();
+}
+
+void imageWidget::releaseRenderer()
+{
+    if (!m_renderer)
+        return;
+    const Current current(*this);
+    m_renderer.reset();
+}

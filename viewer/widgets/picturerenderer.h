@@ -1,0 +1,52 @@
+#pragma once
+
+#include "hudoverlay.h"
+#include "picturelook.h"
+#include "shaderprograms.h"
+#include "textures.h"
+#include "vertexset.h"
+#include "viewgeometry.h"
+
+#include <optional>
+
+struct ImageFrame;
+
+/// Draws a frame and what goes with it into the bound framebuffer; knows no window. Made, used and destroyed with its
+/// context current.
+class PictureRenderer final {
+    Q_DISABLE_COPY_MOVE(PictureRenderer)
+
+public:
+    struct Scene {
+        const ImageFrame *frame; ///< may be null
+        const ViewGeometry &geometry;
+        const PictureLook &look;
+    };
+
+    PictureRenderer(QOpenGLFunctions &gl, bool core);
+
+    Textures &textures() { return m_textures; }
+
+    /// Background, checker and frame.
+    void drawPicture(const Scene &scene);
+    void drawBorder(const Scene &scene);
+    /// On a core context only: on another the HUD is text on the window.
+    void drawHud(const Scene &scene, const QStringList &lines, qreal devicePixelRatio);
+
+private:
+    void drawChecker(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad);
+    void drawFrame(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad);
+    void enableBlending();
+    bool canWidenLines();
+
+    QOpenGLFunctions &m_gl;
+    Textures m_textures;
+    PictureProgram m_picture;
+    BorderProgram m_border;
+    CheckerProgram m_checker;
+    VertexSet m_pictureVertices;
+    VertexSet m_checkerVertices;
+    VertexSet m_borderVertices;
+    std::optional<HudOverlay> m_hud;
+    bool m_wideLines;
+};

@@ -1,0 +1,125 @@
+#include "shaderprograms.h"
+
+#include "picturelook.h"
+#include "viewerlog.h"
+
+#include <imageframe.h>
+
+#include <QtCore/QFile>
+
+namespace {
+
+// The two dialects differ in these words only.
+constexpr char kVertex120[] = R"(#version 120
+#define ATTRIBUTE attribute
+#define VARYING varying
+)";
+constexpr char kFragment120[] = R"(#version 120
+#define VARYING varying
+#define TEXTURE texture2D
+#define fragColor gl_FragColor
+)";
+constexpr char kVertex150[] = R"(#version 150
+#define ATTRIBUTE in
+#define VARYING out
+)";
+constexpr char kFragment150[] = R"(#version 150
+#define VARYING in
+#define TEXTURE texture
+out vec4 fragColor;
+)";
+
+QByteArray source(const char *prologue, const char *name)
+{
+    QFile file(QStringLiteral(":/Shaders/") + QLatin1String(name));
+    return file.open(QIODevice::ReadOnly) ? prologue + file.readAll() : QByteArray();
+}
+
+} // namespace
+
+ShaderProgram::ShaderProgram(const Sources &sources, bool core)
+{
+    const auto warn = [this, &sources](const char *step) {
+        qCWarning(lcViewer, "%s %s: %s", sources.name, step, qPrintable(m_program.log()));
+    };
+    if (!m_program.addShaderFromSourceCode(QOpenGLShader::Vertex,
+                                           source(core ? kVertex150 : kVertex120, sources.vertex)))
+        warn("vertex shader");
+    if (!m_program.addShaderFromSourceCode(QOpenGLShader::Fragment,
+                                           source(core ? kFragment150 : kFragment120, sources.fragment)))
+        warn("fragment shader");
+    if (!m_program.link()) {
+        warn("shader link");
+        return;
+    }
+    m_vertex = m_program.attributeLocation("vertex");
+    m_texCoord = m_program.attributeLocation("vertTexCoord");
+    m_matrix = m_program.uniformLocation("matrix");
+}
+
+PictureProgram::PictureProgram(bool core)
+    : ShaderProgram({"Program", "picture.vert.glsl", "picture.frag.glsl"}, core)
+    , m_textures{m_program.uniformLocation("tex0"), m_program.uniformLocation("tex1"),
+                 m_program.uniformLocation("tex2"), m_program.uniformLocation("tex3")}
+    , m_textureCount(m_program.uniformLocation("numOfTextures"))
+    , m_redChannelOnly(m_program.uniformLocation("redChannelOnly"))
+    , m_isYCbCr(m_program.uniformLocation("isYCbCr"))
+    , m_skipAlpha(m_program.uniformLocation("skipAlpha"))
+    , m_premultiplied(m_program.uniformLocation("premultiplied"))
+    , m_channelViewMode(m_program.uniformLocation("channelViewMode"))
+    , m_sourceGamma(m_program.uniformLocation("sourceGamma"))
+    , m_gamma(m_program.uniformLocation("gamma"))
+    , m_brightness(m_program.uniformLocation("brightness"))
+    , m_saturation(m_program.uniformLocation("saturation"))
+    , m_contrast(m_program.uniformLocation("contrast"))
+    , m_levelInputMin(m_program.uniformLocation("levelInputMin"))
+    , m_levelInputMax(m_program.uniformLocation("levelInputMax"))
+    , m_levelOutputMin(m_program.uniformLocation("levelOutputMin"))
+    , m_levelOutputMax(m_program.uniformLocation("levelOutputMax"))
+    , m_softClip(m_program.uniformLocation("softClip"))
+{ }
+
+void PictureProgram::setUniforms(const PictureLook &look, const ImageFrame &frame)
+{
+    for (std::size_t i = 0; i < m_textures.size(); ++i)
+        m_program.setUniformValue(m_textures[i], static_cast<GLint>(i));
+    m_program.setUniformValue(m_textureCount, frame.textureCount);
+    m_program.setUniformValue(m_redChannelOnly, GLint(frame.textureCount == 1 && frame.components == 1));
+    m_program.setUniformValue(m_isYCbCr, GLint(frame.isYCbCr));
+    m_program.setUniformValue(m_skipAlpha, GLint(!look.alphaOn));
+    m_program.setUniformValue(m_premultiplied, GLint(frame.premultiplied));
+    m_program.setUniformValue(m_channelViewMode, look.channelViewMode);
+    m_program.setUniformValue(m_sourceGamma, look.sourceGamma);
+
+    const Calibration &calibration = look.calibration;
+    m_program.setUniformValue(m_gamma, calibration.gamma);
+    m_program.setUniformValue(m_brightness, calibration.brightness);
+    m_program.setUniformValue(m_saturation, calibration.saturation);
+    m_program.setUniformValue(m_contrast, calibration.contrast);
+    m_program.setUniformValue(m_levelInputMin, calibration.levelInputMin);
+    m_program.setUniformValue(m_levelInputMax, calibration.levelInputMax);
+    m_program.setUniformValue(m_levelOutputMin, calibration.levelOutputMin);
+    m_program.setUniformValue(m_levelOutputMax, calibration.levelOutputMax);
+    m_program.setUniformValue(m_softClip, calibration.softClip);
+}
+
+BorderProgram::BorderProgram(bool core)
+    : ShaderProgram({"Border", "position.vert.glsl", "border.frag.glsl"}, core)
+{ }
+
+CheckerProgram::CheckerProgram(bool core)
+    : ShaderProgram({"Checker", "position.vert.glsl", "checker.frag.glsl"}, core)
+    , m_offset(m_program.uniformLocation("offset"))
+    , m_zoomFactor(m_program.uniformLocation("zoomFactor"))
+{ }
+
+void CheckerProgram::setUniforms(QPoint offset, float zoom)
+{
+    m_program.setUniformValue(m_offset, offset);
+    m_program.setUniformValue(m_zoomFactor, zoom);
+}
+
+HudProgram::HudProgram(bool core)
+    : ShaderProgram({"Hud", "picture.vert.glsl", "hud.frag.glsl"}, core)
+    , m_texture(m_program.uniformLocation("tex0"))
+{ }

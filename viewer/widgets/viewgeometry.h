@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QtCore/QPoint>
+#include <QtCore/QRectF>
+#include <QtCore/QSize>
+#include <QtGui/QMatrix4x4>
+
+#include <array>
+
+/// Where the picture lies in the view, in device pixels; y grows downward.
+struct ViewGeometry {
+    static constexpr QSize kSizeWithoutFrame{320, 240};
+
+    QSize view;
+    QSize frame = kSizeWithoutFrame;
+    float zoom = 1.0F;
+    QPoint pan;
+
+    QSize displayedSize() const;
+    /// A coordinate may go as far as the picture reaches beyond the view; 0 when the picture is the smaller one.
+    QPoint clampedPan(QPoint wanted) const;
+    /// A picture smaller than the view is centred, to half a pixel; a larger one starts at 0.
+    QRectF quad() const;
+    /// The quad's corner in window coordinates, which count from the bottom.
+    QPoint checkerOffset() const;
+    QMatrix4x4 projection() const;
+};
+
+inline constexpr int kQuadCorners = 6;
+inline constexpr int kLoopCorners = 4;
+
+/// Two triangles: top left, top right, bottom right, bottom right, bottom left, top left.
+using QuadVertices = std::array<float, 3 * kQuadCorners>;
+using QuadTexCoords = std::array<float, 2 * kQuadCorners>;
+using LoopVertices = std::array<float, 3 * kLoopCorners>;
+
+QuadVertices quadVertices(const QRectF &quad);
+/// The corners, each pushed outward on both sides.
+LoopVertices loopVertices(const QRectF &quad, qreal outward);
+
+inline constexpr QuadTexCoords kBottomUp = {0, 1, 1, 1, 1, 0, 1, 0, 0, 0, 0, 1};
+inline constexpr QuadTexCoords kTopDown = {0, 0, 1, 0, 1, 1, 1, 1, 0, 1, 0, 0};
