@@ -1,0 +1,44 @@
+#include "filepicker.h"
+
+#include <iimagecore.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
+#include <QtCore/QSettings>
+#include <QtWidgets/QFileDialog>
+
+namespace {
+
+const QString kStateKey = QStringLiteral("fileSelectorsCaches/ImageViewer");
+
+QString filters()
+{
+    using TImageLibrary::IImageCore;
+    QString text = QCoreApplication::translate("ImageViewer", "All files (*)");
+    const auto end = IImageCore::LoaderExtensionsEnd();
+    for (auto it = IImageCore::LoaderExtensionsBegin(); it != end; ++it) {
+        const QString extension = QString::fromStdString(it.extension());
+        text += QStringLiteral(";;%1 (*.%2)").arg(extension.toUpper(), extension);
+    }
+    return text;
+}
+
+} // namespace
+
+QString pickImageFile(QWidget *parent)
+{
+    QSettings settings;
+    const QPointer<QFileDialog> dialog =
+        new QFileDialog(parent, QCoreApplication::translate("ImageViewer", "Select images"));
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters(filters().split(QStringLiteral(";;")));
+    dialog->restoreState(settings.value(kStateKey).toByteArray());
+    const bool chosen = dialog->exec() == QDialog::Accepted && dialog;
+    QString file;
+    if (chosen) {
+        file = dialog->selectedFiles().value(0);
+        settings.setValue(kStateKey, dialog->saveState());
+    }
+    delete dialog;
+    return file;
+}

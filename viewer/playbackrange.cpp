@@ -1,0 +1,37 @@
+#include "playbackrange.h"
+
+namespace {
+
+/// A number past what an integer holds counts as 0 too.
+long number(const QString &text)
+{
+    return text.trimmed().toInt();
+}
+
+} // namespace
+
+RangeEdit correctedRange(const std::set<long> &frames, long byFrame, const QString &start, const QString &end,
+                         const QString &step)
+{
+    const long first = frames.empty() ? 1 : *frames.begin();
+    const long last = frames.empty() ? 1 : *frames.rbegin();
+    RangeEdit edit{{number(start), number(end), number(step)}, {}, {}, {}};
+    PlaybackRange &range = edit.range;
+    if (range.step < 1 || range.step > last - first + 1) {
+        range.step = byFrame;
+        edit.step = QString::number(range.step);
+    }
+    if (range.start < first || range.start > last) {
+        range.start = range.start < first ? first : last;
+        edit.start = QString::number(range.start);
+    }
+    if (range.end < range.start) {
+        range.end = range.start;
+        // The field shows how far one can go; the range has ended where it starts all the same.
+        edit.end = QString::number(last);
+    } else if (range.end > last) {
+        range.end = last;
+        edit.end = QString::number(last);
+    }
+    return edit;
+}
