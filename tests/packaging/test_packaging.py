@@ -33,7 +33,7 @@ def files_are_there(prefix, etc, packed):
         "share/applications/tarrow-alertor.desktop",
         "share/metainfo/example.loomwright.tarrow_alertor.metainfo.xml",
         "share/doc/tarrow-alertor/copyright",
-        "share/doc/tarrow-alertor/templates.md",
+        "share/doc/tarrow-alertor/user-guide.md",
     ]
     paths = [os.path.join(prefix, name) for name in wanted]
     paths.append(os.path.join(etc, "xdg/autostart/tarrow-alertor.desktop"))
