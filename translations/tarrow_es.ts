@@ -5,1115 +5,1116 @@
     <name>Alertor</name>
     <message>
         <source>The settings cannot be saved. They hold until the program ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden guardar las preferencias. Valdrán hasta que termine el programa.</translation>
     </message>
     <message>
         <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
-        <translation type="unfinished"></translation>
+        <translation>El Dispatcher ha rechazado la conexión del Alertor. Compruebe el usuario y la contraseña en las preferencias del Alertor.</translation>
     </message>
     <message>
         <source>Cannot open output folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede abrir la carpeta de salida %1</translation>
     </message>
     <message>
         <source>Cannot launch image viewer to shown selected frame</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede iniciar el visor para mostrar el fotograma seleccionado</translation>
     </message>
     <message>
         <source>Are you sure you want to close the Alertor?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que desea cerrar el Alertor?</translation>
     </message>
     <message>
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Su GPU no admite OpenGL! El visor de imágenes no se puede usar.</translation>
     </message>
     <message>
         <source>This build has no integrated image viewer. Choose an external application in the preferences to open frames.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta versión no incluye visor de imágenes. Elija una aplicación externa en las preferencias para abrir fotogramas.</translation>
     </message>
 </context>
 <context>
     <name>AlertorClass</name>
     <message>
         <source>Tarrow Alertor</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarrow Alertor</translation>
     </message>
     <message>
         <source>Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Eventos</translation>
     </message>
     <message>
         <source>This desktop has no system tray: the menu of its icon opens here</source>
-        <translation type="unfinished"></translation>
+        <translation>Este escritorio no tiene bandeja del sistema: aquí se abre el menú de su icono</translation>
     </message>
     <message>
         <source>&amp;Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Menú</translation>
     </message>
 </context>
 <context>
     <name>CacheTotals</name>
     <message>
         <source>VRAM Cache Usage: %1% RAM Cache Usage: %2% </source>
-        <translation type="unfinished"></translation>
+        <translation>Uso de caché VRAM: %1% Uso de caché RAM: %2% </translation>
     </message>
 </context>
 <context>
     <name>EventKind</name>
     <message>
         <source>Success</source>
-        <translation type="unfinished"></translation>
+        <translation>Éxito</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>Service</source>
-        <translation type="unfinished"></translation>
+        <translation>Servicio</translation>
     </message>
     <message>
         <source>Alert</source>
-        <translation type="unfinished"></translation>
+        <translation>Alerta</translation>
     </message>
 </context>
 <context>
     <name>EventsModel</name>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensaje</translation>
     </message>
     <message>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuario</translation>
     </message>
     <message>
         <source>Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabajo</translation>
     </message>
     <message>
         <source>Chunk</source>
-        <translation type="unfinished"></translation>
+        <translation>Chunk</translation>
     </message>
     <message>
         <source>Output path</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruta de salida</translation>
     </message>
     <message>
         <source>Acknowledged</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmado</translation>
     </message>
     <message>
         <source>Service</source>
-        <translation type="unfinished"></translation>
+        <translation>Servicio</translation>
     </message>
     <message>
         <source>Pending</source>
-        <translation type="unfinished"></translation>
+        <translation>Pendiente</translation>
     </message>
 </context>
 <context>
     <name>Hud</name>
     <message>
         <source>Pixel format: U8</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de píxel: U8</translation>
     </message>
     <message>
         <source>Pixel format: U16</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de píxel: U16</translation>
     </message>
     <message>
         <source>Pixel format: U32</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de píxel: U32</translation>
     </message>
     <message>
         <source>Pixel format: F32</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de píxel: F32</translation>
     </message>
     <message>
         <source>Pixel format: F16</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de píxel: F16</translation>
     </message>
     <message>
         <source>Pixel format: Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de píxel: desconocido</translation>
     </message>
     <message>
         <source>Bit format: RGB</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de bits: RGB</translation>
     </message>
     <message>
         <source>Bit format: RGBA</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de bits: RGBA</translation>
     </message>
     <message>
         <source>Bit format: Luminance</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de bits: Luminancia</translation>
     </message>
     <message>
         <source>Bit format: Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de bits: desconocido</translation>
     </message>
     <message>
         <source>File: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo: %1</translation>
     </message>
     <message>
         <source>File format: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de archivo: %1</translation>
     </message>
     <message>
         <source>Image size: %1x%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de imagen: %1x%2</translation>
     </message>
     <message>
         <source>Layers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Capas: %1</translation>
     </message>
     <message>
         <source>Samples per channel: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestras por canal: %1</translation>
     </message>
 </context>
 <context>
     <name>ImageViewer</name>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Select images</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar imágenes</translation>
     </message>
     <message>
         <source>Images viewer on job %1 (%2) chunk ID %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Visor de imágenes: trabajo %1 (%2), chunk %3</translation>
     </message>
     <message>
         <source>Images viewer on job %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Visor de imágenes: trabajo %1 (%2)</translation>
     </message>
     <message>
         <source>Images viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Visor de imágenes</translation>
     </message>
     <message>
         <source>File not found at path: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el archivo: %1</translation>
     </message>
     <message>
         <source>Corrupted file at path: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo dañado: %1</translation>
     </message>
     <message>
         <source>S:(%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>I:(%1)</translation>
     </message>
     <message>
         <source>E:(%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>F:(%1)</translation>
     </message>
     <message>
         <source>%1 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fotograma(s)</translation>
     </message>
     <message>
         <source>%1 chunk(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 chunk(s)</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo</translation>
     </message>
     <message>
         <source>HUD colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Color del HUD</translation>
     </message>
     <message>
         <source>%1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fps</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir</translation>
     </message>
     <message>
         <source>Are you sure you want to remove the current markings ?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que desea quitar las marcas actuales?</translation>
     </message>
 </context>
 <context>
     <name>ImageViewerClass</name>
     <message>
         <source>Frames path</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruta de los fotogramas</translation>
     </message>
     <message>
         <source>File, numbered sequence or mask that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo, secuencia numerada o máscara que se muestra</translation>
     </message>
     <message>
         <source>Select images</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar imágenes</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Recargar</translation>
     </message>
     <message>
         <source>Read the frames from disk again</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a leer los fotogramas del disco</translation>
     </message>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pantalla completa</translation>
     </message>
     <message>
         <source>Show the picture alone on the whole screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo la imagen en toda la pantalla</translation>
     </message>
     <message>
         <source>All channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los canales</translation>
     </message>
     <message>
         <source>Red channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal rojo</translation>
     </message>
     <message>
         <source>Green channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal verde</translation>
     </message>
     <message>
         <source>Blue channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal azul</translation>
     </message>
     <message>
         <source>Alpha channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal alfa</translation>
     </message>
     <message>
         <source>Luminance</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminancia</translation>
     </message>
     <message>
         <source>Layer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Capa:</translation>
     </message>
     <message>
         <source>Layer of the file that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Capa del archivo que se muestra</translation>
     </message>
     <message>
         <source>Downsampling:</source>
-        <translation type="unfinished"></translation>
+        <translation>Submuestreo:</translation>
     </message>
     <message>
         <source>Size at which frames are kept and shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño con el que se guardan y muestran los fotogramas</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Alejar</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Acercar</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar</translation>
     </message>
     <message>
         <source>Fit the picture to the view</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar la imagen a la vista</translation>
     </message>
     <message>
         <source>A pixel of the picture is a pixel of the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Un píxel de la imagen es un píxel de la pantalla</translation>
     </message>
     <message>
         <source>Pixels 1:1</source>
-        <translation type="unfinished"></translation>
+        <translation>Píxeles 1:1</translation>
     </message>
     <message>
         <source>Checker</source>
-        <translation type="unfinished"></translation>
+        <translation>Damero</translation>
     </message>
     <message>
         <source>Checker behind the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Damero detrás de la imagen</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo</translation>
     </message>
     <message>
         <source>Colour behind the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Color detrás de la imagen</translation>
     </message>
     <message>
         <source>Composite</source>
-        <translation type="unfinished"></translation>
+        <translation>Composición</translation>
     </message>
     <message>
         <source>Blend the picture over what is behind it</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezclar la imagen con lo que hay detrás</translation>
     </message>
     <message>
         <source>Premultiplied</source>
-        <translation type="unfinished"></translation>
+        <translation>Premultiplicado</translation>
     </message>
     <message>
         <source>Take the colours of files that say so as multiplied by alpha</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomar los colores como multiplicados por alfa en los archivos que así lo indican</translation>
     </message>
     <message>
         <source>HUD</source>
-        <translation type="unfinished"></translation>
+        <translation>HUD</translation>
     </message>
     <message>
         <source>Information over the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Información sobre la imagen</translation>
     </message>
     <message>
         <source>HUD colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Color del HUD</translation>
     </message>
     <message>
         <source>Colour of the information</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de la información</translation>
     </message>
     <message>
         <source>Save as default</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como predeterminado</translation>
     </message>
     <message>
         <source>Save the display settings as default</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar los ajustes de visualización como predeterminados</translation>
     </message>
     <message>
         <source>Calibration</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibración</translation>
     </message>
     <message>
         <source>Show or hide the calibration</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar u ocultar la calibración</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen</translation>
     </message>
     <message>
         <source>Vertical position in the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición vertical en la imagen</translation>
     </message>
     <message>
         <source>Horizontal position in the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición horizontal en la imagen</translation>
     </message>
     <message>
         <source>Input gamma:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma de entrada:</translation>
     </message>
     <message>
         <source>Input gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma de entrada</translation>
     </message>
     <message>
         <source>Output gamma:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma de salida:</translation>
     </message>
     <message>
         <source>Output gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma de salida</translation>
     </message>
     <message>
         <source>Brightness:</source>
-        <translation type="unfinished"></translation>
+        <translation>Brillo:</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Brillo</translation>
     </message>
     <message>
         <source>Saturation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturación:</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturación</translation>
     </message>
     <message>
         <source>Contrast:</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraste:</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraste</translation>
     </message>
     <message>
         <source>Input level start:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivel de entrada inicial:</translation>
     </message>
     <message>
         <source>Input level start</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivel de entrada inicial</translation>
     </message>
     <message>
         <source>Input level end:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivel de entrada final:</translation>
     </message>
     <message>
         <source>Input level end</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivel de entrada final</translation>
     </message>
     <message>
         <source>Output level start:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivel de salida inicial:</translation>
     </message>
     <message>
         <source>Output level start</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivel de salida inicial</translation>
     </message>
     <message>
         <source>Output level end:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivel de salida final:</translation>
     </message>
     <message>
         <source>Output level end</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivel de salida final</translation>
     </message>
     <message>
         <source>Soft clip:</source>
-        <translation type="unfinished"></translation>
+        <translation>Recorte suave:</translation>
     </message>
     <message>
         <source>Soft clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Recorte suave</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <source>Calibration for the current file</source>
-        <translation type="unfinished"></translation>
+        <translation>Calibración para el archivo actual</translation>
     </message>
     <message>
         <source>Reset to defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores predeterminados</translation>
     </message>
     <message>
         <source>The default calibration</source>
-        <translation type="unfinished"></translation>
+        <translation>La calibración predeterminada</translation>
     </message>
     <message>
         <source>Save the calibration as default</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la calibración como predeterminada</translation>
     </message>
     <message>
         <source>Progress of the load</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso de la carga</translation>
     </message>
     <message>
         <source>Frames in the cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogramas en caché</translation>
     </message>
     <message>
         <source>Frames kept in video memory (green) and in main memory (yellow)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogramas en la memoria de vídeo (verde) y en la principal (amarillo)</translation>
     </message>
     <message>
         <source>Timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea de tiempo</translation>
     </message>
     <message>
         <source>Drag to choose a frame. Shift marks its chunk, Control the frame; with Alt they take the mark away</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastre para elegir un fotograma. Mayús marca su chunk, Ctrl el fotograma; con Alt quitan la marca</translation>
     </message>
     <message>
         <source>Marked frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogramas marcados</translation>
     </message>
     <message>
         <source>Marked chunks (orange) and frames (yellow)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chunks (naranja) y fotogramas (amarillo) marcados</translation>
     </message>
     <message>
         <source>S:(%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>I:(%1)</translation>
     </message>
     <message>
         <source>First frame to play</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer fotograma que se reproduce</translation>
     </message>
     <message>
         <source>E:(%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>F:(%1)</translation>
     </message>
     <message>
         <source>Last frame to play</source>
-        <translation type="unfinished"></translation>
+        <translation>Último fotograma que se reproduce</translation>
     </message>
     <message>
         <source>By:</source>
-        <translation type="unfinished"></translation>
+        <translation>Paso:</translation>
     </message>
     <message>
         <source>Step between frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Paso entre fotogramas</translation>
     </message>
     <message>
         <source>First frame (Up)</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer fotograma (Arriba)</translation>
     </message>
     <message>
         <source>First frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer fotograma</translation>
     </message>
     <message>
         <source>Previous frame (Left)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotograma anterior (Izquierda)</translation>
     </message>
     <message>
         <source>Previous frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotograma anterior</translation>
     </message>
     <message>
         <source>Play (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir (Espacio)</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir</translation>
     </message>
     <message>
         <source>Next frame (Right)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotograma siguiente (Derecha)</translation>
     </message>
     <message>
         <source>Next frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotograma siguiente</translation>
     </message>
     <message>
         <source>Last frame (Down)</source>
-        <translation type="unfinished"></translation>
+        <translation>Último fotograma (Abajo)</translation>
     </message>
     <message>
         <source>Last frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Último fotograma</translation>
     </message>
     <message>
         <source>Current frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotograma actual</translation>
     </message>
     <message>
         <source>%1 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fotograma(s)</translation>
     </message>
     <message>
         <source>FPS:</source>
-        <translation type="unfinished"></translation>
+        <translation>FPS:</translation>
     </message>
     <message>
         <source>Frames per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogramas por segundo</translation>
     </message>
     <message>
         <source>Frames per second to play at</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogramas por segundo al reproducir</translation>
     </message>
     <message>
         <source>Live scrubbing</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrubbing en vivo</translation>
     </message>
     <message>
         <source>Load frames while the timeline is dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargar fotogramas mientras se arrastra la línea de tiempo</translation>
     </message>
     <message>
         <source>Mark frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar fotograma</translation>
     </message>
     <message>
         <source>Mark the current frame, or take its mark away</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar el fotograma actual o quitarle la marca</translation>
     </message>
     <message>
         <source>0 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>0 fotograma(s)</translation>
     </message>
     <message>
         <source>Requeue marked frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Reencolar fotogramas marcados</translation>
     </message>
     <message>
         <source>Clear markings</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar marcas</translation>
     </message>
     <message>
         <source>Remove all marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar todas las marcas</translation>
     </message>
     <message>
         <source>Mark chunk</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar chunk</translation>
     </message>
     <message>
         <source>Mark the chunk of the current frame, or take its mark away</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar el chunk del fotograma actual o quitarle la marca</translation>
     </message>
     <message>
         <source>0 chunk(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>0 chunk(s)</translation>
     </message>
     <message>
         <source>Requeue marked chunks</source>
-        <translation type="unfinished"></translation>
+        <translation>Reencolar chunks marcados</translation>
     </message>
     <message>
         <source>Download chunks</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargar chunks</translation>
     </message>
     <message>
         <source>Job:</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabajo:</translation>
     </message>
     <message>
         <source>Chunk:</source>
-        <translation type="unfinished"></translation>
+        <translation>Chunk:</translation>
     </message>
     <message>
         <source>Your graphic card has no support for HALF float values. Images support or accuracy may be limited!</source>
-        <translation type="unfinished"></translation>
+        <translation>Su tarjeta gráfica no admite valores flotantes HALF. La compatibilidad o la precisión de las imágenes puede ser limitada.</translation>
     </message>
 </context>
 <context>
     <name>ListMenu</name>
     <message>
         <source>&amp;Acknowledge selection</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Confirmar selección</translation>
     </message>
     <message>
         <source>&amp;Open output folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir carpeta de salida</translation>
     </message>
     <message>
         <source>Open &amp;frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir &amp;fotograma(s)</translation>
     </message>
     <message>
         <source>Open frame(s) exter&amp;nally</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir fotograma(s) en aplicación &amp;externa</translation>
     </message>
     <message>
         <source>&amp;Remove selection	DEL</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar selección	Supr</translation>
     </message>
     <message>
         <source>Remove all</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar todo</translation>
     </message>
 </context>
 <context>
     <name>PictureView</name>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquear</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>Desbloquear</translation>
     </message>
 </context>
 <context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
-        <translation type="unfinished"></translation>
+        <translation>defaultSkinnedDialog</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar</translation>
     </message>
     <message>
         <source>Set default size and position</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer tamaño y posición predeterminados</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Are you sure you want to set the default size and position for this dialog ?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que desea restablecer el tamaño y la posición predeterminados de este diálogo?</translation>
     </message>
 </context>
 <context>
     <name>QSkinnedMessageBox</name>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Abort</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrumpir</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Información</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>Question</source>
-        <translation type="unfinished"></translation>
+        <translation>Pregunta</translation>
     </message>
 </context>
 <context>
     <name>Splash</name>
     <message>
         <source>Initializing...</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicializando...</translation>
     </message>
     <message>
         <source>Enumerating templates...</source>
-        <translation type="unfinished"></translation>
+        <translation>Enumerando plantillas...</translation>
     </message>
     <message>
         <source>%1 - Release Build %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - Compilación %2 %3</translation>
     </message>
 </context>
 <context>
     <name>Templates</name>
     <message>
         <source>Loading template %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargando plantilla %1...</translation>
     </message>
 </context>
 <context>
     <name>Tray</name>
     <message>
         <source>Tarrow Alertor</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarrow Alertor</translation>
     </message>
     <message>
         <source>Tarrow Alertor (not connected)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarrow Alertor (sin conexión)</translation>
     </message>
     <message>
         <source>New event available!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Nuevo evento disponible!</translation>
     </message>
     <message>
         <source>Tarrow Alertor is running in the background.
 Right-click on this icon to access the context menu or double click to raise the application.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarrow Alertor se ejecuta en segundo plano.
+Haga clic derecho en este icono para abrir el menú o doble clic para mostrar la aplicación.</translation>
     </message>
 </context>
 <context>
     <name>TrayMenu</name>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restaurar</translation>
     </message>
     <message>
         <source>&amp;Acknowledge pending events</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Confirmar eventos pendientes</translation>
     </message>
     <message>
         <source>&amp;Silent</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Silencio</translation>
     </message>
     <message>
         <source>&amp;Open images viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir visor de imágenes</translation>
     </message>
     <message>
         <source>&amp;Configure</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;onfigurar</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Sa&amp;lir</translation>
     </message>
 </context>
 <context>
     <name>preferences</name>
     <message>
         <source>Select File</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar archivo</translation>
     </message>
     <message>
         <source>Audio Files (*.wav)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de audio (*.wav)</translation>
     </message>
     <message>
         <source>Executables (*.exe)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecutables (*.exe)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos (*)</translation>
     </message>
 </context>
 <context>
     <name>preferencesClass</name>
     <message>
         <source>Alertor Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias del Alertor</translation>
     </message>
     <message>
         <source>Notifications filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtros de notificaciones</translation>
     </message>
     <message>
         <source>Job&apos;s start</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio de trabajo</translation>
     </message>
     <message>
         <source>Chunk&apos;s start</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio de chunk</translation>
     </message>
     <message>
         <source>Job&apos;s complete with errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabajo terminado con errores</translation>
     </message>
     <message>
         <source>Job&apos;s complete with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabajo terminado con avisos</translation>
     </message>
     <message>
         <source>Job&apos;s complete with success</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabajo terminado con éxito</translation>
     </message>
     <message>
         <source>Chunk&apos;s complete with errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Chunk terminado con errores</translation>
     </message>
     <message>
         <source>Chunk&apos;s complete with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Chunk terminado con avisos</translation>
     </message>
     <message>
         <source>Chunk&apos;s complete with success</source>
-        <translation type="unfinished"></translation>
+        <translation>Chunk terminado con éxito</translation>
     </message>
     <message>
         <source>Service activities</source>
-        <translation type="unfinished"></translation>
+        <translation>Actividades de servicio</translation>
     </message>
     <message>
         <source>Sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonidos</translation>
     </message>
     <message>
         <source>Play sound on errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonido en caso de error</translation>
     </message>
     <message>
         <source>Sound file for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de sonido para errores</translation>
     </message>
     <message>
         <source>Choose the sound file for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir el archivo de sonido para errores</translation>
     </message>
     <message>
         <source>Play sound on warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonido en caso de aviso</translation>
     </message>
     <message>
         <source>Sound file for warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de sonido para avisos</translation>
     </message>
     <message>
         <source>Choose the sound file for warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir el archivo de sonido para avisos</translation>
     </message>
     <message>
         <source>Play sound on success</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonido en caso de éxito</translation>
     </message>
     <message>
         <source>Sound file for successes</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de sonido para éxitos</translation>
     </message>
     <message>
         <source>Choose the sound file for successes</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir el archivo de sonido para éxitos</translation>
     </message>
     <message>
         <source>Play sound on items start</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonido al iniciar elementos</translation>
     </message>
     <message>
         <source>Sound file for starts of items</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de sonido para inicios</translation>
     </message>
     <message>
         <source>Choose the sound file for starts of items</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir el archivo de sonido para inicios</translation>
     </message>
     <message>
         <source>Play sound on service events</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonido en eventos de servicio</translation>
     </message>
     <message>
         <source>Sound file for service events</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de sonido para eventos de servicio</translation>
     </message>
     <message>
         <source>Choose the sound file for service events</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir el archivo de sonido para eventos de servicio</translation>
     </message>
     <message>
         <source>Single frame jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabajos de un solo fotograma</translation>
     </message>
     <message>
         <source>Image viewer mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo del visor de imágenes:</translation>
     </message>
     <message>
         <source>Integrated</source>
-        <translation type="unfinished"></translation>
+        <translation>Integrado</translation>
     </message>
     <message>
         <source>External</source>
-        <translation type="unfinished"></translation>
+        <translation>Externo</translation>
     </message>
     <message>
         <source>Launch image viewer automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir el visor automáticamente</translation>
     </message>
     <message>
         <source>Image viewer application:</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicación de visor:</translation>
     </message>
     <message>
         <source>Image viewer application</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicación de visor</translation>
     </message>
     <message>
         <source>Choose the image viewer application</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir la aplicación de visor</translation>
     </message>
     <message>
         <source>GPU/RAM viewer cache:</source>
-        <translation type="unfinished"></translation>
+        <translation>Caché GPU/RAM del visor:</translation>
     </message>
     <message>
         <source>GPU viewer cache, bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Caché GPU del visor, bytes</translation>
     </message>
     <message>
         <source>RAM viewer cache, bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Caché RAM del visor, bytes</translation>
     </message>
     <message>
         <source>EXR/Default import gamma:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma de importación EXR/otros:</translation>
     </message>
     <message>
         <source>EXR import gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma de importación EXR</translation>
     </message>
     <message>
         <source>Default import gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma de importación predeterminado</translation>
     </message>
     <message>
         <source>Network and behaviours</source>
-        <translation type="unfinished"></translation>
+        <translation>Red y comportamiento</translation>
     </message>
     <message>
         <source>Dispatcher address:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección del Dispatcher:</translation>
     </message>
     <message>
         <source>Dispatcher address</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección del Dispatcher</translation>
     </message>
     <message>
         <source>Alertor port:</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerto del Alertor:</translation>
     </message>
     <message>
         <source>Alertor port</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerto del Alertor</translation>
     </message>
     <message>
         <source>Login:</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuario:</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuario</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña</translation>
     </message>
     <message>
         <source>Skip directory server authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitir la autenticación del servidor de directorio</translation>
     </message>
     <message>
         <source>Show bubble (when supported)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar globo (si se admite)</translation>
     </message>
     <message>
         <source>Automatic aknowledge notifications when raising the application</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar las notificaciones al mostrar la aplicación</translation>
     </message>
 </context>
 </TS>

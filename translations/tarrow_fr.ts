@@ -5,1115 +5,1116 @@
     <name>Alertor</name>
     <message>
         <source>The settings cannot be saved. They hold until the program ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les préférences ne peuvent pas être enregistrées. Elles restent valables jusqu&apos;à la fin du programme.</translation>
     </message>
     <message>
         <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
-        <translation type="unfinished"></translation>
+        <translation>Le Dispatcher a refusé la connexion de l&apos;Alertor. Vérifiez l&apos;identifiant et le mot de passe dans les préférences de l&apos;Alertor&#xa0;!</translation>
     </message>
     <message>
         <source>Cannot open output folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;ouvrir le dossier de sortie %1</translation>
     </message>
     <message>
         <source>Cannot launch image viewer to shown selected frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lancer la visionneuse pour afficher l&apos;image sélectionnée</translation>
     </message>
     <message>
         <source>Are you sure you want to close the Alertor?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous vraiment fermer l&apos;Alertor&#xa0;?</translation>
     </message>
     <message>
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre carte graphique ne prend pas en charge OpenGL&#xa0;! La visionneuse d&apos;images ne peut pas être utilisée&#xa0;!</translation>
     </message>
     <message>
         <source>This build has no integrated image viewer. Choose an external application in the preferences to open frames.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette version n&apos;a pas de visionneuse intégrée. Choisissez une application externe dans les préférences pour ouvrir les images.</translation>
     </message>
 </context>
 <context>
     <name>AlertorClass</name>
     <message>
         <source>Tarrow Alertor</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarrow Alertor</translation>
     </message>
     <message>
         <source>Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Événements</translation>
     </message>
     <message>
         <source>This desktop has no system tray: the menu of its icon opens here</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce bureau n&apos;a pas de zone de notification&#xa0;: le menu de son icône s&apos;ouvre ici</translation>
     </message>
     <message>
         <source>&amp;Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Menu</translation>
     </message>
 </context>
 <context>
     <name>CacheTotals</name>
     <message>
         <source>VRAM Cache Usage: %1% RAM Cache Usage: %2% </source>
-        <translation type="unfinished"></translation>
+        <translation>Cache VRAM utilisé&#xa0;: %1% Cache RAM utilisé&#xa0;: %2% </translation>
     </message>
 </context>
 <context>
     <name>EventKind</name>
     <message>
         <source>Success</source>
-        <translation type="unfinished"></translation>
+        <translation>Succès</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissement</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Début</translation>
     </message>
     <message>
         <source>Service</source>
-        <translation type="unfinished"></translation>
+        <translation>Service</translation>
     </message>
     <message>
         <source>Alert</source>
-        <translation type="unfinished"></translation>
+        <translation>Alerte</translation>
     </message>
 </context>
 <context>
     <name>EventsModel</name>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Message</translation>
     </message>
     <message>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisateur</translation>
     </message>
     <message>
         <source>Job</source>
-        <translation type="unfinished"></translation>
+        <translation>Job</translation>
     </message>
     <message>
         <source>Chunk</source>
-        <translation type="unfinished"></translation>
+        <translation>Chunk</translation>
     </message>
     <message>
         <source>Output path</source>
-        <translation type="unfinished"></translation>
+        <translation>Chemin de sortie</translation>
     </message>
     <message>
         <source>Acknowledged</source>
-        <translation type="unfinished"></translation>
+        <translation>Acquitté</translation>
     </message>
     <message>
         <source>Service</source>
-        <translation type="unfinished"></translation>
+        <translation>Service</translation>
     </message>
     <message>
         <source>Pending</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente</translation>
     </message>
 </context>
 <context>
     <name>Hud</name>
     <message>
         <source>Pixel format: U8</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de pixel&#xa0;: U8</translation>
     </message>
     <message>
         <source>Pixel format: U16</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de pixel&#xa0;: U16</translation>
     </message>
     <message>
         <source>Pixel format: U32</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de pixel&#xa0;: U32</translation>
     </message>
     <message>
         <source>Pixel format: F32</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de pixel&#xa0;: F32</translation>
     </message>
     <message>
         <source>Pixel format: F16</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de pixel&#xa0;: F16</translation>
     </message>
     <message>
         <source>Pixel format: Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de pixel&#xa0;: inconnu</translation>
     </message>
     <message>
         <source>Bit format: RGB</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de bits&#xa0;: RGB</translation>
     </message>
     <message>
         <source>Bit format: RGBA</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de bits&#xa0;: RGBA</translation>
     </message>
     <message>
         <source>Bit format: Luminance</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de bits&#xa0;: Luminance</translation>
     </message>
     <message>
         <source>Bit format: Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de bits&#xa0;: inconnu</translation>
     </message>
     <message>
         <source>File: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier&#xa0;: %1</translation>
     </message>
     <message>
         <source>File format: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de fichier&#xa0;: %1</translation>
     </message>
     <message>
         <source>Image size: %1x%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille de l&apos;image&#xa0;: %1x%2</translation>
     </message>
     <message>
         <source>Layers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Calques&#xa0;: %1</translation>
     </message>
     <message>
         <source>Samples per channel: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échantillons par canal&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>ImageViewer</name>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Select images</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner des images</translation>
     </message>
     <message>
         <source>Images viewer on job %1 (%2) chunk ID %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Visionneuse d&apos;images – job %1 (%2), chunk %3</translation>
     </message>
     <message>
         <source>Images viewer on job %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Visionneuse d&apos;images – job %1 (%2)</translation>
     </message>
     <message>
         <source>Images viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Visionneuse d&apos;images</translation>
     </message>
     <message>
         <source>File not found at path: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier introuvable&#xa0;: %1</translation>
     </message>
     <message>
         <source>Corrupted file at path: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier endommagé&#xa0;: %1</translation>
     </message>
     <message>
         <source>S:(%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>D:(%1)</translation>
     </message>
     <message>
         <source>E:(%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>F:(%1)</translation>
     </message>
     <message>
         <source>%1 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 image(s)</translation>
     </message>
     <message>
         <source>%1 chunk(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 chunk(s)</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrière-plan</translation>
     </message>
     <message>
         <source>HUD colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du HUD</translation>
     </message>
     <message>
         <source>%1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 i/s</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire</translation>
     </message>
     <message>
         <source>Are you sure you want to remove the current markings ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous vraiment supprimer les marques actuelles&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>ImageViewerClass</name>
     <message>
         <source>Frames path</source>
-        <translation type="unfinished"></translation>
+        <translation>Chemin des images</translation>
     </message>
     <message>
         <source>File, numbered sequence or mask that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier, séquence numérotée ou masque affiché</translation>
     </message>
     <message>
         <source>Select images</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner des images</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Recharger</translation>
     </message>
     <message>
         <source>Read the frames from disk again</source>
-        <translation type="unfinished"></translation>
+        <translation>Relire les images depuis le disque</translation>
     </message>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Plein écran</translation>
     </message>
     <message>
         <source>Show the picture alone on the whole screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher l&apos;image seule sur tout l&apos;écran</translation>
     </message>
     <message>
         <source>All channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les canaux</translation>
     </message>
     <message>
         <source>Red channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal rouge</translation>
     </message>
     <message>
         <source>Green channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal vert</translation>
     </message>
     <message>
         <source>Blue channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal bleu</translation>
     </message>
     <message>
         <source>Alpha channel</source>
-        <translation type="unfinished"></translation>
+        <translation>Canal alpha</translation>
     </message>
     <message>
         <source>Luminance</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminance</translation>
     </message>
     <message>
         <source>Layer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Calque&#xa0;:</translation>
     </message>
     <message>
         <source>Layer of the file that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Calque du fichier affiché</translation>
     </message>
     <message>
         <source>Downsampling:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous-échantillonnage&#xa0;:</translation>
     </message>
     <message>
         <source>Size at which frames are kept and shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille à laquelle les images sont conservées et affichées</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom arrière</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom avant</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuster</translation>
     </message>
     <message>
         <source>Fit the picture to the view</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuster l&apos;image à la vue</translation>
     </message>
     <message>
         <source>A pixel of the picture is a pixel of the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Un pixel de l&apos;image est un pixel de l&apos;écran</translation>
     </message>
     <message>
         <source>Pixels 1:1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixels 1:1</translation>
     </message>
     <message>
         <source>Checker</source>
-        <translation type="unfinished"></translation>
+        <translation>Damier</translation>
     </message>
     <message>
         <source>Checker behind the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Damier derrière l&apos;image</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrière-plan</translation>
     </message>
     <message>
         <source>Colour behind the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur derrière l&apos;image</translation>
     </message>
     <message>
         <source>Composite</source>
-        <translation type="unfinished"></translation>
+        <translation>Composite</translation>
     </message>
     <message>
         <source>Blend the picture over what is behind it</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondre l&apos;image avec ce qui est derrière</translation>
     </message>
     <message>
         <source>Premultiplied</source>
-        <translation type="unfinished"></translation>
+        <translation>Prémultiplié</translation>
     </message>
     <message>
         <source>Take the colours of files that say so as multiplied by alpha</source>
-        <translation type="unfinished"></translation>
+        <translation>Considérer les couleurs comme multipliées par l&apos;alpha pour les fichiers qui l&apos;indiquent</translation>
     </message>
     <message>
         <source>HUD</source>
-        <translation type="unfinished"></translation>
+        <translation>HUD</translation>
     </message>
     <message>
         <source>Information over the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Informations sur l&apos;image</translation>
     </message>
     <message>
         <source>HUD colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du HUD</translation>
     </message>
     <message>
         <source>Colour of the information</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur des informations</translation>
     </message>
     <message>
         <source>Save as default</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer par défaut</translation>
     </message>
     <message>
         <source>Save the display settings as default</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les réglages d&apos;affichage par défaut</translation>
     </message>
     <message>
         <source>Calibration</source>
-        <translation type="unfinished"></translation>
+        <translation>Étalonnage</translation>
     </message>
     <message>
         <source>Show or hide the calibration</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher ou masquer l&apos;étalonnage</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>Vertical position in the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Position verticale dans l&apos;image</translation>
     </message>
     <message>
         <source>Horizontal position in the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Position horizontale dans l&apos;image</translation>
     </message>
     <message>
         <source>Input gamma:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma d&apos;entrée&#xa0;:</translation>
     </message>
     <message>
         <source>Input gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma d&apos;entrée</translation>
     </message>
     <message>
         <source>Output gamma:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma de sortie&#xa0;:</translation>
     </message>
     <message>
         <source>Output gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma de sortie</translation>
     </message>
     <message>
         <source>Brightness:</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité&#xa0;:</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité</translation>
     </message>
     <message>
         <source>Saturation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturation&#xa0;:</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturation</translation>
     </message>
     <message>
         <source>Contrast:</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraste&#xa0;:</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraste</translation>
     </message>
     <message>
         <source>Input level start:</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau d&apos;entrée bas&#xa0;:</translation>
     </message>
     <message>
         <source>Input level start</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau d&apos;entrée bas</translation>
     </message>
     <message>
         <source>Input level end:</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau d&apos;entrée haut&#xa0;:</translation>
     </message>
     <message>
         <source>Input level end</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau d&apos;entrée haut</translation>
     </message>
     <message>
         <source>Output level start:</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau de sortie bas&#xa0;:</translation>
     </message>
     <message>
         <source>Output level start</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau de sortie bas</translation>
     </message>
     <message>
         <source>Output level end:</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau de sortie haut&#xa0;:</translation>
     </message>
     <message>
         <source>Output level end</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau de sortie haut</translation>
     </message>
     <message>
         <source>Soft clip:</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrêtage doux&#xa0;:</translation>
     </message>
     <message>
         <source>Soft clip</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrêtage doux</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Calibration for the current file</source>
-        <translation type="unfinished"></translation>
+        <translation>Étalonnage pour le fichier actuel</translation>
     </message>
     <message>
         <source>Reset to defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs par défaut</translation>
     </message>
     <message>
         <source>The default calibration</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;étalonnage par défaut</translation>
     </message>
     <message>
         <source>Save the calibration as default</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer l&apos;étalonnage par défaut</translation>
     </message>
     <message>
         <source>Progress of the load</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression du chargement</translation>
     </message>
     <message>
         <source>Frames in the cache</source>
-        <translation type="unfinished"></translation>
+        <translation>Images en cache</translation>
     </message>
     <message>
         <source>Frames kept in video memory (green) and in main memory (yellow)</source>
-        <translation type="unfinished"></translation>
+        <translation>Images en mémoire vidéo (vert) et en mémoire vive (jaune)</translation>
     </message>
     <message>
         <source>Timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>Timeline</translation>
     </message>
     <message>
         <source>Drag to choose a frame. Shift marks its chunk, Control the frame; with Alt they take the mark away</source>
-        <translation type="unfinished"></translation>
+        <translation>Glissez pour choisir une image. Maj marque son chunk, Ctrl l&apos;image&#xa0;; avec Alt, la marque est retirée</translation>
     </message>
     <message>
         <source>Marked frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Images marquées</translation>
     </message>
     <message>
         <source>Marked chunks (orange) and frames (yellow)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chunks (orange) et images (jaune) marqués</translation>
     </message>
     <message>
         <source>S:(%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>D:(%1)</translation>
     </message>
     <message>
         <source>First frame to play</source>
-        <translation type="unfinished"></translation>
+        <translation>Première image à lire</translation>
     </message>
     <message>
         <source>E:(%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>F:(%1)</translation>
     </message>
     <message>
         <source>Last frame to play</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière image à lire</translation>
     </message>
     <message>
         <source>By:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas&#xa0;:</translation>
     </message>
     <message>
         <source>Step between frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas entre les images</translation>
     </message>
     <message>
         <source>First frame (Up)</source>
-        <translation type="unfinished"></translation>
+        <translation>Première image (Haut)</translation>
     </message>
     <message>
         <source>First frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Première image</translation>
     </message>
     <message>
         <source>Previous frame (Left)</source>
-        <translation type="unfinished"></translation>
+        <translation>Image précédente (Gauche)</translation>
     </message>
     <message>
         <source>Previous frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Image précédente</translation>
     </message>
     <message>
         <source>Play (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire (Espace)</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire</translation>
     </message>
     <message>
         <source>Next frame (Right)</source>
-        <translation type="unfinished"></translation>
+        <translation>Image suivante (Droite)</translation>
     </message>
     <message>
         <source>Next frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Image suivante</translation>
     </message>
     <message>
         <source>Last frame (Down)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière image (Bas)</translation>
     </message>
     <message>
         <source>Last frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière image</translation>
     </message>
     <message>
         <source>Current frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Image actuelle</translation>
     </message>
     <message>
         <source>%1 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 image(s)</translation>
     </message>
     <message>
         <source>FPS:</source>
-        <translation type="unfinished"></translation>
+        <translation>IPS&#xa0;:</translation>
     </message>
     <message>
         <source>Frames per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Images par seconde</translation>
     </message>
     <message>
         <source>Frames per second to play at</source>
-        <translation type="unfinished"></translation>
+        <translation>Images par seconde à la lecture</translation>
     </message>
     <message>
         <source>Live scrubbing</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrubbing en direct</translation>
     </message>
     <message>
         <source>Load frames while the timeline is dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger les images pendant le glissement sur la timeline</translation>
     </message>
     <message>
         <source>Mark frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer l&apos;image</translation>
     </message>
     <message>
         <source>Mark the current frame, or take its mark away</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer l&apos;image actuelle ou retirer sa marque</translation>
     </message>
     <message>
         <source>0 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>0 image(s)</translation>
     </message>
     <message>
         <source>Requeue marked frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Remettre en file les images marquées</translation>
     </message>
     <message>
         <source>Clear markings</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer les marques</translation>
     </message>
     <message>
         <source>Remove all marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer toutes les marques</translation>
     </message>
     <message>
         <source>Mark chunk</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer le chunk</translation>
     </message>
     <message>
         <source>Mark the chunk of the current frame, or take its mark away</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer le chunk de l&apos;image actuelle ou retirer sa marque</translation>
     </message>
     <message>
         <source>0 chunk(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>0 chunk(s)</translation>
     </message>
     <message>
         <source>Requeue marked chunks</source>
-        <translation type="unfinished"></translation>
+        <translation>Remettre en file les chunks marqués</translation>
     </message>
     <message>
         <source>Download chunks</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger les chunks</translation>
     </message>
     <message>
         <source>Job:</source>
-        <translation type="unfinished"></translation>
+        <translation>Job&#xa0;:</translation>
     </message>
     <message>
         <source>Chunk:</source>
-        <translation type="unfinished"></translation>
+        <translation>Chunk&#xa0;:</translation>
     </message>
     <message>
         <source>Your graphic card has no support for HALF float values. Images support or accuracy may be limited!</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre carte graphique ne prend pas en charge les flottants HALF. La prise en charge ou la précision des images peut être limitée&#xa0;!</translation>
     </message>
 </context>
 <context>
     <name>ListMenu</name>
     <message>
         <source>&amp;Acknowledge selection</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Acquitter la sélection</translation>
     </message>
     <message>
         <source>&amp;Open output folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir le dossier de sortie</translation>
     </message>
     <message>
         <source>Open &amp;frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir la ou les i&amp;mages</translation>
     </message>
     <message>
         <source>Open frame(s) exter&amp;nally</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir la ou les images en e&amp;xterne</translation>
     </message>
     <message>
         <source>&amp;Remove selection	DEL</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retirer la sélection	Suppr</translation>
     </message>
     <message>
         <source>Remove all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout retirer</translation>
     </message>
 </context>
 <context>
     <name>PictureView</name>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouiller</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>Déverrouiller</translation>
     </message>
 </context>
 <context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
-        <translation type="unfinished"></translation>
+        <translation>defaultSkinnedDialog</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser</translation>
     </message>
     <message>
         <source>Set default size and position</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir la taille et la position par défaut</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Are you sure you want to set the default size and position for this dialog ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous vraiment rétablir la taille et la position par défaut de cette fenêtre&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>QSkinnedMessageBox</name>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Abort</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrompre</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Information</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissement</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur</translation>
     </message>
     <message>
         <source>Question</source>
-        <translation type="unfinished"></translation>
+        <translation>Question</translation>
     </message>
 </context>
 <context>
     <name>Splash</name>
     <message>
         <source>Initializing...</source>
-        <translation type="unfinished"></translation>
+        <translation>Initialisation...</translation>
     </message>
     <message>
         <source>Enumerating templates...</source>
-        <translation type="unfinished"></translation>
+        <translation>Énumération des modèles...</translation>
     </message>
     <message>
         <source>%1 - Release Build %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - Build de production %2 %3</translation>
     </message>
 </context>
 <context>
     <name>Templates</name>
     <message>
         <source>Loading template %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement du modèle %1...</translation>
     </message>
 </context>
 <context>
     <name>Tray</name>
     <message>
         <source>Tarrow Alertor</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarrow Alertor</translation>
     </message>
     <message>
         <source>Tarrow Alertor (not connected)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarrow Alertor (non connecté)</translation>
     </message>
     <message>
         <source>New event available!</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvel événement disponible&#xa0;!</translation>
     </message>
     <message>
         <source>Tarrow Alertor is running in the background.
 Right-click on this icon to access the context menu or double click to raise the application.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarrow Alertor fonctionne en arrière-plan.
+Cliquez avec le bouton droit sur cette icône pour le menu contextuel ou double-cliquez pour afficher l&apos;application.</translation>
     </message>
 </context>
 <context>
     <name>TrayMenu</name>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restaurer</translation>
     </message>
     <message>
         <source>&amp;Acknowledge pending events</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Acquitter les événements en attente</translation>
     </message>
     <message>
         <source>&amp;Silent</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Silencieux</translation>
     </message>
     <message>
         <source>&amp;Open images viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir la visionneuse d&apos;images</translation>
     </message>
     <message>
         <source>&amp;Configure</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Configurer</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
 </context>
 <context>
     <name>preferences</name>
     <message>
         <source>Select File</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionner un fichier</translation>
     </message>
     <message>
         <source>Audio Files (*.wav)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers audio (*.wav)</translation>
     </message>
     <message>
         <source>Executables (*.exe)</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécutables (*.exe)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
     <name>preferencesClass</name>
     <message>
         <source>Alertor Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences de l&apos;Alertor</translation>
     </message>
     <message>
         <source>Notifications filters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtres de notification</translation>
     </message>
     <message>
         <source>Job&apos;s start</source>
-        <translation type="unfinished"></translation>
+        <translation>Début de job</translation>
     </message>
     <message>
         <source>Chunk&apos;s start</source>
-        <translation type="unfinished"></translation>
+        <translation>Début de chunk</translation>
     </message>
     <message>
         <source>Job&apos;s complete with errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Job terminé avec erreurs</translation>
     </message>
     <message>
         <source>Job&apos;s complete with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Job terminé avec avertissements</translation>
     </message>
     <message>
         <source>Job&apos;s complete with success</source>
-        <translation type="unfinished"></translation>
+        <translation>Job terminé avec succès</translation>
     </message>
     <message>
         <source>Chunk&apos;s complete with errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Chunk terminé avec erreurs</translation>
     </message>
     <message>
         <source>Chunk&apos;s complete with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Chunk terminé avec avertissements</translation>
     </message>
     <message>
         <source>Chunk&apos;s complete with success</source>
-        <translation type="unfinished"></translation>
+        <translation>Chunk terminé avec succès</translation>
     </message>
     <message>
         <source>Service activities</source>
-        <translation type="unfinished"></translation>
+        <translation>Activités de service</translation>
     </message>
     <message>
         <source>Sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sons</translation>
     </message>
     <message>
         <source>Play sound on errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Son en cas d&apos;erreur</translation>
     </message>
     <message>
         <source>Sound file for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier son pour les erreurs</translation>
     </message>
     <message>
         <source>Choose the sound file for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le fichier son pour les erreurs</translation>
     </message>
     <message>
         <source>Play sound on warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Son en cas d&apos;avertissement</translation>
     </message>
     <message>
         <source>Sound file for warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier son pour les avertissements</translation>
     </message>
     <message>
         <source>Choose the sound file for warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le fichier son pour les avertissements</translation>
     </message>
     <message>
         <source>Play sound on success</source>
-        <translation type="unfinished"></translation>
+        <translation>Son en cas de succès</translation>
     </message>
     <message>
         <source>Sound file for successes</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier son pour les succès</translation>
     </message>
     <message>
         <source>Choose the sound file for successes</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le fichier son pour les succès</translation>
     </message>
     <message>
         <source>Play sound on items start</source>
-        <translation type="unfinished"></translation>
+        <translation>Son au début des éléments</translation>
     </message>
     <message>
         <source>Sound file for starts of items</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier son pour les débuts</translation>
     </message>
     <message>
         <source>Choose the sound file for starts of items</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le fichier son pour les débuts</translation>
     </message>
     <message>
         <source>Play sound on service events</source>
-        <translation type="unfinished"></translation>
+        <translation>Son pour les événements de service</translation>
     </message>
     <message>
         <source>Sound file for service events</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier son pour les événements de service</translation>
     </message>
     <message>
         <source>Choose the sound file for service events</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le fichier son pour les événements de service</translation>
     </message>
     <message>
         <source>Single frame jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>Jobs d&apos;une seule image</translation>
     </message>
     <message>
         <source>Image viewer mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode de la visionneuse&#xa0;:</translation>
     </message>
     <message>
         <source>Integrated</source>
-        <translation type="unfinished"></translation>
+        <translation>Intégrée</translation>
     </message>
     <message>
         <source>External</source>
-        <translation type="unfinished"></translation>
+        <translation>Externe</translation>
     </message>
     <message>
         <source>Launch image viewer automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer la visionneuse automatiquement</translation>
     </message>
     <message>
         <source>Image viewer application:</source>
-        <translation type="unfinished"></translation>
+        <translation>Application de visionneuse&#xa0;:</translation>
     </message>
     <message>
         <source>Image viewer application</source>
-        <translation type="unfinished"></translation>
+        <translation>Application de visionneuse</translation>
     </message>
     <message>
         <source>Choose the image viewer application</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir l&apos;application de visionneuse</translation>
     </message>
     <message>
         <source>GPU/RAM viewer cache:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cache GPU/RAM&#xa0;:</translation>
     </message>
     <message>
         <source>GPU viewer cache, bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Cache GPU de la visionneuse, octets</translation>
     </message>
     <message>
         <source>RAM viewer cache, bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Cache RAM de la visionneuse, octets</translation>
     </message>
     <message>
         <source>EXR/Default import gamma:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma d&apos;import EXR/défaut&#xa0;:</translation>
     </message>
     <message>
         <source>EXR import gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma d&apos;import EXR</translation>
     </message>
     <message>
         <source>Default import gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma d&apos;import par défaut</translation>
     </message>
     <message>
         <source>Network and behaviours</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau et comportement</translation>
     </message>
     <message>
         <source>Dispatcher address:</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse du Dispatcher&#xa0;:</translation>
     </message>
     <message>
         <source>Dispatcher address</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse du Dispatcher</translation>
     </message>
     <message>
         <source>Alertor port:</source>
-        <translation type="unfinished"></translation>
+        <translation>Port de l&apos;Alertor&#xa0;:</translation>
     </message>
     <message>
         <source>Alertor port</source>
-        <translation type="unfinished"></translation>
+        <translation>Port de l&apos;Alertor</translation>
     </message>
     <message>
         <source>Login:</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifiant&#xa0;:</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifiant</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe&#xa0;:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe</translation>
     </message>
     <message>
         <source>Skip directory server authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer l&apos;authentification du serveur d&apos;annuaire</translation>
     </message>
     <message>
         <source>Show bubble (when supported)</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la bulle (si prise en charge)</translation>
     </message>
     <message>
         <source>Automatic aknowledge notifications when raising the application</source>
-        <translation type="unfinished"></translation>
+        <translation>Acquitter les notifications à l&apos;affichage de l&apos;application</translation>
     </message>
 </context>
 </TS>

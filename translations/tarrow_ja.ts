@@ -5,1115 +5,1116 @@
     <name>Alertor</name>
     <message>
         <source>The settings cannot be saved. They hold until the program ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を保存できません。プログラムが終了するまで有効です。</translation>
     </message>
     <message>
         <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispatcher が Alertor の接続を拒否しました。Alertor の環境設定でログイン名とパスワードを確認してください。</translation>
     </message>
     <message>
         <source>Cannot open output folder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>出力フォルダー %1 を開けません</translation>
     </message>
     <message>
         <source>Cannot launch image viewer to shown selected frame</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したフレームを表示するビューアを起動できません</translation>
     </message>
     <message>
         <source>Are you sure you want to close the Alertor?</source>
-        <translation type="unfinished"></translation>
+        <translation>Alertor を終了しますか?</translation>
     </message>
     <message>
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
-        <translation type="unfinished"></translation>
+        <translation>お使いの GPU は OpenGL に対応していません。イメージビューアは使用できません。</translation>
     </message>
     <message>
         <source>This build has no integrated image viewer. Choose an external application in the preferences to open frames.</source>
-        <translation type="unfinished"></translation>
+        <translation>このビルドには内蔵のイメージビューアがありません。フレームを開くには環境設定で外部アプリケーションを選択してください。</translation>
     </message>
 </context>
 <context>
     <name>AlertorClass</name>
     <message>
         <source>Tarrow Alertor</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarrow Alertor</translation>
     </message>
     <message>
         <source>Events</source>
-        <translation type="unfinished"></translation>
+        <translation>イベント</translation>
     </message>
     <message>
         <source>This desktop has no system tray: the menu of its icon opens here</source>
-        <translation type="unfinished"></translation>
+        <translation>このデスクトップにはシステムトレイがありません。アイコンのメニューはここから開きます</translation>
     </message>
     <message>
         <source>&amp;Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>メニュー(&amp;M)</translation>
     </message>
 </context>
 <context>
     <name>CacheTotals</name>
     <message>
         <source>VRAM Cache Usage: %1% RAM Cache Usage: %2% </source>
-        <translation type="unfinished"></translation>
+        <translation>VRAM キャッシュ使用率: %1% RAM キャッシュ使用率: %2% </translation>
     </message>
 </context>
 <context>
     <name>EventKind</name>
     <message>
         <source>Success</source>
-        <translation type="unfinished"></translation>
+        <translation>成功</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>開始</translation>
     </message>
     <message>
         <source>Service</source>
-        <translation type="unfinished"></translation>
+        <translation>サービス</translation>
     </message>
     <message>
         <source>Alert</source>
-        <translation type="unfinished"></translation>
+        <translation>アラート</translation>
     </message>
 </context>
 <context>
     <name>EventsModel</name>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>種類</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>時刻</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>メッセージ</translation>
     </message>
     <message>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザー</translation>
     </message>
     <message>
         <source>Job</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ</translation>
     </message>
     <message>
         <source>Chunk</source>
-        <translation type="unfinished"></translation>
+        <translation>チャンク</translation>
     </message>
     <message>
         <source>Output path</source>
-        <translation type="unfinished"></translation>
+        <translation>出力パス</translation>
     </message>
     <message>
         <source>Acknowledged</source>
-        <translation type="unfinished"></translation>
+        <translation>確認済み</translation>
     </message>
     <message>
         <source>Service</source>
-        <translation type="unfinished"></translation>
+        <translation>サービス</translation>
     </message>
     <message>
         <source>Pending</source>
-        <translation type="unfinished"></translation>
+        <translation>未確認</translation>
     </message>
 </context>
 <context>
     <name>Hud</name>
     <message>
         <source>Pixel format: U8</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセル形式: U8</translation>
     </message>
     <message>
         <source>Pixel format: U16</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセル形式: U16</translation>
     </message>
     <message>
         <source>Pixel format: U32</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセル形式: U32</translation>
     </message>
     <message>
         <source>Pixel format: F32</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセル形式: F32</translation>
     </message>
     <message>
         <source>Pixel format: F16</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセル形式: F16</translation>
     </message>
     <message>
         <source>Pixel format: Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセル形式: 不明</translation>
     </message>
     <message>
         <source>Bit format: RGB</source>
-        <translation type="unfinished"></translation>
+        <translation>ビット形式: RGB</translation>
     </message>
     <message>
         <source>Bit format: RGBA</source>
-        <translation type="unfinished"></translation>
+        <translation>ビット形式: RGBA</translation>
     </message>
     <message>
         <source>Bit format: Luminance</source>
-        <translation type="unfinished"></translation>
+        <translation>ビット形式: 輝度</translation>
     </message>
     <message>
         <source>Bit format: Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>ビット形式: 不明</translation>
     </message>
     <message>
         <source>File: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル: %1</translation>
     </message>
     <message>
         <source>File format: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル形式: %1</translation>
     </message>
     <message>
         <source>Image size: %1x%2</source>
-        <translation type="unfinished"></translation>
+        <translation>画像サイズ: %1x%2</translation>
     </message>
     <message>
         <source>Layers: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤー: %1</translation>
     </message>
     <message>
         <source>Samples per channel: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>チャンネルあたりのサンプル数: %1</translation>
     </message>
 </context>
 <context>
     <name>ImageViewer</name>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのファイル (*)</translation>
     </message>
     <message>
         <source>Select images</source>
-        <translation type="unfinished"></translation>
+        <translation>画像を選択</translation>
     </message>
     <message>
         <source>Images viewer on job %1 (%2) chunk ID %3</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージビューア - ジョブ %1 (%2) チャンク ID %3</translation>
     </message>
     <message>
         <source>Images viewer on job %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージビューア - ジョブ %1 (%2)</translation>
     </message>
     <message>
         <source>Images viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージビューア</translation>
     </message>
     <message>
         <source>File not found at path: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが見つかりません: %1</translation>
     </message>
     <message>
         <source>Corrupted file at path: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しています: %1</translation>
     </message>
     <message>
         <source>S:(%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>始:(%1)</translation>
     </message>
     <message>
         <source>E:(%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>終:(%1)</translation>
     </message>
     <message>
         <source>%1 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 フレーム</translation>
     </message>
     <message>
         <source>%1 chunk(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 チャンク</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>背景</translation>
     </message>
     <message>
         <source>HUD colour</source>
-        <translation type="unfinished"></translation>
+        <translation>HUD の色</translation>
     </message>
     <message>
         <source>%1 fps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fps</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>停止</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>再生</translation>
     </message>
     <message>
         <source>Are you sure you want to remove the current markings ?</source>
-        <translation type="unfinished"></translation>
+        <translation>現在のマークを削除しますか?</translation>
     </message>
 </context>
 <context>
     <name>ImageViewerClass</name>
     <message>
         <source>Frames path</source>
-        <translation type="unfinished"></translation>
+        <translation>フレームのパス</translation>
     </message>
     <message>
         <source>File, numbered sequence or mask that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>表示するファイル、連番、またはマスク</translation>
     </message>
     <message>
         <source>Select images</source>
-        <translation type="unfinished"></translation>
+        <translation>画像を選択</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>再読み込み</translation>
     </message>
     <message>
         <source>Read the frames from disk again</source>
-        <translation type="unfinished"></translation>
+        <translation>フレームをディスクから読み直します</translation>
     </message>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>全画面</translation>
     </message>
     <message>
         <source>Show the picture alone on the whole screen</source>
-        <translation type="unfinished"></translation>
+        <translation>画像だけを画面全体に表示します</translation>
     </message>
     <message>
         <source>All channels</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのチャンネル</translation>
     </message>
     <message>
         <source>Red channel</source>
-        <translation type="unfinished"></translation>
+        <translation>赤チャンネル</translation>
     </message>
     <message>
         <source>Green channel</source>
-        <translation type="unfinished"></translation>
+        <translation>緑チャンネル</translation>
     </message>
     <message>
         <source>Blue channel</source>
-        <translation type="unfinished"></translation>
+        <translation>青チャンネル</translation>
     </message>
     <message>
         <source>Alpha channel</source>
-        <translation type="unfinished"></translation>
+        <translation>アルファチャンネル</translation>
     </message>
     <message>
         <source>Luminance</source>
-        <translation type="unfinished"></translation>
+        <translation>輝度</translation>
     </message>
     <message>
         <source>Layer:</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤー:</translation>
     </message>
     <message>
         <source>Layer of the file that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>表示するファイルのレイヤー</translation>
     </message>
     <message>
         <source>Downsampling:</source>
-        <translation type="unfinished"></translation>
+        <translation>ダウンサンプリング:</translation>
     </message>
     <message>
         <source>Size at which frames are kept and shown</source>
-        <translation type="unfinished"></translation>
+        <translation>フレームを保持、表示するサイズ</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>縮小</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>拡大</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>フィット</translation>
     </message>
     <message>
         <source>Fit the picture to the view</source>
-        <translation type="unfinished"></translation>
+        <translation>画像をビューに合わせます</translation>
     </message>
     <message>
         <source>A pixel of the picture is a pixel of the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の 1 ピクセルを画面の 1 ピクセルで表示します</translation>
     </message>
     <message>
         <source>Pixels 1:1</source>
-        <translation type="unfinished"></translation>
+        <translation>等倍 1:1</translation>
     </message>
     <message>
         <source>Checker</source>
-        <translation type="unfinished"></translation>
+        <translation>チェッカー</translation>
     </message>
     <message>
         <source>Checker behind the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の背後のチェッカー</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>背景</translation>
     </message>
     <message>
         <source>Colour behind the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の背後の色</translation>
     </message>
     <message>
         <source>Composite</source>
-        <translation type="unfinished"></translation>
+        <translation>コンポジット</translation>
     </message>
     <message>
         <source>Blend the picture over what is behind it</source>
-        <translation type="unfinished"></translation>
+        <translation>画像を背後のものと合成します</translation>
     </message>
     <message>
         <source>Premultiplied</source>
-        <translation type="unfinished"></translation>
+        <translation>プリマルチプライ</translation>
     </message>
     <message>
         <source>Take the colours of files that say so as multiplied by alpha</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルに指定がある場合、色をアルファ乗算済みとして扱います</translation>
     </message>
     <message>
         <source>HUD</source>
-        <translation type="unfinished"></translation>
+        <translation>HUD</translation>
     </message>
     <message>
         <source>Information over the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>画像上の情報表示</translation>
     </message>
     <message>
         <source>HUD colour</source>
-        <translation type="unfinished"></translation>
+        <translation>HUD の色</translation>
     </message>
     <message>
         <source>Colour of the information</source>
-        <translation type="unfinished"></translation>
+        <translation>情報表示の色</translation>
     </message>
     <message>
         <source>Save as default</source>
-        <translation type="unfinished"></translation>
+        <translation>既定として保存</translation>
     </message>
     <message>
         <source>Save the display settings as default</source>
-        <translation type="unfinished"></translation>
+        <translation>表示設定を既定として保存します</translation>
     </message>
     <message>
         <source>Calibration</source>
-        <translation type="unfinished"></translation>
+        <translation>キャリブレーション</translation>
     </message>
     <message>
         <source>Show or hide the calibration</source>
-        <translation type="unfinished"></translation>
+        <translation>キャリブレーションの表示/非表示</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>画像</translation>
     </message>
     <message>
         <source>Vertical position in the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>画像内の縦位置</translation>
     </message>
     <message>
         <source>Horizontal position in the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>画像内の横位置</translation>
     </message>
     <message>
         <source>Input gamma:</source>
-        <translation type="unfinished"></translation>
+        <translation>入力ガンマ:</translation>
     </message>
     <message>
         <source>Input gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>入力ガンマ</translation>
     </message>
     <message>
         <source>Output gamma:</source>
-        <translation type="unfinished"></translation>
+        <translation>出力ガンマ:</translation>
     </message>
     <message>
         <source>Output gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>出力ガンマ</translation>
     </message>
     <message>
         <source>Brightness:</source>
-        <translation type="unfinished"></translation>
+        <translation>明るさ:</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>明るさ</translation>
     </message>
     <message>
         <source>Saturation:</source>
-        <translation type="unfinished"></translation>
+        <translation>彩度:</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>彩度</translation>
     </message>
     <message>
         <source>Contrast:</source>
-        <translation type="unfinished"></translation>
+        <translation>コントラスト:</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>コントラスト</translation>
     </message>
     <message>
         <source>Input level start:</source>
-        <translation type="unfinished"></translation>
+        <translation>入力レベル開始:</translation>
     </message>
     <message>
         <source>Input level start</source>
-        <translation type="unfinished"></translation>
+        <translation>入力レベル開始</translation>
     </message>
     <message>
         <source>Input level end:</source>
-        <translation type="unfinished"></translation>
+        <translation>入力レベル終了:</translation>
     </message>
     <message>
         <source>Input level end</source>
-        <translation type="unfinished"></translation>
+        <translation>入力レベル終了</translation>
     </message>
     <message>
         <source>Output level start:</source>
-        <translation type="unfinished"></translation>
+        <translation>出力レベル開始:</translation>
     </message>
     <message>
         <source>Output level start</source>
-        <translation type="unfinished"></translation>
+        <translation>出力レベル開始</translation>
     </message>
     <message>
         <source>Output level end:</source>
-        <translation type="unfinished"></translation>
+        <translation>出力レベル終了:</translation>
     </message>
     <message>
         <source>Output level end</source>
-        <translation type="unfinished"></translation>
+        <translation>出力レベル終了</translation>
     </message>
     <message>
         <source>Soft clip:</source>
-        <translation type="unfinished"></translation>
+        <translation>ソフトクリップ:</translation>
     </message>
     <message>
         <source>Soft clip</source>
-        <translation type="unfinished"></translation>
+        <translation>ソフトクリップ</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>リセット</translation>
     </message>
     <message>
         <source>Calibration for the current file</source>
-        <translation type="unfinished"></translation>
+        <translation>現在のファイル用のキャリブレーション</translation>
     </message>
     <message>
         <source>Reset to defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>既定値に戻す</translation>
     </message>
     <message>
         <source>The default calibration</source>
-        <translation type="unfinished"></translation>
+        <translation>既定のキャリブレーション</translation>
     </message>
     <message>
         <source>Save the calibration as default</source>
-        <translation type="unfinished"></translation>
+        <translation>キャリブレーションを既定として保存します</translation>
     </message>
     <message>
         <source>Progress of the load</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込みの進行状況</translation>
     </message>
     <message>
         <source>Frames in the cache</source>
-        <translation type="unfinished"></translation>
+        <translation>キャッシュ内のフレーム</translation>
     </message>
     <message>
         <source>Frames kept in video memory (green) and in main memory (yellow)</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオメモリ (緑) とメインメモリ (黄) に保持されたフレーム</translation>
     </message>
     <message>
         <source>Timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>タイムライン</translation>
     </message>
     <message>
         <source>Drag to choose a frame. Shift marks its chunk, Control the frame; with Alt they take the mark away</source>
-        <translation type="unfinished"></translation>
+        <translation>ドラッグでフレームを選びます。Shift でチャンク、Ctrl でフレームをマークし、Alt を加えるとマークを外します</translation>
     </message>
     <message>
         <source>Marked frames</source>
-        <translation type="unfinished"></translation>
+        <translation>マークしたフレーム</translation>
     </message>
     <message>
         <source>Marked chunks (orange) and frames (yellow)</source>
-        <translation type="unfinished"></translation>
+        <translation>マークしたチャンク (オレンジ) とフレーム (黄)</translation>
     </message>
     <message>
         <source>S:(%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>始:(%1)</translation>
     </message>
     <message>
         <source>First frame to play</source>
-        <translation type="unfinished"></translation>
+        <translation>再生する最初のフレーム</translation>
     </message>
     <message>
         <source>E:(%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>終:(%1)</translation>
     </message>
     <message>
         <source>Last frame to play</source>
-        <translation type="unfinished"></translation>
+        <translation>再生する最後のフレーム</translation>
     </message>
     <message>
         <source>By:</source>
-        <translation type="unfinished"></translation>
+        <translation>間隔:</translation>
     </message>
     <message>
         <source>Step between frames</source>
-        <translation type="unfinished"></translation>
+        <translation>フレームの間隔</translation>
     </message>
     <message>
         <source>First frame (Up)</source>
-        <translation type="unfinished"></translation>
+        <translation>最初のフレーム (↑)</translation>
     </message>
     <message>
         <source>First frame</source>
-        <translation type="unfinished"></translation>
+        <translation>最初のフレーム</translation>
     </message>
     <message>
         <source>Previous frame (Left)</source>
-        <translation type="unfinished"></translation>
+        <translation>前のフレーム (←)</translation>
     </message>
     <message>
         <source>Previous frame</source>
-        <translation type="unfinished"></translation>
+        <translation>前のフレーム</translation>
     </message>
     <message>
         <source>Play (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>再生 (スペース)</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>再生</translation>
     </message>
     <message>
         <source>Next frame (Right)</source>
-        <translation type="unfinished"></translation>
+        <translation>次のフレーム (→)</translation>
     </message>
     <message>
         <source>Next frame</source>
-        <translation type="unfinished"></translation>
+        <translation>次のフレーム</translation>
     </message>
     <message>
         <source>Last frame (Down)</source>
-        <translation type="unfinished"></translation>
+        <translation>最後のフレーム (↓)</translation>
     </message>
     <message>
         <source>Last frame</source>
-        <translation type="unfinished"></translation>
+        <translation>最後のフレーム</translation>
     </message>
     <message>
         <source>Current frame</source>
-        <translation type="unfinished"></translation>
+        <translation>現在のフレーム</translation>
     </message>
     <message>
         <source>%1 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 フレーム</translation>
     </message>
     <message>
         <source>FPS:</source>
-        <translation type="unfinished"></translation>
+        <translation>FPS:</translation>
     </message>
     <message>
         <source>Frames per second</source>
-        <translation type="unfinished"></translation>
+        <translation>フレーム/秒</translation>
     </message>
     <message>
         <source>Frames per second to play at</source>
-        <translation type="unfinished"></translation>
+        <translation>再生時のフレーム/秒</translation>
     </message>
     <message>
         <source>Live scrubbing</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブスクラブ</translation>
     </message>
     <message>
         <source>Load frames while the timeline is dragged</source>
-        <translation type="unfinished"></translation>
+        <translation>タイムラインのドラッグ中にフレームを読み込みます</translation>
     </message>
     <message>
         <source>Mark frame</source>
-        <translation type="unfinished"></translation>
+        <translation>フレームをマーク</translation>
     </message>
     <message>
         <source>Mark the current frame, or take its mark away</source>
-        <translation type="unfinished"></translation>
+        <translation>現在のフレームをマーク、またはマークを外します</translation>
     </message>
     <message>
         <source>0 frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>0 フレーム</translation>
     </message>
     <message>
         <source>Requeue marked frames</source>
-        <translation type="unfinished"></translation>
+        <translation>マークしたフレームを再キュー</translation>
     </message>
     <message>
         <source>Clear markings</source>
-        <translation type="unfinished"></translation>
+        <translation>マークを消去</translation>
     </message>
     <message>
         <source>Remove all marks</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのマークを外します</translation>
     </message>
     <message>
         <source>Mark chunk</source>
-        <translation type="unfinished"></translation>
+        <translation>チャンクをマーク</translation>
     </message>
     <message>
         <source>Mark the chunk of the current frame, or take its mark away</source>
-        <translation type="unfinished"></translation>
+        <translation>現在のフレームのチャンクをマーク、またはマークを外します</translation>
     </message>
     <message>
         <source>0 chunk(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>0 チャンク</translation>
     </message>
     <message>
         <source>Requeue marked chunks</source>
-        <translation type="unfinished"></translation>
+        <translation>マークしたチャンクを再キュー</translation>
     </message>
     <message>
         <source>Download chunks</source>
-        <translation type="unfinished"></translation>
+        <translation>チャンクをダウンロード</translation>
     </message>
     <message>
         <source>Job:</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブ:</translation>
     </message>
     <message>
         <source>Chunk:</source>
-        <translation type="unfinished"></translation>
+        <translation>チャンク:</translation>
     </message>
     <message>
         <source>Your graphic card has no support for HALF float values. Images support or accuracy may be limited!</source>
-        <translation type="unfinished"></translation>
+        <translation>お使いのグラフィックカードは HALF 浮動小数点値に対応していません。画像の対応や精度が制限される場合があります。</translation>
     </message>
 </context>
 <context>
     <name>ListMenu</name>
     <message>
         <source>&amp;Acknowledge selection</source>
-        <translation type="unfinished"></translation>
+        <translation>選択項目を確認済みにする(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Open output folder</source>
-        <translation type="unfinished"></translation>
+        <translation>出力フォルダーを開く(&amp;O)</translation>
     </message>
     <message>
         <source>Open &amp;frame(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>フレームを開く(&amp;F)</translation>
     </message>
     <message>
         <source>Open frame(s) exter&amp;nally</source>
-        <translation type="unfinished"></translation>
+        <translation>フレームを外部アプリケーションで開く(&amp;N)</translation>
     </message>
     <message>
         <source>&amp;Remove selection	DEL</source>
-        <translation type="unfinished"></translation>
+        <translation>選択項目を削除(&amp;R)	Del</translation>
     </message>
     <message>
         <source>Remove all</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて削除</translation>
     </message>
 </context>
 <context>
     <name>PictureView</name>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>適用</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>ロック</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>ロック解除</translation>
     </message>
 </context>
 <context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
-        <translation type="unfinished"></translation>
+        <translation>defaultSkinnedDialog</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>更新</translation>
     </message>
     <message>
         <source>Set default size and position</source>
-        <translation type="unfinished"></translation>
+        <translation>既定のサイズと位置に戻す</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>Are you sure you want to set the default size and position for this dialog ?</source>
-        <translation type="unfinished"></translation>
+        <translation>このダイアログのサイズと位置を既定に戻しますか?</translation>
     </message>
 </context>
 <context>
     <name>QSkinnedMessageBox</name>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>はい</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>いいえ</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Abort</source>
-        <translation type="unfinished"></translation>
+        <translation>中止</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>情報</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>警告</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー</translation>
     </message>
     <message>
         <source>Question</source>
-        <translation type="unfinished"></translation>
+        <translation>確認</translation>
     </message>
 </context>
 <context>
     <name>Splash</name>
     <message>
         <source>Initializing...</source>
-        <translation type="unfinished"></translation>
+        <translation>初期化しています...</translation>
     </message>
     <message>
         <source>Enumerating templates...</source>
-        <translation type="unfinished"></translation>
+        <translation>テンプレートを列挙しています...</translation>
     </message>
     <message>
         <source>%1 - Release Build %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - リリースビルド %2 %3</translation>
     </message>
 </context>
 <context>
     <name>Templates</name>
     <message>
         <source>Loading template %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>テンプレート %1 を読み込んでいます...</translation>
     </message>
 </context>
 <context>
     <name>Tray</name>
     <message>
         <source>Tarrow Alertor</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarrow Alertor</translation>
     </message>
     <message>
         <source>Tarrow Alertor (not connected)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarrow Alertor (未接続)</translation>
     </message>
     <message>
         <source>New event available!</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいイベントがあります。</translation>
     </message>
     <message>
         <source>Tarrow Alertor is running in the background.
 Right-click on this icon to access the context menu or double click to raise the application.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarrow Alertor はバックグラウンドで動作しています。
+このアイコンを右クリックするとメニュー、ダブルクリックするとアプリケーションが開きます。</translation>
     </message>
 </context>
 <context>
     <name>TrayMenu</name>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Acknowledge pending events</source>
-        <translation type="unfinished"></translation>
+        <translation>未確認のイベントを確認済みにする(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Silent</source>
-        <translation type="unfinished"></translation>
+        <translation>サイレント(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Open images viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージビューアを開く(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Configure</source>
-        <translation type="unfinished"></translation>
+        <translation>設定(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了(&amp;Q)</translation>
     </message>
 </context>
 <context>
     <name>preferences</name>
     <message>
         <source>Select File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを選択</translation>
     </message>
     <message>
         <source>Audio Files (*.wav)</source>
-        <translation type="unfinished"></translation>
+        <translation>オーディオファイル (*.wav)</translation>
     </message>
     <message>
         <source>Executables (*.exe)</source>
-        <translation type="unfinished"></translation>
+        <translation>実行ファイル (*.exe)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのファイル (*)</translation>
     </message>
 </context>
 <context>
     <name>preferencesClass</name>
     <message>
         <source>Alertor Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Alertor 環境設定</translation>
     </message>
     <message>
         <source>Notifications filters</source>
-        <translation type="unfinished"></translation>
+        <translation>通知フィルター</translation>
     </message>
     <message>
         <source>Job&apos;s start</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブの開始</translation>
     </message>
     <message>
         <source>Chunk&apos;s start</source>
-        <translation type="unfinished"></translation>
+        <translation>チャンクの開始</translation>
     </message>
     <message>
         <source>Job&apos;s complete with errors</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブの完了 (エラーあり)</translation>
     </message>
     <message>
         <source>Job&apos;s complete with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブの完了 (警告あり)</translation>
     </message>
     <message>
         <source>Job&apos;s complete with success</source>
-        <translation type="unfinished"></translation>
+        <translation>ジョブの完了 (成功)</translation>
     </message>
     <message>
         <source>Chunk&apos;s complete with errors</source>
-        <translation type="unfinished"></translation>
+        <translation>チャンクの完了 (エラーあり)</translation>
     </message>
     <message>
         <source>Chunk&apos;s complete with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>チャンクの完了 (警告あり)</translation>
     </message>
     <message>
         <source>Chunk&apos;s complete with success</source>
-        <translation type="unfinished"></translation>
+        <translation>チャンクの完了 (成功)</translation>
     </message>
     <message>
         <source>Service activities</source>
-        <translation type="unfinished"></translation>
+        <translation>サービスの動作</translation>
     </message>
     <message>
         <source>Sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>サウンド</translation>
     </message>
     <message>
         <source>Play sound on errors</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー時に音を鳴らす</translation>
     </message>
     <message>
         <source>Sound file for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー用サウンドファイル</translation>
     </message>
     <message>
         <source>Choose the sound file for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー用サウンドファイルを選択</translation>
     </message>
     <message>
         <source>Play sound on warning</source>
-        <translation type="unfinished"></translation>
+        <translation>警告時に音を鳴らす</translation>
     </message>
     <message>
         <source>Sound file for warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>警告用サウンドファイル</translation>
     </message>
     <message>
         <source>Choose the sound file for warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>警告用サウンドファイルを選択</translation>
     </message>
     <message>
         <source>Play sound on success</source>
-        <translation type="unfinished"></translation>
+        <translation>成功時に音を鳴らす</translation>
     </message>
     <message>
         <source>Sound file for successes</source>
-        <translation type="unfinished"></translation>
+        <translation>成功用サウンドファイル</translation>
     </message>
     <message>
         <source>Choose the sound file for successes</source>
-        <translation type="unfinished"></translation>
+        <translation>成功用サウンドファイルを選択</translation>
     </message>
     <message>
         <source>Play sound on items start</source>
-        <translation type="unfinished"></translation>
+        <translation>開始時に音を鳴らす</translation>
     </message>
     <message>
         <source>Sound file for starts of items</source>
-        <translation type="unfinished"></translation>
+        <translation>開始用サウンドファイル</translation>
     </message>
     <message>
         <source>Choose the sound file for starts of items</source>
-        <translation type="unfinished"></translation>
+        <translation>開始用サウンドファイルを選択</translation>
     </message>
     <message>
         <source>Play sound on service events</source>
-        <translation type="unfinished"></translation>
+        <translation>サービスイベント時に音を鳴らす</translation>
     </message>
     <message>
         <source>Sound file for service events</source>
-        <translation type="unfinished"></translation>
+        <translation>サービスイベント用サウンドファイル</translation>
     </message>
     <message>
         <source>Choose the sound file for service events</source>
-        <translation type="unfinished"></translation>
+        <translation>サービスイベント用サウンドファイルを選択</translation>
     </message>
     <message>
         <source>Single frame jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>単一フレームのジョブ</translation>
     </message>
     <message>
         <source>Image viewer mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージビューアのモード:</translation>
     </message>
     <message>
         <source>Integrated</source>
-        <translation type="unfinished"></translation>
+        <translation>内蔵</translation>
     </message>
     <message>
         <source>External</source>
-        <translation type="unfinished"></translation>
+        <translation>外部</translation>
     </message>
     <message>
         <source>Launch image viewer automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージビューアを自動的に起動</translation>
     </message>
     <message>
         <source>Image viewer application:</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージビューアアプリケーション:</translation>
     </message>
     <message>
         <source>Image viewer application</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージビューアアプリケーション</translation>
     </message>
     <message>
         <source>Choose the image viewer application</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージビューアアプリケーションを選択</translation>
     </message>
     <message>
         <source>GPU/RAM viewer cache:</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU/RAM ビューアキャッシュ:</translation>
     </message>
     <message>
         <source>GPU viewer cache, bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU ビューアキャッシュ (バイト)</translation>
     </message>
     <message>
         <source>RAM viewer cache, bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>RAM ビューアキャッシュ (バイト)</translation>
     </message>
     <message>
         <source>EXR/Default import gamma:</source>
-        <translation type="unfinished"></translation>
+        <translation>EXR/既定の読み込みガンマ:</translation>
     </message>
     <message>
         <source>EXR import gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>EXR の読み込みガンマ</translation>
     </message>
     <message>
         <source>Default import gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>既定の読み込みガンマ</translation>
     </message>
     <message>
         <source>Network and behaviours</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークと動作</translation>
     </message>
     <message>
         <source>Dispatcher address:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispatcher のアドレス:</translation>
     </message>
     <message>
         <source>Dispatcher address</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispatcher のアドレス</translation>
     </message>
     <message>
         <source>Alertor port:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alertor のポート:</translation>
     </message>
     <message>
         <source>Alertor port</source>
-        <translation type="unfinished"></translation>
+        <translation>Alertor のポート</translation>
     </message>
     <message>
         <source>Login:</source>
-        <translation type="unfinished"></translation>
+        <translation>ログイン名:</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished"></translation>
+        <translation>ログイン名</translation>
     </message>
     <message>
         <source>Password:</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワード:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワード</translation>
     </message>
     <message>
         <source>Skip directory server authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>ディレクトリサーバー認証を省略</translation>
     </message>
     <message>
         <source>Show bubble (when supported)</source>
-        <translation type="unfinished"></translation>
+        <translation>バルーンを表示 (対応時)</translation>
     </message>
     <message>
         <source>Automatic aknowledge notifications when raising the application</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションを前面に出すときに通知を自動で確認済みにする</translation>
     </message>
 </context>
 </TS>

@@ -21,17 +21,22 @@ bool install(const QLocale &locale, const QString &name, const QString &folder)
 
 bool installLanguage(const QString &code)
 {
+    if (code.isEmpty())
+        return installFirstLanguage(QLocale::system().uiLanguages());
     // A code that the toolkit does not know stands for its C locale.
-    const QLocale chosen = code.isEmpty() ? QLocale::system() : QLocale(code);
-    if (!code.isEmpty() && chosen.language() == QLocale::C)
-        return false;
-    // Who has English before other languages is to have English.
-    for (const QString &name : chosen.uiLanguages()) {
-        const QLocale language(name);
-        if (language.language() == QLocale::English || language.language() == QLocale::C)
+    const QLocale locale(code);
+    return locale.language() != QLocale::C && installFirstLanguage(locale.uiLanguages());
+}
+
+bool installFirstLanguage(const QStringList &codes)
+{
+    for (const QString &code : codes) {
+        const QLocale locale(code);
+        // Who has English before other languages is to have English.
+        if (locale.language() == QLocale::English || locale.language() == QLocale::C)
             return true;
-        if (install(language, QStringLiteral("tarrow"), QStringLiteral(":/i18n"))) {
-            install(language, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+        if (install(locale, QStringLiteral("tarrow"), QStringLiteral(":/i18n"))) {
+            install(locale, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
             return true;
         }
     }
