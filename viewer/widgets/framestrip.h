@@ -24,7 +24,7 @@ protected:
     const FrameScale &scale() const { return m_scale; }
 
 private:
-    /// Height is that of the strip's black inside.
+    /// Columns come from left to right; `frame` is a frame's width and the height of the strip's black inside.
     virtual void drawColumn(QPainter &painter, const FrameColumn &column, QSize frame) const = 0;
 
     FrameScale m_scale;

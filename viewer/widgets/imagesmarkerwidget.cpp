@@ -3,6 +3,7 @@
 #include <QtGui/QPainter>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -22,11 +23,13 @@ imagesMarkerWidget::imagesMarkerWidget(QWidget *parent)
 void imagesMarkerWidget::setChunks(const ChunkMap &chunks)
 {
     m_chunks = chunks;
+    shadeChunks();
 }
 
 void imagesMarkerWidget::setMarkedChunks(const MarkedChunks &chunks)
 {
     m_markedChunks = chunks;
+    shadeChunks();
 }
 
 void imagesMarkerWidget::setMarkedFrames(const MarkedFrames &frames)
@@ -51,20 +54,29 @@ bool imagesMarkerWidget::hasMarkedFrame(const FrameColumn &column) const
     return std::any_of(first, end, [this](std::int32_t frame) { return scale().contains(frame); });
 }
 
+void imagesMarkerWidget::shadeChunks()
+{
+    m_shades.clear();
+    std::int64_t free = std::numeric_limits<std::int32_t>::min();
+    for (const auto &[lastFrame, chunk] : m_chunks) {
+        const std::int64_t first = std::max<std::int64_t>(chunk.firstFrame, free);
+        const bool marked = m_markedChunks.contains({lastFrame, chunk.id});
+        if (first <= lastFrame && (marked || chunk.state == kShownState))
+            m_shades.push_back({static_cast<std::int32_t>(first), lastFrame, marked});
+        free = std::int64_t{lastFrame} + 1;
+    }
+}
+
 const QColor *imagesMarkerWidget::chunkColor(const FrameColumn &column) const
 {
     // Where frames of several chunks share the column, a mark is not to be hidden by the others.
     const QColor *color = nullptr;
-    for (auto chunk = m_chunks.lower_bound(column.first); chunk != m_chunks.end(); ++chunk) {
-        const auto &[lastFrame, record] = *chunk;
-        if (record.firstFrame <= std::min(lastFrame, column.last)) {
-            if (m_markedChunks.contains({lastFrame, record.id}))
-                return &kMarkedChunk;
-            if (record.state == kShownState)
-                color = &kShownChunk;
-        }
-        if (lastFrame >= column.last)
-            break;
+    const auto endsBefore = [](const Shade &shade, std::int32_t frame) { return shade.last < frame; };
+    auto shade = std::lower_bound(m_shades.begin(), m_shades.end(), column.first, endsBefore);
+    for (; shade != m_shades.end() && shade->first <= column.last; ++shade) {
+        if (shade->marked)
+            return &kMarkedChunk;
+        color = &kShownChunk;
     }
     return color;
 }

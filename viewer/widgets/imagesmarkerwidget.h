@@ -18,12 +18,21 @@ public:
     void setMarkedFrames(const MarkedFrames &frames);
 
 private:
+    /// Frames of a chunk that has a colour.
+    struct Shade {
+        std::int32_t first = 0;
+        std::int32_t last = 0;
+        bool marked = false;
+    };
+
+    void shadeChunks();
     void drawColumn(QPainter &painter, const FrameColumn &column, QSize frame) const override;
     bool hasMarkedFrame(const FrameColumn &column) const;
-    /// Of the column's chunk, null for none.
+    /// Of the column's chunks, null for none.
     const QColor *chunkColor(const FrameColumn &column) const;
 
     ChunkMap m_chunks;
     MarkedChunks m_markedChunks;
+    std::vector<Shade> m_shades; ///< in order, none overlaps the next
     std::vector<std::int32_t> m_markedFrames; ///< in order
 };
