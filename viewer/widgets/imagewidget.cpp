@@ -2,14 +2,12 @@
 
 #include "hud.h"
 #include "picturerenderer.h"
-#include "viewerlog.h"
 
 #include <imageframe.h>
 #include <tappstate.h>
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QOpenGLContext>
-#include <QtGui/QPainter>
 #include <QtGui/QWheelEvent>
 #include <QtOpenGL/QOpenGLFramebufferObject>
 #include <QtWidgets/QApplication>
@@ -21,11 +19,6 @@ namespace {
 
 // The wheel's unit of an eighth of a degree: a step takes a whole degree.
 constexpr int kWheelStep = 8;
-
-bool usesCore()
-{
-    return TAppState::instance().gl32Supported;
-}
 
 bool hasFloatTextures(const QOpenGLContext &context)
 {
@@ -225,7 +218,7 @@ void imageWidget::initializeGL()
 {
     initializeOpenGLFunctions();
     glDisable(GL_DEPTH_TEST);
-    const bool core = usesCore();
+    const bool core = TAppState::instance().gl32Supported;
     m_floatTexturesUsable = core || hasFloatTextures(*context());
     QOpenGLFunctions &gl = *this;
     m_renderer = std::make_unique<PictureRenderer>(gl, core);
@@ -252,12 +245,7 @@ void imageWidget::paintGL()
         return;
     if (m_hudLines.isEmpty())
         m_hudLines = hudLines(*m_frame);
-    if (usesCore()) {
-        m_renderer->drawHud(scene, m_hudLines, devicePixelRatio());
-    } else {
-        QPainter painter(this);
-        paintHud(painter, m_hudLines, m_look.hud);
-    }
+    m_renderer->drawHud(scene, m_hudLines, devicePixelRatio());
 }
 
 bool imageWidget::event(QEvent *event)

@@ -1,8 +1,11 @@
 #include "picturerenderer.h"
 
+#include "hud.h"
+
 #include <imageframe.h>
 
 #include <QtGui/QOpenGLContext>
+#include <QtGui/QPainter>
 
 #include <algorithm>
 
@@ -70,11 +73,16 @@ void PictureRenderer::drawBorder(const Scene &scene)
 
 void PictureRenderer::drawHud(const Scene &scene, const QStringList &lines, qreal devicePixelRatio)
 {
-    if (!m_hud || !scene.frame)
+    if (m_hud) {
+        enableBlending();
+        m_hud->draw(scene.geometry.projection(), lines, scene.look.hud, devicePixelRatio);
+        m_gl.glDisable(GL_BLEND);
         return;
-    enableBlending();
-    m_hud->draw(scene.geometry.projection(), lines, scene.look.hud, devicePixelRatio);
-    m_gl.glDisable(GL_BLEND);
+    }
+    m_view.setSize(scene.geometry.view);
+    m_view.setDevicePixelRatio(devicePixelRatio);
+    QPainter painter(&m_view);
+    paintHud(painter, lines, scene.look.hud);
 }
 
 void PictureRenderer::drawChecker(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad)

@@ -7,6 +7,8 @@
 #include "vertexset.h"
 #include "viewgeometry.h"
 
+#include <QtOpenGL/QOpenGLPaintDevice>
+
 #include <optional>
 
 struct ImageFrame;
@@ -30,7 +32,7 @@ public:
     /// Background, checker and frame.
     void drawPicture(const Scene &scene);
     void drawBorder(const Scene &scene);
-    /// On a core context only: on another the HUD is text on the window.
+    /// Over a core context's picture, which it moves with; on another at its place in the view.
     void drawHud(const Scene &scene, const QStringList &lines, qreal devicePixelRatio);
 
 private:
@@ -47,6 +49,7 @@ private:
     VertexSet m_pictureVertices;
     VertexSet m_checkerVertices;
     VertexSet m_borderVertices;
-    std::optional<HudOverlay> m_hud;
+    std::optional<HudOverlay> m_hud; ///< on a core context
+    QOpenGLPaintDevice m_view; ///< for the HUD on another
     bool m_wideLines;
 };
