@@ -1,0 +1,473 @@
+#include "picturereference.h"
+
+#include <hud.h>
+#include <imagewidget.h>
+#include <tappstate.h>
+
+#include <QtGui/QOpenGLContext>
+#include <QtGui/QOpenGLFunctions>
+#include <QtGui/QScreen>
+#include <QtGui/QSurfaceFormat>
+#include <QtGui/QWindow>
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
+
+#include <functional>
+#include <utility>
+
+using Change = std::function<void(imageWidget &)>;
+using Spoiling = std::function<void(ImageFrame &)>;
+
+namespace {
+
+constexpr double kTolerance = 1.5;
+constexpr QSize kFrame(17, 11);
+constexpr QRect kPlace(0, 0, 61, 41);
+constexpr QRect kLargePlace(0, 0, 400, 300);
+
+ImageFrame stored(GLenum internalFormat, GLenum pixelType, int components, int textures = 1)
+{
+    ImageFrame form;
+    form.textureCount = textures;
+    form.internalFormat = internalFormat;
+    form.components = components;
+    form.pixelType = pixelType;
+    form.yFlipped = true;
+    return form;
+}
+
+ImageFrame flagged(bool isYCbCr, bool premultiplied, bool yFlipped = true)
+{
+    ImageFrame form = stored(GL_RGBA32F, GL_FLOAT, 4);
+    form.isYCbCr = isYCbCr;
+    form.premultiplied = premultiplied;
+    form.yFlipped = yFlipped;
+    return form;
+}
+
+/// Empty when every pixel is as it should be, else the first that is not.
+QString difference(const QImage &picture, const PictureSetup &setup, const PictureFrame *shown)
+{
+    if (picture.size() != setup.view)
+        return QStringLiteral("%1 x %2 pixels").arg(picture.width()).arg(picture.height());
+    const auto expected = drawReference(setup, shown);
+    const QImage stored = picture.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+    for (int i = 0; i < stored.width() * stored.height(); ++i) {
+        const auto &colour = expected[static_cast<std::size_t>(i)];
+        const int x = i % stored.width();
+        const int y = i / stored.width();
+        for (std::size_t c = 0; colour && c < 3; ++c) {
+            const double found = stored.constScanLine(y)[4 * x + int(c)];
+            const double wanted = 255.0 * (*colour)[c];
+            if (!(std::abs(found - wanted) <= kTolerance)) {
+                return QStringLiteral("channel %1 at %2, %3 is %4, not %5")
+                    .arg(c)
+                    .arg(x)
+                    .arg(y)
+                    .arg(found)
+                    .arg(wanted);
+            }
+        }
+    }
+    return {};
+}
+
+/// First and last row of each line of a white text on black.
+QList<QPair<int, int>> textLines(const QImage &picture)
+{
+    QList<QPair<int, int>> lines;
+    bool within = false;
+    for (int y = 0; y < picture.height(); ++y) {
+        bool lit = false;
+        for (int x = 0; x < picture.width(); ++x)
+            lit = lit || qGray(picture.pixel(x, y)) > 100;
+        if (lit && !within)
+            lines.append({y, y});
+        else if (lit)
+            lines.last().second = y;
+        within = lit;
+    }
+    return lines;
+}
+
+class Paints final : public QObject {
+public:
+    explicit Paints(QWidget *widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
+
+} // namespace
+
+/// Runs on the path that main() is told of.
+class PictureTest final : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_window = std::make_unique<QWidget>();
+        m_window->setFixedSize(600, 400);
+        m_beside = new QWidget(m_window.get());
+        m_beside->setGeometry(500, 300, 50, 50);
+        m_picture = new imageWidget(m_window.get());
+        m_picture->setGeometry(kPlace);
+        m_picture->setHudOn(false);
+        m_window->show();
+        QTRY_VERIFY(m_picture->isValid());
+        QCOMPARE(m_picture->context()->format().profile(), QSurfaceFormat::defaultFormat().profile());
+    }
+    void cleanup()
+    {
+        QCOMPARE(glError(), 0U);
+        m_window.reset();
+        QCOMPARE(imageWidget::liveTextures(), 0);
+    }
+
+    void pipeline_data();
+    void pipeline()
+    {
+        QFETCH(PictureLook, look);
+        QFETCH(ImageFrame, form);
+        const auto shown = show(form, kFrame);
+        compare({look, kPlace.size()}, shown.get());
+    }
+
+    void geometry_data();
+    void geometry()
+    {
+        QFETCH(QSize, frame);
+        QFETCH(float, zoom);
+        QFETCH(QPoint, pan);
+        QFETCH(bool, checkerOn);
+        m_picture->setGeometry(0, 0, 240, 180);
+        const auto shown = frame.isEmpty() ? nullptr : show(stored(GL_RGBA32F, GL_FLOAT, 4), frame);
+        PictureSetup setup{{}, QSize(240, 180) * m_picture->devicePixelRatioF(), zoom, pan};
+        setup.look.checkerOn = checkerOn;
+        compare(setup, shown.get());
+        QCOMPARE(m_picture->viewSize(), setup.view);
+        QCOMPARE(m_picture->pan(), pan);
+    }
+
+    void unusableFrames_data();
+    void unusableFrames()
+    {
+        QFETCH(Spoiling, spoil);
+        const auto shown = show(stored(GL_R16F, GL_HALF_FLOAT, 1, 4), kFrame, spoil);
+        m_picture->setHudOn(true);
+        QVERIFY(!m_picture->grabFramebuffer().isNull());
+    }
+
+    void pictureIsGrabbedAtItsOwnPixels()
+    {
+        const auto shown = show(flagged(false, false), QSize(90, 70));
+        m_picture->setZoomFactor(2.0F);
+        m_picture->setPan(QPoint(30, 20));
+        m_picture->setHudOn(true);
+        const QImage before = m_picture->grabFramebuffer();
+        QCOMPARE(difference(m_picture->grabPicture(), {{}, shown->size}, shown.get()), QString());
+        QCOMPARE(m_picture->grabFramebuffer(), before);
+    }
+
+    void texturesOutliveFullScreen()
+    {
+        const auto shown = show(stored(GL_R16F, GL_HALF_FLOAT, 1, 4), kFrame);
+        const auto names = shown->frame.textureNames;
+        m_picture->setParent(nullptr);
+        m_picture->showFullScreen();
+        QTRY_COMPARE(m_picture->size(), m_picture->screen()->size());
+        compare({{}, m_picture->screen()->size()}, shown.get());
+        m_picture->setParent(m_window.get());
+        m_picture->setGeometry(kPlace);
+        m_picture->show();
+        QTRY_VERIFY(m_picture->isValid());
+        compare({{}, kPlace.size()}, shown.get());
+        QCOMPARE(shown->frame.textureNames, names);
+        QCOMPARE(imageWidget::liveTextures(), 4);
+    }
+
+    void changesAloneRepaint_data();
+    void changesAloneRepaint()
+    {
+        QFETCH(Change, change);
+        const auto shown = show(stored(GL_RGBA32F, GL_FLOAT, 4), kLargePlace.size());
+        m_picture->setHudOn(true);
+        Paints paints(m_picture);
+        paintWhatIsOwed();
+        const int before = paints.count;
+        for (int times = 0; times < 2; ++times) {
+            change(*m_picture);
+            paintWhatIsOwed();
+            QCOMPARE(paints.count, before + 1);
+        }
+    }
+
+    void hudStandsWhereItsPathPutsIt();
+    void unchangedHudKeepsItsTexture();
+
+private:
+    std::unique_ptr<PictureFrame> show(ImageFrame form, QSize size, const Spoiling &spoil = {})
+    {
+        form.filePath = "A.exr";
+        form.formatName = "exr";
+        form.display = m_picture;
+        auto shown = std::make_unique<PictureFrame>(form, size);
+        if (spoil)
+            spoil(shown->frame);
+        m_picture->uploadTextures(shown->frame);
+        m_picture->showFrame(&shown->frame);
+        return shown;
+    }
+
+    void compare(const PictureSetup &setup, const PictureFrame *shown)
+    {
+        m_picture->setCalibration(setup.look.calibration);
+        m_picture->setSourceGamma(setup.look.sourceGamma);
+        m_picture->setChannelViewMode(setup.look.channelViewMode);
+        m_picture->setCheckerOn(setup.look.checkerOn);
+        m_picture->setAlphaOn(setup.look.alphaOn);
+        m_picture->setBackgroundColor(setup.look.background);
+        m_picture->setZoomFactor(setup.zoom);
+        m_picture->setPan(setup.pan);
+        QCOMPARE(difference(m_picture->grabFramebuffer(), setup, shown), QString());
+    }
+
+    /// The window paints all that waits at once, so the neighbour's paint tells.
+    void paintWhatIsOwed()
+    {
+        const Paints paints(m_beside);
+        m_beside->update();
+        QTRY_COMPARE(paints.count, 1);
+    }
+
+    GLenum glError() const
+    {
+        m_picture->makeCurrent();
+        return m_picture->context()->functions()->glGetError();
+    }
+
+    std::unique_ptr<QWidget> m_window;
+    QWidget *m_beside = nullptr;
+    imageWidget *m_picture = nullptr;
+};
+
+void PictureTest::pipeline_data()
+{
+    QTest::addColumn<PictureLook>("look");
+    QTest::addColumn<ImageFrame>("form");
+    const ImageFrame plain = flagged(false, false);
+
+    struct Slider {
+        const char *name;
+        float Calibration::*value;
+        std::vector<float> settings;
+    };
+    const Slider sliders[] = {
+        {"gamma", &Calibration::gamma, {0.0F, 0.45F, 1.0F, 2.2F, 4.0F}},
+        {"brightness", &Calibration::brightness, {0.0F, 0.7F, 1.3F, 2.0F}},
+        {"saturation", &Calibration::saturation, {0.0F, 0.5F, 1.5F, 2.0F}},
+        {"contrast", &Calibration::contrast, {-1.0F, 0.0F, 0.6F, 1.4F, 2.0F}},
+        {"level input min", &Calibration::levelInputMin, {-1.0F, -0.3F, 0.3F, 1.0F}},
+        // Nothing is defined for 0, which divides.
+        {"level input max", &Calibration::levelInputMax, {-1.0F, -0.4F, 0.1F, 0.6F}},
+        {"level output min", &Calibration::levelOutputMin, {-1.0F, -0.3F, 0.3F, 1.0F}},
+        {"level output max", &Calibration::levelOutputMax, {-1.0F, 0.0F, 0.6F}},
+        {"soft clip", &Calibration::softClip, {0.0F, 0.2F, 0.7F, 1.5F, 2.0F}},
+    };
+    for (const Slider &slider : sliders) {
+        for (const float setting : slider.settings) {
+            PictureLook look;
+            look.calibration.*slider.value = setting;
+            QTest::addRow("%s %g", slider.name, double(setting)) << look << plain;
+        }
+    }
+    for (const float gamma : {0.1F, 1.8F, 2.2F, 4.0F}) // nor for 0 here
+        QTest::addRow("source gamma %g", double(gamma))
+            << PictureLook{.calibration = {}, .sourceGamma = gamma} << plain;
+    for (const int mode : {-1, 1, 2, 3, 4, 5, 6, 1000}) {
+        for (const bool alphaOn : {false, true})
+            QTest::addRow("mode %d, alpha %d", mode, alphaOn)
+                << PictureLook{.calibration = {}, .channelViewMode = mode, .alphaOn = alphaOn} << plain;
+    }
+    const Calibration all{0.6F, 1.1F, 1.4F, 0.8F, 0.1F, 0.9F, 0.05F, 0.95F, 0.3F};
+    for (const bool alphaOn : {false, true}) {
+        for (int flags = 0; flags < 8; ++flags)
+            QTest::addRow("all at once, alpha %d, flags %d", alphaOn, flags)
+                << PictureLook{.calibration = all, .sourceGamma = 2.2F, .alphaOn = alphaOn}
+                << flagged(flags & 1, flags & 2, flags & 4);
+    }
+
+    struct Format {
+        const char *name;
+        GLenum pixelType;
+        GLenum single[3]; // of 1, 3 and 4 samples
+        GLenum multiple;
+    };
+    const Format formats[] = {
+        {"8 bit", GL_UNSIGNED_BYTE, {GL_LUMINANCE, GL_RGB, GL_RGBA}, GL_R8},
+        {"16 bit", GL_UNSIGNED_SHORT, {0, 0, GL_RGBA16}, GL_R16F},
+        {"half", GL_HALF_FLOAT, {GL_R16F, GL_RGB16F, GL_RGBA16F}, GL_R16F},
+        {"float", GL_FLOAT, {GL_R32F, GL_RGB32F, GL_RGBA32F}, GL_R32F},
+    };
+    for (const auto &[name, pixelType, single, multiple] : formats) {
+        for (const int count : {1, 2, 3, 4}) {
+            const GLenum packed = count == 2 ? 0 : single[count == 1 ? 0 : count - 2];
+            if (packed != 0)
+                QTest::addRow("%s, %d samples", name, count)
+                    << PictureLook() << stored(packed, pixelType, count);
+            if (count > 1)
+                QTest::addRow("%s, %d textures", name, count)
+                    << PictureLook() << stored(multiple, pixelType, 1, count);
+        }
+    }
+}
+
+void PictureTest::geometry_data()
+{
+    QTest::addColumn<QSize>("frame");
+    QTest::addColumn<float>("zoom");
+    QTest::addColumn<QPoint>("pan");
+    QTest::addColumn<bool>("checkerOn");
+    QTest::newRow("no frame, larger") << QSize() << 4.0F << QPoint(37, 81) << true;
+    QTest::newRow("no frame, smaller") << QSize() << 0.25F << QPoint() << true;
+    QTest::newRow("in the middle") << QSize(100, 80) << 1.0F << QPoint() << true;
+    QTest::newRow("half a pixel aside") << QSize(101, 80) << 1.0F << QPoint() << true;
+    QTest::newRow("no checker") << QSize(100, 80) << 1.0F << QPoint() << false;
+    QTest::newRow("larger, at its corner") << QSize(640, 500) << 1.0F << QPoint() << true;
+    QTest::newRow("larger, panned") << QSize(640, 500) << 1.0F << QPoint(33, 71) << true;
+    QTest::newRow("zoomed in") << QSize(40, 20) << 3.0F << QPoint() << true;
+    QTest::newRow("zoomed in, panned") << QSize(320, 250) << 2.0F << QPoint(127, 49) << true;
+    QTest::newRow("zoomed out") << QSize(400, 240) << 0.5F << QPoint() << true;
+    QTest::newRow("wider only") << QSize(640, 60) << 1.0F << QPoint(55, 0) << true;
+}
+
+void PictureTest::unusableFrames_data()
+{
+    QTest::addColumn<Spoiling>("spoil");
+    const std::pair<const char *, Spoiling> rows[] = {
+        {"no planes", [](ImageFrame &frame) { frame.planes.clear(); }},
+        {"no type", [](ImageFrame &frame) { frame.pixelType = 0; }},
+        {"no format", [](ImageFrame &frame) { frame.internalFormat = 0; }},
+        {"short planes", [](ImageFrame &frame) { frame.ownedPlanes.assign(4, std::vector<std::byte>(1)); }},
+        {"negative size", [](ImageFrame &frame) { frame.planeSizes.front().width = -1; }},
+        {"more planes than textures", [](ImageFrame &frame) { frame.textureCount = 3; }},
+        {"more textures than planes", [](ImageFrame &frame) { frame.textureCount = 100000; }},
+        {"smaller planes",
+         [](ImageFrame &frame) {
+             frame.planeSizes[1] = frame.planeSizes[2] = {8, 5};
+         }},
+    };
+    for (const auto &[name, spoil] : rows)
+        QTest::newRow(name) << spoil;
+}
+
+void PictureTest::changesAloneRepaint_data()
+{
+    QTest::addColumn<Change>("change");
+    const std::pair<const char *, Change> rows[] = {
+        {"calibration", [](imageWidget &picture) { picture.setCalibration({.gamma = 2.0F}); }},
+        {"source gamma", [](imageWidget &picture) { picture.setSourceGamma(2.0F); }},
+        {"channel", [](imageWidget &picture) { picture.setChannelViewMode(2); }},
+        {"checker", [](imageWidget &picture) { picture.setCheckerOn(false); }},
+        {"alpha", [](imageWidget &picture) { picture.setAlphaOn(false); }},
+        {"HUD", [](imageWidget &picture) { picture.setHudOn(false); }},
+        {"HUD's colour", [](imageWidget &picture) { picture.setHudColor(Qt::cyan); }},
+        {"background", [](imageWidget &picture) { picture.setBackgroundColor(Qt::cyan); }},
+        {"zoom", [](imageWidget &picture) { picture.setZoomFactor(3.0F); }},
+        {"pan", [](imageWidget &picture) { picture.setPan(QPoint(5, 6)); }},
+        {"frame", [](imageWidget &picture) { picture.showFrame(nullptr); }},
+    };
+    for (const auto &[name, change] : rows)
+        QTest::newRow(name) << change;
+}
+
+void PictureTest::hudStandsWhereItsPathPutsIt()
+{
+    m_picture->setGeometry(kLargePlace);
+    const auto shown = show(stored(GL_RGBA32F, GL_FLOAT, 4), QSize(500, 400));
+    m_picture->setChannelViewMode(-1);
+    m_picture->setCheckerOn(false);
+    QVERIFY(textLines(m_picture->grabFramebuffer()).isEmpty());
+    m_picture->setHudColor(Qt::white);
+    m_picture->setHudOn(true);
+    const QImage still = m_picture->grabFramebuffer();
+    const auto lines = textLines(still);
+    QCOMPARE(lines.size(), 7);
+    m_picture->setPan(QPoint(7, 5));
+    const QImage panned = m_picture->grabFramebuffer();
+    if (TAppState::instance().gl32Supported) {
+        QVERIFY(lines.first().first >= 15 && lines.first().first < 22);
+        QCOMPARE(panned.copy(0, 0, 390, 290), still.copy(7, 5, 390, 290));
+        return;
+    }
+    // Lines without a descender end at their baselines.
+    QCOMPARE(lines[0].second + 1, 25);
+    QCOMPARE(lines[1].second + 1, 47);
+    QCOMPARE(lines[6].second + 1, 160);
+    QCOMPARE(panned, still);
+
+    shown->frame.pixelType = 0;
+    QCOMPARE(hudLines(shown->frame).value(3), QStringLiteral("Pixel format: Unknown"));
+}
+
+void PictureTest::unchangedHudKeepsItsTexture()
+{
+    m_picture->setGeometry(kLargePlace);
+    const auto shown = show(stored(GL_RGBA32F, GL_FLOAT, 4), QSize(500, 400));
+    const auto textures = [this] {
+        m_picture->makeCurrent();
+        QSet<GLuint> names;
+        for (GLuint name = 1; name < 100000; ++name) {
+            if (m_picture->context()->functions()->glIsTexture(name))
+                names.insert(name);
+        }
+        return names;
+    };
+    m_picture->grabFramebuffer();
+    const QSet<GLuint> before = textures();
+    m_picture->setHudColor(Qt::white);
+    m_picture->setHudOn(true);
+    const QImage white = m_picture->grabFramebuffer();
+    if (!TAppState::instance().gl32Supported) {
+        QCOMPARE(imageWidget::liveTextures(), 1);
+        return;
+    }
+    const QSet<GLuint> made = textures() - before;
+    QCOMPARE(made.size(), 1);
+    QCOMPARE(imageWidget::liveTextures(), 2);
+
+    // What is put into the texture shows for as long as the HUD does not make another.
+    const std::uint32_t green = 0xff00ff00U;
+    QOpenGLFunctions *gl = m_picture->context()->functions();
+    gl->glBindTexture(GL_TEXTURE_2D, *made.begin());
+    gl->glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, 1, 1, 0, GL_RGBA, GL_UNSIGNED_BYTE, &green);
+    gl->glBindTexture(GL_TEXTURE_2D, 0);
+    QCOMPARE(m_picture->grabFramebuffer().pixelColor(16, 16), QColor(Qt::green));
+    m_picture->setHudColor(Qt::red);
+    QVERIFY(m_picture->grabFramebuffer().pixelColor(16, 16) != QColor(Qt::green));
+    m_picture->setHudColor(Qt::white);
+    QCOMPARE(m_picture->grabFramebuffer(), white);
+    QCOMPARE(imageWidget::liveTextures(), 2);
+}
+
+int main(int argc, char **argv)
+{
+    const bool core = qgetenv("TARROW_PICTURE_GL") != "2.1";
+    TAppState &state = TAppState::instance();
+    state.openGlUsable = state.gl21Supported = true;
+    state.gl32Supported = core;
+    QSurfaceFormat format;
+    format.setVersion(core ? 3 : 2, core ? 2 : 1);
+    format.setProfile(core ? QSurfaceFormat::CoreProfile : QSurfaceFormat::CompatibilityProfile);
+    QSurfaceFormat::setDefaultFormat(format);
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    const QApplication application(argc, argv);
+    PictureTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_picture.moc"
