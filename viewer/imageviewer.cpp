@@ -80,6 +80,7 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     m_calibration->reset(m_settings.defaultImportGamma);
     showLoadStatus();
     refreshControls();
+    buildFrame();
     resize(kInitialSize);
     loadDefaultState();
     picture().setFocus();

@@ -47,6 +47,8 @@ public:
     void setJob(JobFrames job);
     /// Shows the first frame of a path; see FramesRequest. Nothing happens for the path that is shown, unless forced.
     void setFramesPath(const FramesRequest &request);
+    /// Brought within the frames there are; loads the frame when it is another.
+    void setCurrentFrame(long frame);
     /// The layer by its name in the selector; false when the file does not have it.
     bool setLayer(const QString &name);
     /// RGBA, red, green, blue, alpha, luminance as 0 to 5.

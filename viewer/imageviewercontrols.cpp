@@ -207,14 +207,18 @@ void ImageViewer::onFps()
 
 void ImageViewer::onCurrentFrameEdited()
 {
-    const long typed = m_ui->currentFrame->text().toInt();
-    const int frame = int(std::clamp(typed, firstFrame(), lastFrame()));
-    m_ui->currentFrame->setText(QString::number(frame));
-    if (frame == m_sequence.currentFrame)
+    setCurrentFrame(m_ui->currentFrame->text().toInt());
+}
+
+void ImageViewer::setCurrentFrame(long frame)
+{
+    const int clamped = int(std::clamp(frame, firstFrame(), lastFrame()));
+    m_ui->currentFrame->setText(QString::number(clamped));
+    if (clamped == m_sequence.currentFrame)
         return;
-    m_sequence.currentFrame = frame;
+    m_sequence.currentFrame = clamped;
     loadFrame(false);
-    m_ui->timeline->setPosition(frame);
+    m_ui->timeline->setPosition(clamped);
     m_ui->timeline->update();
 }
 
@@ -348,16 +352,19 @@ bool ImageViewer::transportKey(int key)
 
 bool ImageViewer::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool isFullScreen = picture().isWindow();
-    if (watched == m_ui->image && isFullScreen && event->type() == QEvent::Close) {
-        event->ignore();
-        showGlNormal();
-        return true;
-    }
-    if (event->type() != QEvent::KeyPress)
+    // The form sends others while it is built.
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::Close)
         return QSkinnedDialog::eventFilter(watched, event);
+    const bool isFullScreen = watched == m_ui->image && picture().isWindow();
+    if (event->type() == QEvent::Close) {
+        if (isFullScreen) {
+            event->ignore();
+            showGlNormal();
+        }
+        return isFullScreen;
+    }
     const int key = static_cast<QKeyEvent *>(event)->key();
-    if (watched == m_ui->image && isFullScreen && (key == Qt::Key_Escape || key == Qt::Key_F11)) {
+    if (isFullScreen && (key == Qt::Key_Escape || key == Qt::Key_F11)) {
         showGlNormal();
         return true;
     }

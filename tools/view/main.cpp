@@ -1,0 +1,128 @@
+// tarrow-view [options] [PATH]
+//
+// Opens the farm's viewer without a farm, or renders one picture into a file. Ends with 0, with 1 when nothing can be
+// shown, with 2 when it is called wrongly.
+
+#include "viewoptions.h"
+
+#include <cachetotals.h>
+#include <calibrationpanel.h>
+#include <framesondisk.h>
+#include <glprobe.h>
+#include <imageviewer.h>
+#include <imagewidget.h>
+#include <language.h>
+#include <look.h>
+#include <product.h>
+#include <settings.h>
+#include <tappstate.h>
+#include <tframework.h>
+
+#include <QtCore/QFileInfo>
+#include <QtWidgets/QApplication>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+constexpr int kNothingShown = 1;
+constexpr int kUsageError = 2;
+
+int fail(const QString &text, int code)
+{
+    std::fputs(qUtf8Printable(text + QLatin1Char('\n')), stderr);
+    return code;
+}
+
+/// Empty when a folder holds nothing to show.
+std::string pathToOpen(const QString &path)
+{
+    const QFileInfo info(path);
+    const std::string absolute = info.absoluteFilePath().toStdString();
+    return info.isDir() ? firstImageOf(absolute) : absolute;
+}
+
+/// What is wrong; empty when the picture is as asked for.
+QString apply(const ViewOptions &options, ImageViewer &viewer)
+{
+    if (options.path.isEmpty())
+        return options.grab.isEmpty() ? QString() : QStringLiteral("No path is given.");
+    const std::string path = pathToOpen(options.path);
+    if (path.empty())
+        return QStringLiteral("%1: no image that can be shown").arg(options.path);
+    viewer.setFramesPath({path, true, options.frame.value_or(FramesRequest::kNoFrame), true});
+    if (options.frame && viewer.sequence().currentFrame != *options.frame)
+        viewer.setCurrentFrame(*options.frame);
+    if (!viewer.lastLoad().shown())
+        return QStringLiteral("%1: cannot be shown")
+            .arg(QString::fromStdString(viewer.sequence().currentFile()));
+    if (!options.layer.isEmpty() && !(viewer.setLayer(options.layer) && viewer.lastLoad().shown()))
+        return QStringLiteral("%1: no layer %2 that can be shown").arg(options.path, options.layer);
+    for (const auto &[name, value] : options.calibration)
+        viewer.calibration().setValue(name, value);
+    viewer.setChannelViewMode(options.channelViewMode);
+    return {};
+}
+
+int run(const ViewOptions &options)
+{
+    const Settings settings = loadSettings();
+    CacheTotals totals;
+    totals.videoMemoryBudget = settings.imageViewerMaxGPUCache;
+    totals.mainMemoryBudget = settings.imageViewerMaxRAMCache;
+    auto *viewer =
+        new ImageViewer(totals, {settings.imageViewerExrImportGamma, settings.imageViewerDefaultImportGamma});
+    if (options.grab.isEmpty()) {
+        viewer->show();
+        // A fault shows in the window, which can open something else.
+        const QString fault = apply(options, *viewer);
+        if (!fault.isEmpty())
+            fail(fault, kNothingShown);
+        return QApplication::exec();
+    }
+    const std::unique_ptr<ImageViewer> owner(viewer);
+    const QString fault = apply(options, *viewer);
+    if (!fault.isEmpty())
+        return fail(fault, kNothingShown);
+    const QImage picture = viewer->picture().grabPicture();
+    if (picture.isNull())
+        return fail(QStringLiteral("%1: cannot be rendered").arg(options.path), kNothingShown);
+    if (!picture.save(options.grab, "PNG"))
+        return fail(QStringLiteral("%1: cannot be written").arg(options.grab), kNothingShown);
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication::setOrganizationName(product::kOrganisation);
+    QCoreApplication::setOrganizationDomain(product::kDomain);
+    QCoreApplication::setApplicationName(product::kApplicationName);
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments += QString::fromLocal8Bit(argv[i]);
+    const ViewOptions options = ViewOptions::parse(arguments);
+    if (!options.error.isEmpty())
+        return fail(options.error + QLatin1Char('\n') + options.helpText, kUsageError);
+    if (options.help) {
+        std::fputs(qUtf8Printable(options.helpText), stdout);
+        return 0;
+    }
+    QApplication application(argc, argv);
+    TFramework::InitializeLibrary(argv[0]);
+    installLanguage(QString());
+    QApplication::setFont(QFont(QStringLiteral("Lato")));
+    Look::installFonts();
+    Look::installPalette();
+    Look::installStyle(application);
+    TAppState::instance().forceGl2 = options.forceGl2;
+    probeOpenGl(TAppState::instance());
+    const int code = TAppState::instance().openGlUsable
+        ? run(options)
+        : fail(QStringLiteral("OpenGL not supported by your GPU! Image viewer cannot be used!"),
+               kNothingShown);
+    TFramework::ShutdownLibrary();
+    return code;
+}

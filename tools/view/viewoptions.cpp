@@ -1,0 +1,94 @@
+#include "viewoptions.h"
+
+#include <calibrationpanel.h>
+
+#include <QtCore/QCommandLineParser>
+
+#include <cmath>
+
+namespace {
+
+const QStringList kChannels{QStringLiteral("rgba"), QStringLiteral("red"),   QStringLiteral("green"),
+                            QStringLiteral("blue"), QStringLiteral("alpha"), QStringLiteral("luminance")};
+
+struct Options {
+    QCommandLineOption frame{QStringLiteral("frame"), QStringLiteral("Start at frame N."),
+                             QStringLiteral("N")};
+    QCommandLineOption layer{QStringLiteral("layer"), QStringLiteral("Show the layer NAME."),
+                             QStringLiteral("NAME")};
+    QCommandLineOption gl2{QStringLiteral("gl2"), QStringLiteral("Use OpenGL 2.1.")};
+    QCommandLineOption set{
+        QStringLiteral("set"),
+        QStringLiteral("Calibrate; names: %1.").arg(CalibrationPanel::names().join(QStringLiteral(", "))),
+        QStringLiteral("name=value,...")};
+    QCommandLineOption channel{QStringLiteral("channel"),
+                               QStringLiteral("Show one of: %1.").arg(kChannels.join(QStringLiteral(", "))),
+                               QStringLiteral("MODE")};
+    QCommandLineOption grab{QStringLiteral("grab"),
+                            QStringLiteral("Write the picture at its own pixels to FILE.png and end."),
+                            QStringLiteral("FILE.png")};
+};
+
+void parseFrame(const QString &text, ViewOptions &options)
+{
+    bool isNumber = false;
+    options.frame = text.toInt(&isNumber);
+    if (!isNumber)
+        options.error = QStringLiteral("%1 is no frame number.").arg(text);
+}
+
+/// A mode by its name or its number.
+void parseChannel(const QString &text, ViewOptions &options)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    options.channelViewMode = isNumber ? number : int(kChannels.indexOf(text.toLower()));
+    if (options.channelViewMode < 0 || options.channelViewMode >= kChannels.size())
+        options.error = QStringLiteral("There is no channel mode %1.").arg(text);
+}
+
+void parseCalibration(const QString &text, ViewOptions &options)
+{
+    for (const QString &part : text.split(QLatin1Char(','))) {
+        const QString name = part.section(QLatin1Char('='), 0, 0).trimmed();
+        bool isNumber = false;
+        const float value = part.section(QLatin1Char('='), 1).toFloat(&isNumber);
+        if (!isNumber || !std::isfinite(value) || !CalibrationPanel::names().contains(name))
+            options.error = QStringLiteral("%1 is no calibration.").arg(part);
+        else
+            options.calibration.append({name, value});
+    }
+}
+
+} // namespace
+
+ViewOptions ViewOptions::parse(const QStringList &arguments)
+{
+    ViewOptions options;
+    const Options known;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Shows rendered frames without a farm."));
+    const QCommandLineOption help = parser.addHelpOption();
+    parser.addOptions({known.frame, known.layer, known.gl2, known.set, known.channel, known.grab});
+    parser.addPositionalArgument(QStringLiteral("PATH"),
+                                 QStringLiteral("A file, a mask, or a folder's first sequence."),
+                                 QStringLiteral("[PATH]"));
+    if (!parser.parse(arguments))
+        options.error = parser.errorText();
+    options.help = options.error.isEmpty() && parser.isSet(help);
+    options.helpText = parser.helpText();
+    const QStringList paths = parser.positionalArguments();
+    options.path = paths.value(0);
+    if (paths.size() > 1)
+        options.error = QStringLiteral("More than one path is given.");
+    options.layer = parser.value(known.layer);
+    options.forceGl2 = parser.isSet(known.gl2);
+    options.grab = parser.value(known.grab);
+    if (parser.isSet(known.frame))
+        parseFrame(parser.value(known.frame), options);
+    if (parser.isSet(known.channel))
+        parseChannel(parser.value(known.channel), options);
+    for (const QString &calibration : parser.values(known.set))
+        parseCalibration(calibration, options);
+    return options;
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <optional>
+#include <utility>
+
+/// What the command line of tarrow-view asks for.
+struct ViewOptions {
+    QString path; ///< a file, a mask or a folder; empty opens an empty viewer
+    std::optional<int> frame;
+    QString layer; ///< as the layer selector names it; empty leaves the first
+    bool forceGl2 = false;
+    QList<std::pair<QString, float>> calibration; ///< names and values, all known
+    int channelViewMode = 0;
+    QString grab; ///< PNG file to write; empty shows the window
+
+    bool help = false;
+    QString error; ///< what is wrong with the command line; empty when it can be followed
+    QString helpText;
+
+    static ViewOptions parse(const QStringList &arguments);
+};
