@@ -8,6 +8,7 @@
 #include "resultopener.h"
 #include "ui_alertor.h"
 
+#include <imageviewer.h>
 #include <managedwindow.h>
 #include <packets.h>
 #include <product.h>
@@ -35,6 +36,8 @@ constexpr int kAcknowledgedColumnWidth = 30;
 constexpr int kColumnWidths[EventsModel::ColumnCount] = {100, kAcknowledgedColumnWidth, 175, 260, 90, 170, 60,
                                                          200};
 constexpr int kSingleFramePacket = 2; // packet type of the jobs that make one frame
+// A farm that finishes single frames by the hundred must not bury the desktop; the rest wait in the list.
+constexpr int kMaxAutomaticViewers = 20;
 
 bool hasText(const NotifyEvent *event, const QString &key)
 {
@@ -120,6 +123,7 @@ void Alertor::loadSettings()
     m_settings = ::loadSettings();
     m_commandLineOverrides.applyTo(m_settings);
     m_session.setSettings(m_settings.link());
+    m_viewers.setSettings(m_settings);
 }
 
 void Alertor::saveSettings()
@@ -253,8 +257,27 @@ void Alertor::handleNewEvent(std::unique_ptr<NotifyEvent> event)
 
 void Alertor::openNewResult(const NotifyEvent &event)
 {
-    if (m_settings.imageViewerMode == 1)
+    if (m_settings.imageViewerMode == 1) {
         ResultOpener::startExternalViewer(m_settings.imageViewer, event.text(EventKey::kFramesMask));
+    } else if (m_viewers.count() + m_newResults.size() < kMaxAutomaticViewers) {
+        // Later: a load takes its time, and what else has arrived is not to wait for it.
+        m_newResults += framesOf(event, m_events);
+        QTimer::singleShot(0, this, &Alertor::openNewResults);
+    }
+}
+
+void Alertor::openNewResults()
+{
+    // One after the other, also while a message box waits for an answer.
+    if (m_openingNewResults)
+        return;
+    m_openingNewResults = true;
+    while (!m_newResults.isEmpty()) {
+        const EventFrames frames = m_newResults.takeFirst();
+        if (ImageViewer *viewer = CreateImageViewer(this))
+            ViewerWindows::show(*viewer, frames, false);
+    }
+    m_openingNewResults = false;
 }
 
 void Alertor::refreshList()
@@ -282,12 +305,14 @@ void Alertor::actAckSelection()
 void Alertor::actRemoveSelected()
 {
     m_events.removeEvents(m_ui->treeWidget->selectedIds());
+    TDesktop::ReturnFreedMemory();
     refreshList();
 }
 
 void Alertor::actRemoveAll()
 {
     m_events.removeAll();
+    TDesktop::ReturnFreedMemory();
     refreshList();
 }
 
@@ -315,12 +340,15 @@ void Alertor::actOpenOutput()
 
 void Alertor::actOpenFrame()
 {
-    QStringList masks;
-    for (const NotifyEvent *event : selectedEvents())
-        masks += event->text(EventKey::kFramesMask);
-    masks.removeAll(QString());
-    for (qsizetype i = 0; i < masks.size(); ++i)
-        CreateImageViewer(this);
+    QList<EventFrames> selected;
+    for (const NotifyEvent *event : selectedEvents()) {
+        if (hasText(event, EventKey::kFramesMask))
+            selected += framesOf(*event, m_events);
+    }
+    for (const EventFrames &frames : selected) {
+        if (ImageViewer *viewer = CreateImageViewer(this))
+            ViewerWindows::show(*viewer, frames, true);
+    }
 }
 
 void Alertor::actOpenFrameExternally()
@@ -339,7 +367,11 @@ void Alertor::actOpenFrameExternally()
 
 void Alertor::showError(const QString &text)
 {
-    QMessageBox::critical(this, product::kProductTitle, text);
+    QMessageBox box(QMessageBox::Critical, product::kProductTitle, text, QMessageBox::Ok, this);
+    // Paths come from the farm: they are no markup.
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Ok);
+    box.exec();
 }
 
 void Alertor::onQuit()
@@ -397,21 +429,19 @@ void Alertor::restore()
 
 void Alertor::openImageViewer()
 {
-    CreateImageViewer(this);
+    if (ImageViewer *viewer = CreateImageViewer(this)) {
+        viewer->show();
+        viewer->raise();
+    }
 }
 
 ImageViewer *Alertor::CreateImageViewer(QWidget *parent)
 {
-    if (!TAppState::instance().openGlUsable) {
-        QSkinnedMessageBox::critical(parent, product::kProductTitle,
-                                     tr("OpenGL not supported by your GPU! Image viewer cannot be used!"),
-                                     QMessageBox::Ok);
-        return nullptr;
-    }
-    QMessageBox::information(
-        parent, product::kProductTitle,
-        tr("This build has no integrated image viewer. Choose an external application in the "
-           "preferences to open frames."));
+    if (TAppState::instance().openGlUsable)
+        return m_viewers.create(parent);
+    QSkinnedMessageBox::critical(parent, product::kProductTitle,
+                                 tr("OpenGL not supported by your GPU! Image viewer cannot be used!"),
+                                 QMessageBox::Ok);
     return nullptr;
 }
 
@@ -460,6 +490,7 @@ void Alertor::configure()
         m_session.reconnect(m_settings.link());
         updateIcon(false);
     }
+    m_viewers.setSettings(m_settings);
     m_sounds.clear();
     saveSettings();
 }
@@ -469,16 +500,20 @@ void Alertor::timerEvent()
     static quint32 tick = 0;
     updateIcon(tick % kFlashTicks != 0);
     if (tick % kConnectionTicks == 0) {
-        showMenuButtonWithoutTray();
+        standInForTray();
         if (m_session.autoReconnect())
             checkLocalConnection();
     }
     ++tick;
 }
 
-void Alertor::showMenuButtonWithoutTray()
+void Alertor::standInForTray()
 {
-    m_ui->menuButton->setVisible(!QSystemTrayIcon::isSystemTrayAvailable());
+    const bool hasTray = QSystemTrayIcon::isSystemTrayAvailable();
+    m_ui->menuButton->setVisible(!hasTray);
+    // A window that was hidden into a tray which has gone since: nobody would find it again.
+    if (!hasTray && !isVisible() && !m_firstHideHint)
+        show();
 }
 
 void Alertor::closeEvent(QCloseEvent *event)
@@ -489,7 +524,7 @@ void Alertor::closeEvent(QCloseEvent *event)
 
 void Alertor::showEvent(QShowEvent *event)
 {
-    showMenuButtonWithoutTray();
+    standInForTray();
     QDialog::showEvent(event);
 }
 

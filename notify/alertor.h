@@ -5,6 +5,7 @@
 #include "settings.h"
 #include "soundplayer.h"
 #include "tray.h"
+#include "viewerwindows.h"
 
 #include <dispatchersession.h>
 #include <sendentry.h>
@@ -107,8 +108,9 @@ private:
     void processCustomMessage(const QByteArray &payload);
     void showRefusal();
     void openNewResult(const NotifyEvent &event);
+    void openNewResults();
     void updateTrayMenu();
-    void showMenuButtonWithoutTray();
+    void standInForTray();
     QList<const NotifyEvent *> selectedEvents() const;
     void showError(const QString &text);
 
@@ -122,6 +124,9 @@ private:
     TFramework::TSendEntry m_sendEntry;
     SoundPlayer m_sounds;
     Tray m_tray;
+    ViewerWindows m_viewers;
+    QList<EventFrames> m_newResults; // to be opened automatically
+    bool m_openingNewResults = false;
     TrayMenu *m_trayMenu = nullptr;
     ListMenu *m_listMenu = nullptr;
     QPointer<QDialog> m_refusal;

@@ -34,7 +34,9 @@ bool ResultOpener::openFolder(const QString &path)
 bool ResultOpener::startExternalViewer(const QString &application, const QString &frames)
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const bool started = !application.isEmpty() && QProcess::startDetached(application, {frames});
+    // What the farm names as frames must not pass for an option.
+    const QString path = frames.startsWith(QLatin1Char('-')) ? QStringLiteral("./") + frames : frames;
+    const bool started = !application.isEmpty() && QProcess::startDetached(application, {path});
     QApplication::restoreOverrideCursor();
     return started;
 }
