@@ -14,6 +14,7 @@
 #include <product.h>
 #include <qskinnedmessagebox.h>
 #include <tappstate.h>
+#include <tdesktop.h>
 
 #include <QtCore/QPointer>
 #include <QtGui/QCloseEvent>

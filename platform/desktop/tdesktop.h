@@ -28,4 +28,7 @@ int TerminationDescriptor();
 /// numbers.
 void OpenStandardStreams();
 
+/// Hands freed memory back to the system, where the library would keep it for a program that may never need it again.
+void ReturnFreedMemory();
+
 } // namespace TDesktop

@@ -4,6 +4,9 @@
 
 #include <fcntl.h>
 #include <unistd.h>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace {
 
@@ -54,4 +57,11 @@ void TDesktop::OpenStandardStreams()
         opened = open("/dev/null", O_RDWR);
     if (opened >= 0)
         close(opened);
+}
+
+void TDesktop::ReturnFreedMemory()
+{
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
 }

@@ -50,3 +50,5 @@ int TDesktop::TerminationDescriptor()
 }
 
 void TDesktop::OpenStandardStreams() { }
+
+void TDesktop::ReturnFreedMemory() { }
