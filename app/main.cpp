@@ -21,10 +21,10 @@ namespace {
 constexpr int kWakeUpTimeout = 5000; // milliseconds
 
 /// Ends the program in order when the system asks it to, which may be while it starts: the splash handles events, and
-/// there is no event loop yet to leave. `isEnding` is set then and outlives the application.
-void quitOnTermination(QCoreApplication &application, bool &isEnding)
+/// there is no event loop yet to leave. `isEnding` is set then and outlives the application. What came before, the descriptor
+/// has kept.
+void quitOnTermination(QCoreApplication &application, int descriptor, bool &isEnding)
 {
-    const int descriptor = TDesktop::TerminationDescriptor();
     if (descriptor < 0)
         return;
     auto *notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, &application);
@@ -81,6 +81,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationDomain(product::kDomain);
     QCoreApplication::setApplicationName(product::kApplicationName);
     QGuiApplication::setDesktopFileName(QStringLiteral("tarrow-alertor"));
+    const int termination = TDesktop::TerminationDescriptor();
     bool isEnding = false;
     QtSingleApplication application(argc, argv);
     QApplication::setFont(QFont(QStringLiteral("Lato")));
@@ -88,7 +89,7 @@ int main(int argc, char *argv[])
         application.sendMessage(QStringLiteral("wakeup"), kWakeUpTimeout);
         return 0;
     }
-    quitOnTermination(application, isEnding);
+    quitOnTermination(application, termination, isEnding);
     if (!installLanguage(line.language) && !line.language.isEmpty())
         std::fprintf(stderr, "There are no texts in the language %s\n", qUtf8Printable(line.language));
     TFramework::InitializeLibrary(argv[0]);
