@@ -1,8 +1,11 @@
 """The windows without eyes and without a mouse: names, roles, the way round with Tab, states that are words."""
 
+import os
+import sys
+
 import accessible
 from desktop import WINDOW, alertor, client_windows, xdotool
-from farmtest import EVENT, check, equal, farm, run, wait_for, windows, write_settings
+from farmtest import EVENT, Program, check, equal, farm, run, wait_for, windows, write_settings
 
 KINDS = {"Success", "Warning", "Error", "Start", "Service", "Alert"}
 COLUMNS = 8
@@ -36,6 +39,20 @@ def walk(title):
     accessible.every_control_is_reached_by_tab(top)
 
 
+def viewer_is_walked():
+    for number in range(1, 4):
+        with open(os.path.join(os.environ["HOME"], f"frame.{number:04}.ppm"), "wb") as file:
+            file.write(b"P6 64 48 255\n" + bytes(64 * 48 * 3))
+    title = "Images viewer"
+    program = Program("the viewer", [sys.argv[3], file.name], accessible.ENVIRONMENT)
+    wait_for(lambda: windows(title), "the viewer")
+    xdotool("search", "--name", title, "windowactivate", "--sync", "key", "ctrl+l")
+    top = accessible.window(title)
+    wait_for(lambda: "slider" in {part.getRoleName() for part in accessible.shown_controls(top)}, "the calibration")
+    walk(title)
+    program.kill()
+
+
 def test():
     write_settings({"behaviours": {"showBubble": "false", "autoAckOnRaise": "false"}})
     night = farm("--jobs", "1", "--rate", "400", "--once")
@@ -48,6 +65,7 @@ def test():
     walk("Alertor Preferences")
     xdotool("key", "Escape")
     program.quit()
+    viewer_is_walked()
 
 
 run(test)
