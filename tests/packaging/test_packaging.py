@@ -10,7 +10,7 @@ from desktop import alertor
 from farmtest import check, equal
 
 BUILD, CMAKE = sys.argv[1:3]
-PROGRAMS = ["tarrow-alertor", "tarrow-demofarm", "tarrow-imageinfo"]
+PROGRAMS = ["tarrow-alertor", "tarrow-demofarm", "tarrow-imageinfo", "tarrow-view"]
 SIZES = [f"{size}x{size}" for size in (16, 22, 24, 32, 48, 64, 128, 256)]
 
 
@@ -31,6 +31,7 @@ def files_are_there(prefix, etc, packed):
         "lib/tarrow-alertor/templates",
         "share/icons/hicolor/scalable/apps/tarrow-alertor.svg",
         "share/applications/tarrow-alertor.desktop",
+        "share/applications/tarrow-view.desktop",
         "share/metainfo/example.loomwright.tarrow_alertor.metainfo.xml",
         "share/doc/tarrow-alertor/copyright",
         "share/doc/tarrow-alertor/user-guide.md",
