@@ -21,7 +21,7 @@ constexpr int kShort = 1'000;
 constexpr int kLong = 100'000;
 constexpr int kBatch = 200;
 constexpr double kPromise = 2.0;
-constexpr double kBytesPromise = 4096;
+constexpr double kBytesLimit = 4096;
 
 NotificationPacket packet()
 {
@@ -110,10 +110,10 @@ int main(int argc, char **argv)
         Window shortList(kShort);
         Window longList(kLong);
         printRatio(
-            "events (ms for 200 events and a paint, list of 100,000 against 1,000)",
+            "events: ms for 200 and a paint, in a list of 100,000 to one of 1,000",
             [&longList] { return longList.addAndPaint(); }, [&shortList] { return shortList.addAndPaint(); },
             kPromise);
     }
-    std::printf("memory per event: %.0f bytes (promise %.0f)\n", bytesPerEvent(), kBytesPromise);
+    printPromise("events: bytes for each of 100,000, to a limit", bytesPerEvent(), kBytesLimit, 1.0);
     return 0;
 }

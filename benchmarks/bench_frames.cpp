@@ -110,7 +110,7 @@ void compareSequence()
     for (const std::string &path : paths)
         std::ofstream(path).put('x');
     printRatio(
-        "sequence of 10000 files, ms, to a listing and a check of each",
+        "sequence: ms for 10,000 files, to a listing and a check of each",
         [&paths] { return milliseconds([&paths] { openSequence(paths); }); },
         [&folder, &paths] { return milliseconds([&] { listAndCheck(folder.path(), paths); }); },
         kSequencePromise);
@@ -162,7 +162,7 @@ void compareCache()
     NoDisplay display;
     CacheTotals totals{0, 0, kFrames / 2, 0};
     printRatio(
-        "find and insert a frame, us, to a bare map and queue",
+        "frame cache: us to find and insert, to a bare map and queue",
         [&] {
             FrameCache cache(totals, display);
             return microsecondsPerFrame(paths, cache, display);
@@ -211,7 +211,7 @@ void compareLoad()
             std::min_element(readers.begin(), readers.end(), [](const auto &a, const auto &b) {
                 return bestMilliseconds(a) < bestMilliseconds(b);
             });
-        printRatio(("file to frame, ms, " + sample.name).c_str(),
+        printRatio(("file to frame: ms, " + sample.name + ", to the fastest bare read").c_str(),
                    [&sample] { return milliseconds([&sample] { loadFrame(sample); }); },
                    [&fastest] { return milliseconds(*fastest); }, kLoadPromise);
     }

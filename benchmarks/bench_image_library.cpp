@@ -2,6 +2,7 @@
 // OpenImageIO, and in memory. Every contender opens the file, takes memory for the planes and fills them.
 
 #include "exrreaders.h"
+#include "ratio.h"
 
 #include <iimagecore.h>
 
@@ -113,9 +114,8 @@ void printMemory(const ExrSample &sample)
         bare = std::max(bare, peakMemory(reader.load));
     // What OpenEXR needs is what the bare reader takes beyond the planes.
     const double allowed = kMemoryPromise * planes + std::max(0.0, bare - planes);
-    std::printf(
-        "%s, memory: ratio to what is promised %.2f (planes %.1f MB, library %.1f MB, bare %.1f MB)\n",
-        sample.name.c_str(), library / allowed, planes / 1e6, library / 1e6, bare / 1e6);
+    printPromise(("image library: MB, " + sample.name + ", to a limit").c_str(), library / 1e6, allowed / 1e6,
+                 1.0);
 }
 
 void printRatios(const ExrSample &sample)
@@ -127,8 +127,8 @@ void printRatios(const ExrSample &sample)
     const std::vector<double> times = compare(contenders);
     const double bare = *std::min_element(times.begin(), times.begin() + std::ptrdiff_t(bareCount));
     const double library = times.back();
-    std::printf("%s: ratio to the fastest bare read %.2f (promise %.2f), to OpenImageIO %.2f\n ",
-                sample.name.c_str(), library / bare, kTimePromise, library / times[bareCount]);
+    printPromise(("image library: ms, " + sample.name + ", to the fastest bare read").c_str(), library, bare,
+                 kTimePromise);
     for (std::size_t i = 0; i < contenders.size(); ++i)
         std::printf(" %s %.1f ms;", contenders[i].name.c_str(), times[i]);
     std::printf("\n");

@@ -108,6 +108,6 @@ int main(int argc, char **argv)
         ->Unit(benchmark::kMillisecond);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    printRatio("link (ms for 200,000 frames)", &receiveMessages, &receiveBytes, kPromise);
+    printRatio("link: ms for 200,000 frames, to a bare socket", &receiveMessages, &receiveBytes, kPromise);
     return 0;
 }

@@ -108,9 +108,10 @@ def main():
         tray.measure([program])
     # In turn, so that a slow moment of the machine meets both.
     times = [[tray.measure([program]) for program in programs] for _ in range(rounds)]
-    for step, (name, note) in enumerate((("start", f" (promise {PROMISE:.2f})"), ("start until it answers", ""))):
+    for step, name in enumerate(("promise | start: ms to the icon, to a bare program", "start: ms until it answers")):
         ours, bare = (statistics.median(both[program][step] for both in times) for program in (0, 1))
-        print(f"{name}: {ours:.0f} ms against {bare:.0f} ms, ratio {ours / bare:.2f}{note}")
+        promised = f" | {PROMISE:.2f}" if step == 0 else ""
+        print(f"{name} | {ours:.0f} | {bare:.0f} | {ours / bare:.2f}{promised}", flush=True)
 
 
 main()

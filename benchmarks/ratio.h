@@ -21,9 +21,18 @@ inline double threadMilliseconds(const std::function<void()> &work)
     return threadMilliseconds() - start;
 }
 
-/// Runs a piece of work and its baseline in turn, so that a slow moment of the machine meets both, and prints the ratio
-/// of the medians of what they return beside what is promised: "name: ratio 1.23 (promise 1.5)".
-inline void printRatio(const char *name, const std::function<double()> &work,
+/// Prints what was measured beside its baseline, and their ratio beside the one that is promised at most, as scripts/bench.sh
+/// reads it: "promise | what | figure | baseline | ratio | promised". A limit is a baseline with the promise 1.
+inline void printPromise(const char *what, double figure, double baseline, double promise)
+{
+    std::printf("promise | %s | %.3f | %.3f | %.2f | %.2f\n", what, figure, baseline, figure / baseline,
+                promise);
+    std::fflush(stdout);
+}
+
+/// Runs a piece of work and its baseline in turn, so that a slow moment of the machine meets both, and prints the medians
+/// of what they return as a promise.
+inline void printRatio(const char *what, const std::function<double()> &work,
                        const std::function<double()> &baseline, double promise, int rounds = 11)
 {
     std::vector<double> measured;
@@ -36,8 +45,5 @@ inline void printRatio(const char *name, const std::function<double()> &work,
         std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
         return values[values.size() / 2];
     };
-    const double ours = median(measured);
-    const double theirs = median(bare);
-    std::printf("%s: %.3f against %.3f, ratio %.2f (promise %.2f)\n", name, ours, theirs, ours / theirs,
-                promise);
+    printPromise(what, median(measured), median(bare), promise);
 }
