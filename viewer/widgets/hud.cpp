@@ -112,12 +112,26 @@ QImage hudImage(const QStringList &lines, const QColor &color, qreal devicePixel
     return image;
 }
 
-void paintHud(QPainter &painter, const QStringList &lines, const QColor &color)
+void HudText::setLines(const QStringList &lines)
+{
+    if (m_lines == lines)
+        return;
+    m_lines = lines;
+    m_layouts.clear();
+    for (const QString &line : lines) {
+        const auto &layout = m_layouts.emplace_back(std::make_unique<QTextLayout>(line, hudFont()));
+        layout->setCacheEnabled(true);
+        layout->beginLayout();
+        layout->createLine();
+        layout->endLayout();
+    }
+}
+
+void HudText::paint(QPainter &painter, const QColor &color) const
 {
     painter.setRenderHint(QPainter::TextAntialiasing);
-    painter.setFont(hudFont());
     painter.setPen(color);
-    const auto count = std::min(lines.size(), static_cast<qsizetype>(kBaselines.size()));
-    for (qsizetype i = 0; i < count; ++i)
-        painter.drawText(kHudMargin, kBaselines[static_cast<std::size_t>(i)], lines[i]);
+    const std::size_t count = std::min(m_layouts.size(), kBaselines.size());
+    for (std::size_t i = 0; i < count; ++i)
+        m_layouts[i]->draw(&painter, QPointF(kHudMargin, kBaselines[i] - m_layouts[i]->lineAt(0).ascent()));
 }

@@ -1,7 +1,5 @@
 #include "picturerenderer.h"
 
-#include "hud.h"
-
 #include <imageframe.h>
 
 #include <QtGui/QOpenGLContext>
@@ -79,10 +77,11 @@ void PictureRenderer::drawHud(const Scene &scene, const QStringList &lines, qrea
         m_gl.glDisable(GL_BLEND);
         return;
     }
+    m_hudText.setLines(lines);
     m_view.setSize(scene.geometry.view);
     m_view.setDevicePixelRatio(devicePixelRatio);
     QPainter painter(&m_view);
-    paintHud(painter, lines, scene.look.hud);
+    m_hudText.paint(painter, scene.look.hud);
 }
 
 void PictureRenderer::drawChecker(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad)

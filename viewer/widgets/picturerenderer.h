@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hud.h"
 #include "hudoverlay.h"
 #include "picturelook.h"
 #include "shaderprograms.h"
@@ -51,5 +52,6 @@ private:
     VertexSet m_borderVertices;
     std::optional<HudOverlay> m_hud; ///< on a core context
     QOpenGLPaintDevice m_view; ///< for the HUD on another
+    HudText m_hudText;
     bool m_wideLines;
 };

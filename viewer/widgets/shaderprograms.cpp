@@ -7,6 +7,8 @@
 
 #include <QtCore/QFile>
 
+#include <array>
+
 namespace {
 
 // The two dialects differ in these words only.
@@ -59,8 +61,6 @@ ShaderProgram::ShaderProgram(const Sources &sources, bool core)
 
 PictureProgram::PictureProgram(bool core)
     : ShaderProgram({"Program", "picture.vert.glsl", "picture.frag.glsl"}, core)
-    , m_textures{m_program.uniformLocation("tex0"), m_program.uniformLocation("tex1"),
-                 m_program.uniformLocation("tex2"), m_program.uniformLocation("tex3")}
     , m_textureCount(m_program.uniformLocation("numOfTextures"))
     , m_redChannelOnly(m_program.uniformLocation("redChannelOnly"))
     , m_isYCbCr(m_program.uniformLocation("isYCbCr"))
@@ -77,21 +77,37 @@ PictureProgram::PictureProgram(bool core)
     , m_levelOutputMin(m_program.uniformLocation("levelOutputMin"))
     , m_levelOutputMax(m_program.uniformLocation("levelOutputMax"))
     , m_softClip(m_program.uniformLocation("softClip"))
-{ }
+{
+    if (!bind())
+        return;
+    constexpr std::array<const char *, 4> kUnits = {"tex0", "tex1", "tex2", "tex3"};
+    for (std::size_t unit = 0; unit < kUnits.size(); ++unit)
+        m_program.setUniformValue(kUnits[unit], static_cast<GLint>(unit));
+    release();
+}
 
 void PictureProgram::setUniforms(const PictureLook &look, const ImageFrame &frame)
 {
-    for (std::size_t i = 0; i < m_textures.size(); ++i)
-        m_program.setUniformValue(m_textures[i], static_cast<GLint>(i));
-    m_program.setUniformValue(m_textureCount, frame.textureCount);
-    m_program.setUniformValue(m_redChannelOnly, GLint(frame.textureCount == 1 && frame.components == 1));
-    m_program.setUniformValue(m_isYCbCr, GLint(frame.isYCbCr));
-    m_program.setUniformValue(m_skipAlpha, GLint(!look.alphaOn));
-    m_program.setUniformValue(m_premultiplied, GLint(frame.premultiplied));
-    m_program.setUniformValue(m_channelViewMode, look.channelViewMode);
-    m_program.setUniformValue(m_sourceGamma, look.sourceGamma);
+    const Values values = {.calibration = look.calibration,
+                           .sourceGamma = look.sourceGamma,
+                           .channelViewMode = look.channelViewMode,
+                           .textureCount = frame.textureCount,
+                           .redChannelOnly = frame.textureCount == 1 && frame.components == 1,
+                           .isYCbCr = frame.isYCbCr,
+                           .skipAlpha = !look.alphaOn,
+                           .premultiplied = frame.premultiplied};
+    if (m_values == values)
+        return;
+    m_values = values;
+    m_program.setUniformValue(m_textureCount, values.textureCount);
+    m_program.setUniformValue(m_redChannelOnly, values.redChannelOnly);
+    m_program.setUniformValue(m_isYCbCr, values.isYCbCr);
+    m_program.setUniformValue(m_skipAlpha, values.skipAlpha);
+    m_program.setUniformValue(m_premultiplied, values.premultiplied);
+    m_program.setUniformValue(m_channelViewMode, values.channelViewMode);
+    m_program.setUniformValue(m_sourceGamma, values.sourceGamma);
 
-    const Calibration &calibration = look.calibration;
+    const Calibration &calibration = values.calibration;
     m_program.setUniformValue(m_gamma, calibration.gamma);
     m_program.setUniformValue(m_brightness, calibration.brightness);
     m_program.setUniformValue(m_saturation, calibration.saturation);

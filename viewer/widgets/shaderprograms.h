@@ -1,8 +1,10 @@
 #pragma once
 
+#include "calibration.h"
+
 #include <QtOpenGL/QOpenGLShaderProgram>
 
-#include <array>
+#include <optional>
 
 /// A program and where its variables are, looked up once. One that does not compile or link logs why and draws nothing.
 /// Made, used and destroyed with its context current.
@@ -42,10 +44,24 @@ class PictureProgram final : public ShaderProgram {
 public:
     explicit PictureProgram(bool core);
 
+    /// While bound. What is the same as before is not handed over again.
     void setUniforms(const PictureLook &look, const ImageFrame &frame);
 
 private:
-    std::array<int, 4> m_textures;
+    struct Values {
+        Calibration calibration;
+        float sourceGamma = 0;
+        GLint channelViewMode = 0;
+        GLint textureCount = 0;
+        GLint redChannelOnly = 0;
+        GLint isYCbCr = 0;
+        GLint skipAlpha = 0;
+        GLint premultiplied = 0;
+
+        bool operator==(const Values &other) const = default;
+    };
+
+    std::optional<Values> m_values; ///< that the program holds
     int m_textureCount;
     int m_redChannelOnly;
     int m_isYCbCr;
