@@ -5,6 +5,7 @@
 #include <eventsview.h>
 #include <notifyevent.h>
 #include <product.h>
+#include <resultopener.h>
 
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
@@ -363,6 +364,11 @@ private Q_SLOTS:
         QFile arguments(opened);
         QVERIFY(arguments.open(QIODevice::ReadOnly));
         QCOMPARE(arguments.readAll(), "1|/no where/$(touch x)/a.0005.exr");
+        QVERIFY(arguments.remove());
+        QVERIFY(ResultOpener::startExternalViewer(viewer, QStringLiteral("--exec.####.exr")));
+        QTRY_VERIFY(QFile::exists(opened));
+        QVERIFY(arguments.open(QIODevice::ReadOnly));
+        QCOMPARE(arguments.readAll(), "1|./--exec.####.exr");
 
         const auto saidBy = [&farm](void (Alertor::*act)()) {
             QString said;

@@ -59,6 +59,14 @@ def test():
         wait_for(lambda: not icon_position(), "the icon to go with its tray")
     close_window()
     wait_for(lambda: "Iconic" in state_of_window(), "the window in the task bar, now that the tray is gone")
+    second_start()
+    last = tray()
+    wait_for(icon_position, "the icon in the last tray")
+    wait_for(lambda: windows(WINDOW), "the window, now that there is a tray")
+    close_window()
+    wait_for(lambda: not windows(WINDOW), "the window to hide in the last tray")
+    last.kill()
+    wait_for(lambda: windows(WINDOW), "the window, now that its tray has died")
     program.quit()
 
 

@@ -1,0 +1,56 @@
+"""Settings that cannot be saved, on a disk that is full and on one that is read-only: told once, and the old file stays.
+
+The disk is mounted for the client alone, which takes a system that lets users do so."""
+
+import os
+import signal
+
+import faulttest
+
+import farmtest
+from desktop import READY, WINDOW, client_windows, xdotool
+from farmtest import Program, check, equal, run, wait_for, windows, write_settings
+
+TEXT = b"[network]\ndispatcherPort=1\n"
+DISKS = {
+    "full": 'mount -t tmpfs -o size=32k none "$0" && printf %s "$1" > "$2"; cat /dev/zero > "$0/other" 2>/dev/null',
+    "read-only": 'mount -t tmpfs none "$0" && printf %s "$1" > "$2" && mount -o remount,ro "$0"',
+}
+
+
+def client_on(disk):
+    """The client where its settings folder is such a disk."""
+    path = faulttest.SETTINGS_FILE
+    script = f'{{ {DISKS[disk]}; }}; exec "$3"'
+    command = ["unshare", "--map-root-user", "--mount", "sh", "-c", script, os.path.dirname(path), TEXT.decode(), path]
+    return Program("the client", command + [farmtest.CLIENT], {"QT_LOGGING_RULES": "tarrow.app.debug=true"})
+
+
+def accept_the_preferences():
+    wait_for(lambda: windows(WINDOW), "the window")
+    shown = client_windows()
+    xdotool("search", "--onlyvisible", "--name", f"^{WINDOW}$", "windowactivate", "--sync")
+    xdotool("key", "alt+m")
+    wait_for(lambda: len(client_windows()) == len(shown) + 1, "the menu")
+    xdotool("key", "c")
+    wait_for(lambda: windows("Alertor Preferences"), "the preferences")
+    xdotool("search", "--onlyvisible", "--name", "^Alertor Preferences$", "windowactivate", "--sync")
+    xdotool("key", "Return")
+
+
+def test():
+    write_settings({"network": {"dispatcherPort": "1"}})
+    for disk in DISKS:
+        program = client_on(disk)
+        program.expect(READY)
+        inside = f"/proc/{program.pid}/root{faulttest.SETTINGS_FILE}"
+        accept_the_preferences()
+        wait_for(lambda: windows("Tarrow 9.0.14"), f"the box that tells of a {disk} disk")
+        with open(inside, "rb") as file:
+            equal(file.read(), TEXT, f"settings on a {disk} disk")
+        equal(len(program.matching("the settings cannot be saved$")), 1, f"warnings of a {disk} disk")
+        check(program.is_running(), f"the client ended on a {disk} disk")
+        program.quit(signal.SIGINT)
+
+
+run(test)
