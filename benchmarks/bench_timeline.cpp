@@ -14,7 +14,6 @@
 #include <QtWidgets/QApplication>
 
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 #include <set>
 #include <string>
@@ -24,7 +23,7 @@ namespace {
 
 constexpr int kWidth = 1000;
 constexpr int kPaints = 25;
-constexpr double kPromise = 5;
+constexpr double kLimit = 5; // milliseconds
 const std::string kMask = "/farm/shows/a_show/shot_0010/render/beauty/shot_0010_beauty.######.exr";
 
 class NoDisplay final : public FrameDisplay {
@@ -43,8 +42,10 @@ void printPaint(const char *name, long frames, long missing, QWidget &widget)
     for (int paint = 0; paint < kPaints; ++paint)
         measured.push_back(threadMilliseconds([&] { widget.render(&pixels); }));
     std::nth_element(measured.begin(), measured.begin() + kPaints / 2, measured.end());
-    std::printf("%s, %ld frames, %ld of them missing: %.2f ms a paint (promise %.0f ms)\n", name, frames,
-                missing, measured[kPaints / 2], kPromise);
+    printPromise((std::string(name) + ": ms a paint of " + std::to_string(frames) + " frames, "
+                  + std::to_string(missing) + " missing, to a limit")
+                     .c_str(),
+                 measured[kPaints / 2], kLimit, 1.0);
 }
 
 /// Every frame is a chunk of its own, and a few of them are marked.
