@@ -13,6 +13,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPixmap>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QScrollBar>
 
 #include <algorithm>
 #include <chrono>
@@ -122,6 +123,10 @@ void ImageViewer::prepareKeys()
 void ImageViewer::retranslate()
 {
     m_ui->retranslateUi(content());
+    // Its values scroll up and down alone.
+    m_ui->calibrationScroll->setMinimumWidth(
+        m_ui->calibrationValues->minimumSizeHint().width()
+        + m_ui->calibrationScroll->verticalScrollBar()->sizeHint().width());
     for (QAbstractButton *button : content()->findChildren<QAbstractButton *>()) {
         const QKeySequence keys(button->property(kKeysProperty).toString());
         if (keys.isEmpty())

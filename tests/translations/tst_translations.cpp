@@ -1,13 +1,14 @@
+#include <cachetotals.h>
+#include <imageviewer.h>
 #include <language.h>
 #include <look.h>
 #include <menus.h>
 #include <preferences.h>
 
 #include <QtCore/QTranslator>
+#include <QtGui/QScreen>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QScrollArea>
 
@@ -80,26 +81,34 @@ private Q_SLOTS:
         }
     }
 
-    void preferencesShowTheirTextsWhole_data() { languageRows(); }
-    void preferencesShowTheirTextsWhole()
+    void textsAreShownWhole_data() { languageRows(); }
+    void textsAreShownWhole()
     {
         QVERIFY(installLanguage(QString::fromLatin1(QTest::currentDataTag())));
         preferences dialog(nullptr);
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-        const auto cut = [](const QWidget *widget) {
-            return widget->isVisible() && widget->width() < widget->minimumSizeHint().width();
-        };
-        for (const QWidget *widget : dialog.findChildren<QWidget *>()) {
-            const bool hasText =
-                qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QLabel *>(widget);
-            QVERIFY2(!hasText || !cut(widget), qPrintable(widget->objectName()));
-        }
-        const auto *area = dialog.findChild<QScrollArea *>();
-        QVERIFY(area->widget()->width() <= area->viewport()->width());
+        showsTextsWhole(dialog);
+
+        CacheTotals totals;
+        ImageViewer viewer(totals, {});
+        viewer.findChild<QAbstractButton *>(QStringLiteral("calibrationButton"))->click();
+        showsTextsWhole(viewer);
+        QVERIFY(viewer.width() <= viewer.screen()->availableSize().width());
     }
 
 private:
+    static void showsTextsWhole(QWidget &window)
+    {
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        for (const QWidget *widget : window.findChildren<QWidget *>()) {
+            const bool hasText =
+                qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QLabel *>(widget);
+            QVERIFY2(!hasText || !widget->isVisible() || widget->width() >= widget->minimumSizeHint().width(),
+                     qPrintable(widget->objectName()));
+        }
+        for (const QScrollArea *area : window.findChildren<QScrollArea *>())
+            QVERIFY2(area->widget()->width() <= area->viewport()->width(), qPrintable(area->objectName()));
+    }
     static void languageRows()
     {
         QTest::addColumn<int>("none");
