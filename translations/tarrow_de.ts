@@ -27,10 +27,6 @@
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
         <translation>Ihre Grafikkarte unterstützt OpenGL nicht! Der Bildbetrachter kann nicht verwendet werden!</translation>
     </message>
-    <message>
-        <source>This build has no integrated image viewer. Choose an external application in the preferences to open frames.</source>
-        <translation>Diese Version hat keinen eingebauten Bildbetrachter. Wählen Sie in den Einstellungen ein externes Programm, um Frames zu öffnen.</translation>
-    </message>
 </context>
 <context>
     <name>AlertorClass</name>

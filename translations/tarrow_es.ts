@@ -27,10 +27,6 @@
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
         <translation>¡Su GPU no admite OpenGL! El visor de imágenes no se puede usar.</translation>
     </message>
-    <message>
-        <source>This build has no integrated image viewer. Choose an external application in the preferences to open frames.</source>
-        <translation>Esta versión no incluye visor de imágenes. Elija una aplicación externa en las preferencias para abrir fotogramas.</translation>
-    </message>
 </context>
 <context>
     <name>AlertorClass</name>

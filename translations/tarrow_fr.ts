@@ -27,10 +27,6 @@
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
         <translation>Votre carte graphique ne prend pas en charge OpenGL&#xa0;! La visionneuse d&apos;images ne peut pas être utilisée&#xa0;!</translation>
     </message>
-    <message>
-        <source>This build has no integrated image viewer. Choose an external application in the preferences to open frames.</source>
-        <translation>Cette version n&apos;a pas de visionneuse intégrée. Choisissez une application externe dans les préférences pour ouvrir les images.</translation>
-    </message>
 </context>
 <context>
     <name>AlertorClass</name>

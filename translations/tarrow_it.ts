@@ -27,10 +27,6 @@
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
         <translation>La GPU non supporta OpenGL! Il visualizzatore di immagini non può essere usato!</translation>
     </message>
-    <message>
-        <source>This build has no integrated image viewer. Choose an external application in the preferences to open frames.</source>
-        <translation>Questa versione non ha un visualizzatore integrato. Scegliere un&apos;applicazione esterna nelle preferenze per aprire i fotogrammi.</translation>
-    </message>
 </context>
 <context>
     <name>AlertorClass</name>

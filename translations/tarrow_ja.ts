@@ -27,10 +27,6 @@
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
         <translation>お使いの GPU は OpenGL に対応していません。イメージビューアは使用できません。</translation>
     </message>
-    <message>
-        <source>This build has no integrated image viewer. Choose an external application in the preferences to open frames.</source>
-        <translation>このビルドには内蔵のイメージビューアがありません。フレームを開くには環境設定で外部アプリケーションを選択してください。</translation>
-    </message>
 </context>
 <context>
     <name>AlertorClass</name>
