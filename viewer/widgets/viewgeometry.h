@@ -29,10 +29,11 @@ struct ViewGeometry {
 inline constexpr int kQuadCorners = 6;
 inline constexpr int kLoopCorners = 4;
 
-/// Two triangles: top left, top right, bottom right, bottom right, bottom left, top left.
-using QuadVertices = std::array<float, 3 * kQuadCorners>;
-using QuadTexCoords = std::array<float, 2 * kQuadCorners>;
-using LoopVertices = std::array<float, 3 * kLoopCorners>;
+/// Two triangles: top left, top right, bottom right, bottom right, bottom left, top left. Three floats a
+/// position, two a texture coordinate.
+using QuadVertices = std::array<float, 18>;
+using QuadTexCoords = std::array<float, 12>;
+using LoopVertices = std::array<float, 12>;
 
 QuadVertices quadVertices(const QRectF &quad);
 /// The corners, each pushed outward on both sides.
