@@ -99,8 +99,8 @@ class Program:
 
 
 def farm(*options, port=0):
-    """A running demo farm; its port is `farm.port`."""
-    program = Program("the farm", [FARM, "--port", str(port), *options])
+    """A running demo farm that renders nothing; its port is `farm.port`."""
+    program = Program("the farm", [FARM, "--port", str(port), "--no-frames", *options])
     program.port = int(program.expect(r"^listening on (\d+)$").group(1))
     return program
 

@@ -205,7 +205,8 @@ void TestDemoFarm::commandLine_data()
     QTest::newRow("nothing") << QString() << -1;
     QTest::newRow("everything") << QStringLiteral(
         "--port 0 --jobs 3 --rate 0.5 --seed 9 --compress --fragment 1 "
-        "--deny-login --drop-after 1.5 --garbage --once")
+        "--deny-login --drop-after 1.5 --garbage --once --frames-in . "
+        "--keep-frames --half-frames --no-frames")
                                 << -1;
     QTest::newRow("highest port") << QStringLiteral("--port 65535") << -1;
     QTest::newRow("port too high") << QStringLiteral("--port 65536") << 2;
@@ -215,6 +216,7 @@ void TestDemoFarm::commandLine_data()
     QTest::newRow("no rate") << QStringLiteral("--rate 0") << 2;
     QTest::newRow("rate nan") << QStringLiteral("--rate nan") << 2;
     QTest::newRow("value missing") << QStringLiteral("--fragment") << 2;
+    QTest::newRow("no such folder") << QStringLiteral("--frames-in /no/such/folder") << 2;
     QTest::newRow("unknown option") << QStringLiteral("--nights 3") << 2;
     QTest::newRow("stray word") << QStringLiteral("9883") << 2;
     QTest::newRow("help") << QStringLiteral("--help") << 0;

@@ -18,6 +18,8 @@ public:
     const TClientLib::TJob &record() const { return m_record; }
     QString name() const { return QString::fromStdString(m_record.getName()); }
     QString owner() const { return QString::fromStdString(m_record.getOwner()); }
+    /// A final file, of which the chunks are tiles, in place of a frame sequence.
+    bool hasFinalFile() const { return !m_record.attributeGetString("final_filename").empty(); }
     std::size_t runningChunks() const { return m_running.size(); }
     bool hasWaitingChunk() const { return m_nextChunk < m_chunks.size(); }
     bool isFinished() const { return !hasWaitingChunk() && m_running.empty(); }

@@ -1,6 +1,7 @@
 #include "farmoptions.h"
 
 #include <QtCore/QCommandLineParser>
+#include <QtCore/QFileInfo>
 
 #include <cmath>
 #include <limits>
@@ -28,6 +29,12 @@ constexpr OptionRow kRows[] = {
     {"deny-login", nullptr, "Refuse every log-in."},
     {"drop-after", "seconds", "Hang up so long after each log-in."},
     {"garbage", nullptr, "Send broken frames between the events, a seventh as many."},
+    {"frames-in", "folder",
+     "Make the folder of the run's frames in this one, in place of the user's temporary folder."},
+    {"keep-frames", nullptr, "Leave that folder at the end."},
+    {"half-frames", nullptr,
+     "Let the first frame of a chunk lie there half written while the chunk is at work."},
+    {"no-frames", nullptr, "Render nothing; a burst never does."},
     {"once", nullptr, "End when the night is played and the clients have taken everything."},
 };
 
@@ -55,6 +62,15 @@ public:
             m_error = QStringLiteral("--%1 takes a number from %2 to %3")
                           .arg(QLatin1String(name), QString::number(least, 'g', 10),
                                QString::number(most, 'g', 10));
+    }
+
+    void read(const char *name, QString &folder)
+    {
+        if (!isSet(name))
+            return;
+        folder = m_parser.value(QLatin1String(name));
+        if (!QFileInfo(folder).isDir() && m_error.isEmpty())
+            m_error = QStringLiteral("--%1 takes a folder that is there").arg(QLatin1String(name));
     }
 
     void read(QList<CustomMessagePacket> &messages)
@@ -95,6 +111,10 @@ FarmOptions readOptions(ValueReader &values)
     options.denyLogin = values.isSet("deny-login");
     options.garbage = values.isSet("garbage");
     options.once = values.isSet("once");
+    values.read("frames-in", options.framesIn);
+    options.keepFrames = values.isSet("keep-frames");
+    options.halfFrames = values.isSet("half-frames");
+    options.renders = !values.isSet("no-frames") && options.burst == 0;
     // As many jobs as the events take.
     if (options.burst > 0)
         options.night.jobs = 0;
@@ -106,10 +126,14 @@ FarmOptions readOptions(ValueReader &values)
 FarmCommandLine parseFarmCommandLine(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("A stand-in for the render farm: plays a night of jobs "
-                                                    "to every client that logs in and tells on standard\n"
-                                                    "output what it received. The night begins with the "
-                                                    "first log-in and waits while nobody is logged in."));
+    parser.setApplicationDescription(
+        QStringLiteral("A stand-in for the render farm: plays a night of jobs "
+                       "to every client that logs in and tells on standard\n"
+                       "output what it received. The night begins with the "
+                       "first log-in and waits while nobody is logged in.\n"
+                       "Its jobs render EXR files: where a chunk fails one frame "
+                       "is missing, where it warns one is cut short. The frames\n"
+                       "of the last jobs stay until the program ends."));
     const QCommandLineOption help = parser.addHelpOption();
     for (const OptionRow &row : kRows) {
         QCommandLineOption option(QLatin1String(row.name), QString::fromUtf8(row.help));

@@ -23,6 +23,10 @@ struct FarmOptions {
     std::optional<std::chrono::milliseconds> dropAfter; ///< how long a client stays logged in
     bool garbage = false;
     bool once = false;
+    bool renders = true; ///< writes the frames of the night
+    QString framesIn; ///< where the run's folder of frames is made; empty: the user's temporary folder
+    bool keepFrames = false;
+    bool halfFrames = false; ///< the first frame of a chunk at work lies there half written
 };
 
 /// The options, or without them the text to show and the status to end with.

@@ -1,6 +1,7 @@
 #include "farmserver.h"
 
 #include "farmlog.h"
+#include "framestore.h"
 #include "garbage.h"
 
 #include "frames.h"
@@ -19,8 +20,9 @@ constexpr std::chrono::milliseconds kGarbageQuiet{500};
 
 } // namespace
 
-FarmServer::FarmServer(const FarmOptions &options)
+FarmServer::FarmServer(const FarmOptions &options, FrameStore *frames)
     : m_options(options)
+    , m_frames(frames)
     , m_scenario(options.night)
 {
     m_timer.setSingleShot(true);
@@ -141,6 +143,8 @@ bool FarmServer::takeEvent()
 
 void FarmServer::deliverEvent()
 {
+    if (m_frames && m_next->render)
+        m_frames->render(*m_next->render);
     m_next->packet.eventTime = QDateTime::currentSecsSinceEpoch();
     const QByteArray frame = encodeFrame(frameType(), CMD_NOTIFICATION, encodeNotification(m_next->packet));
     m_next.reset();

@@ -13,12 +13,15 @@
 #include <optional>
 #include <vector>
 
+class FrameStore;
+
 /// Plays the night to every client that is logged in. The night waits while nobody is, and goes on at the pace of
 /// the slowest client.
 class FarmServer final : public QObject {
     Q_OBJECT
 public:
-    explicit FarmServer(const FarmOptions &options);
+    /// The store takes the frames and outlives the server; null: nothing is rendered.
+    FarmServer(const FarmOptions &options, FrameStore *frames);
 
     /// Says the port, or the reason when the port cannot be had.
     bool listen();
@@ -47,6 +50,7 @@ private:
     std::chrono::microseconds now() const { return std::chrono::microseconds(m_clock.nsecsElapsed() / 1000); }
 
     const FarmOptions m_options;
+    FrameStore *const m_frames;
     Scenario m_scenario;
     QTcpServer m_server;
     std::vector<FarmLink *> m_links; // children

@@ -29,7 +29,7 @@ FarmJob JobBook::nextJob()
     const std::string show = m_random.pick(kShows);
     const std::string shot = "sh" + number(10 * (1 + m_random.below(40)), 4);
     const std::string name = shot + "_" + m_random.pick(kStages) + "_v" + number(1 + m_random.below(30), 3);
-    const std::string project = "/mnt/farm/" + show;
+    const std::string project = m_folder + "/" + show;
     const std::string folder = project + "/" + shot + "/" + name;
 
     TClientLib::TJob record;
@@ -60,7 +60,7 @@ FarmJob JobBook::sequenceJob(TClientLib::TJob record, const std::string &folder)
     record.setPacketType(SequencePacket);
     record.setTasksMask(RenderTask);
     record.setFrameRanges({{first, next - step, step}});
-    record.attributeSetString("frames_mask", folder + "/beauty.####.exr;" + folder + "/depth.####.exr");
+    record.attributeSetString("frames_mask", folder + "/beauty.####.exr");
     return {std::move(record), std::move(chunks)};
 }
 

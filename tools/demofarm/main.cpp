@@ -1,10 +1,12 @@
 #include "farmoptions.h"
 #include "farmserver.h"
+#include "framestore.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSocketNotifier>
 
 #include <cstdio>
+#include <optional>
 
 #ifdef Q_OS_UNIX
 #include <csignal>
@@ -23,7 +25,7 @@ void noteSignal(int)
 }
 #endif
 
-/// Ctrl-C and SIGTERM end the event loop, so that the summary is still told.
+/// Ctrl-C, SIGTERM and a closed terminal end the event loop: the summary is still told, the frames are removed.
 void quitOnSignals(QCoreApplication &application)
 {
 #ifdef Q_OS_UNIX
@@ -33,6 +35,7 @@ void quitOnSignals(QCoreApplication &application)
     QObject::connect(notifier, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
     std::signal(SIGINT, noteSignal);
     std::signal(SIGTERM, noteSignal);
+    std::signal(SIGHUP, noteSignal);
 #else
     Q_UNUSED(application);
 #endif
@@ -44,7 +47,7 @@ int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tarrow-demofarm"));
-    const FarmCommandLine commandLine = parseFarmCommandLine(QCoreApplication::arguments());
+    FarmCommandLine commandLine = parseFarmCommandLine(QCoreApplication::arguments());
     if (!commandLine.options) {
         std::fprintf(commandLine.exitCode == 0 ? stdout : stderr, "%s\n",
                      commandLine.text.toUtf8().constData());
@@ -52,7 +55,15 @@ int main(int argc, char *argv[])
     }
 
     quitOnSignals(application);
-    FarmServer server(*commandLine.options);
+    FarmOptions &options = *commandLine.options;
+    std::optional<FrameStore> frames;
+    if (options.renders) {
+        frames.emplace(options.framesIn, options.keepFrames, options.halfFrames);
+        if (!frames->isUsable())
+            return 1;
+        options.night.folder = frames->folder();
+    }
+    FarmServer server(options, frames ? &*frames : nullptr);
     if (!server.listen())
         return 1;
     QObject::connect(&server, &FarmServer::finished, &application, &QCoreApplication::quit,

@@ -51,6 +51,23 @@ QByteArray base64(const std::string &record)
     return QByteArray::fromStdString(record).toBase64();
 }
 
+RenderOrder renderOrder(const FarmJob &job, const char *pathAttribute, const TClientLib::TFramesRange &frames,
+                        std::optional<Outcome> outcome)
+{
+    const TClientLib::TJob &record = job.record();
+    return {record.getJobId(), record.attributeGetString("output_folder"),
+            record.attributeGetString(pathAttribute), frames, outcome};
+}
+
+/// The frames of a chunk; a tile of a final file is none of its own.
+std::optional<RenderOrder> chunkOrder(const FarmJob &job, const TClientLib::TChunk &chunk,
+                                      std::optional<Outcome> outcome)
+{
+    if (job.hasFinalFile())
+        return std::nullopt;
+    return renderOrder(job, "frames_mask", {chunk.getStart(), chunk.getEnd(), chunk.getStep()}, outcome);
+}
+
 NotificationPacket jobPacket(EventType type, const QString &message, const FarmJob &job)
 {
     return {message, type, 0, job.owner(), base64(job.record().Marshall()), {}};
@@ -69,6 +86,7 @@ NotificationPacket chunkPacket(EventType type, const QString &message, const Far
 Scenario::Scenario(const ScenarioSettings &settings)
     : m_settings(settings)
     , m_random(settings.seed)
+    , m_book(m_random, settings.folder.toStdString())
 { }
 
 std::optional<FarmEvent> Scenario::next()
@@ -78,10 +96,12 @@ std::optional<FarmEvent> Scenario::next()
     // Between a quarter and seven quarters of the average pause.
     const double share = 0.25 + 1.5 * m_random.below(1001) / 1000.0;
     const std::chrono::duration<double> pause(share / m_settings.eventsPerSecond);
-    return FarmEvent{std::chrono::duration_cast<std::chrono::microseconds>(pause), nextPacket()};
+    FarmEvent event = nextEvent();
+    event.pause = std::chrono::duration_cast<std::chrono::microseconds>(pause);
+    return event;
 }
 
-NotificationPacket Scenario::nextPacket()
+FarmEvent Scenario::nextEvent()
 {
     const bool mustSubmit = m_running.empty();
     const bool maySubmit = hasJobToSubmit() && m_running.size() < kJobsSideBySide;
@@ -92,47 +112,53 @@ NotificationPacket Scenario::nextPacket()
 
     const std::size_t index = m_random.indexOf(m_running.size());
     FarmJob &job = m_running[index];
-    if (!job.isFinished())
-        return advance(job);
-    const Outcome outcome = job.complete();
-    const QString message = QStringLiteral("Job %1 %2").arg(job.name(), outcomeText(outcome));
-    NotificationPacket packet = jobPacket(JobCompleted, message, job);
-    m_running.erase(m_running.begin() + std::ptrdiff_t(index));
-    return packet;
+    return job.isFinished() ? completeJob(index) : advance(job);
 }
 
-NotificationPacket Scenario::submitJob()
+FarmEvent Scenario::submitJob()
 {
     ++m_submitted;
     m_running.push_back(m_book.nextJob());
     const FarmJob &job = m_running.back();
-    return jobPacket(JobStarted, QStringLiteral("Job %1 started").arg(job.name()), job);
+    return {{}, jobPacket(JobStarted, QStringLiteral("Job %1 started").arg(job.name()), job), {}};
 }
 
-NotificationPacket Scenario::serviceEvent()
+FarmEvent Scenario::serviceEvent()
 {
     const ServiceText &text = m_random.pick(kServiceTexts);
     const QString message = QString::fromUtf8(text.text).arg(1 + m_random.below(48));
-    return {message, text.type, 0, {}, {}, {}};
+    return {{}, {message, text.type, 0, {}, {}, {}}, {}};
 }
 
-NotificationPacket Scenario::advance(FarmJob &job)
+FarmEvent Scenario::completeJob(std::size_t index)
+{
+    FarmJob &job = m_running[index];
+    const Outcome outcome = job.complete();
+    const QString message = QStringLiteral("Job %1 %2").arg(job.name(), outcomeText(outcome));
+    FarmEvent event{{}, jobPacket(JobCompleted, message, job), {}};
+    if (job.hasFinalFile())
+        event.render = renderOrder(job, "final_filename", job.record().GetFrameRanges().front(), outcome);
+    m_running.erase(m_running.begin() + std::ptrdiff_t(index));
+    return event;
+}
+
+FarmEvent Scenario::advance(FarmJob &job)
 {
     const bool canStart = job.hasWaitingChunk() && job.runningChunks() < kChunksSideBySide;
     if (!canStart || (job.runningChunks() > 0 && m_random.chance(kCompletePercent)))
         return completeChunk(job);
     const TClientLib::TChunk chunk = job.startChunk();
     const QString message = QStringLiteral("%1 of %2 started").arg(framesText(chunk), job.name());
-    return chunkPacket(ChunkStarted, message, job, chunk);
+    return {{}, chunkPacket(ChunkStarted, message, job, chunk), chunkOrder(job, chunk, std::nullopt)};
 }
 
-NotificationPacket Scenario::completeChunk(FarmJob &job)
+FarmEvent Scenario::completeChunk(FarmJob &job)
 {
     const Outcome outcome = drawOutcome();
     const TClientLib::TChunk chunk = job.finishChunk(m_random.indexOf(job.runningChunks()), outcome);
     const QString message =
         QStringLiteral("%1 of %2 %3").arg(framesText(chunk), job.name(), outcomeText(outcome));
-    return chunkPacket(ChunkCompleted, message, job, chunk);
+    return {{}, chunkPacket(ChunkCompleted, message, job, chunk), chunkOrder(job, chunk, outcome)};
 }
 
 Outcome Scenario::drawOutcome()

@@ -5,6 +5,9 @@
 #include "farmrandom.h"
 #include "jobbook.h"
 
+#include <QtCore/QString>
+
+#include <cstddef>
 #include <deque>
 #include <optional>
 
@@ -12,6 +15,7 @@ struct ScenarioSettings {
     int jobs = 12; ///< jobs of the night; 0: the night has no end
     double eventsPerSecond = 2; ///< on average; above 0
     quint32 seed = 1; ///< the same seed gives the same night
+    QString folder = QStringLiteral("/mnt/farm"); ///< where the jobs say that they write
 };
 
 /// A night on the farm, event by event, without a clock and without a socket. A few jobs run side by side; every
@@ -28,16 +32,17 @@ public:
 
 private:
     bool hasJobToSubmit() const { return m_settings.jobs == 0 || m_submitted < m_settings.jobs; }
-    NotificationPacket nextPacket();
-    NotificationPacket submitJob();
-    NotificationPacket serviceEvent();
-    NotificationPacket advance(FarmJob &job);
-    NotificationPacket completeChunk(FarmJob &job);
+    FarmEvent nextEvent();
+    FarmEvent submitJob();
+    FarmEvent serviceEvent();
+    FarmEvent completeJob(std::size_t index);
+    FarmEvent advance(FarmJob &job);
+    FarmEvent completeChunk(FarmJob &job);
     Outcome drawOutcome();
 
     ScenarioSettings m_settings;
     FarmRandom m_random;
-    JobBook m_book{m_random};
+    JobBook m_book;
     std::deque<FarmJob> m_running;
     int m_submitted = 0;
 };

@@ -1,0 +1,77 @@
+#include "framestore.h"
+
+#include "farmlog.h"
+#include "framewriter.h"
+
+#include <filesystem.h>
+
+#include <QtCore/QDir>
+
+#include <algorithm>
+#include <string_view>
+
+namespace {
+
+std::string fileOf(const RenderOrder &order, std::int64_t frame)
+{
+    const std::string numbered = TFramework::TFileSystem::GetFileFromMask(order.path, frame);
+    return numbered.empty() ? order.path : numbered;
+}
+
+std::filesystem::path nativePath(const std::string &utf8)
+{
+    return QDir::toNativeSeparators(QString::fromStdString(utf8)).toStdU16String();
+}
+
+void note(bool written, const std::string &file)
+{
+    if (!written)
+        farmLog(QStringLiteral("cannot write %1").arg(QString::fromStdString(file)));
+}
+
+} // namespace
+
+FrameStore::FrameStore(const QString &parent, bool keep, bool halfFrames)
+    : m_folder((parent.isEmpty() ? QDir::tempPath() : QDir(parent).absolutePath())
+               + QStringLiteral("/tarrow-demofarm-XXXXXX"))
+    , m_halfFrames(halfFrames)
+{
+    m_folder.setAutoRemove(!keep);
+    if (isUsable())
+        farmLog(QStringLiteral("frames in %1").arg(folder()));
+    else
+        farmLog(QStringLiteral("cannot make a folder for the frames: %1").arg(m_folder.errorString()));
+}
+
+void FrameStore::render(const RenderOrder &order)
+{
+    if (!order.outcome && !m_halfFrames)
+        return;
+    openFolder(order.folder);
+    const std::int64_t middle =
+        order.frames.start + std::int64_t(order.frames.FrameCount() / 2) * order.frames.step;
+    for (std::int64_t frame = order.frames.start; frame <= order.frames.end; frame += order.frames.step) {
+        const std::string file = fileOf(order, frame);
+        if (order.outcome == Outcome::Errors && frame == middle)
+            continue;
+        const std::string bytes = encodeExr(paintFrame(order.jobId, frame));
+        const std::string_view firstHalf = std::string_view(bytes).substr(0, bytes.size() / 2);
+        if (!order.outcome) {
+            note(writeInPlace(nativePath(file), firstHalf), file);
+            return;
+        }
+        const bool isDamaged = order.outcome == Outcome::Warnings && frame == middle;
+        note(writeWhole(nativePath(file), isDamaged ? firstHalf : bytes), file);
+    }
+}
+
+void FrameStore::openFolder(const std::string &folder)
+{
+    std::erase(m_jobFolders, folder);
+    m_jobFolders.push_back(folder);
+    QDir().mkpath(QString::fromStdString(folder));
+    while (m_jobFolders.size() > kJobsKept) {
+        QDir(QString::fromStdString(m_jobFolders.front())).removeRecursively();
+        m_jobFolders.pop_front();
+    }
+}
