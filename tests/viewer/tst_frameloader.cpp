@@ -106,7 +106,7 @@ LoadResult FrameLoaderTest::load(const char *name, const std::string &layer, int
     m_fraction = 0.0F;
     const auto note = [](float fraction, void *user) { *static_cast<float *>(user) = fraction; };
     return FrameLoader(*m_cache, *m_display)
-        .load({path(name).toStdString(), layer, false, downsampling, note, &m_fraction});
+        .load({path(name).toStdString(), layer, false, true, downsampling, note, &m_fraction});
 }
 
 QList<float> FrameLoaderTest::uploadedValues() const
