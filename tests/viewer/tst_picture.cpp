@@ -13,6 +13,7 @@
 #include <QtWidgets/QApplication>
 
 #include <functional>
+#include <tuple>
 #include <utility>
 
 using Change = std::function<void(imageWidget &)>;
@@ -163,6 +164,7 @@ private Q_SLOTS:
         QFETCH(Spoiling, spoil);
         const auto shown = show(stored(GL_R16F, GL_HALF_FLOAT, 1, 4), kFrame, spoil);
         m_picture->setHudOn(true);
+        QTEST(shown->frame.textureNames.size(), "textures");
         QVERIFY(!m_picture->grabFramebuffer().isNull());
     }
 
@@ -352,21 +354,23 @@ void PictureTest::geometry_data()
 void PictureTest::unusableFrames_data()
 {
     QTest::addColumn<Spoiling>("spoil");
-    const std::pair<const char *, Spoiling> rows[] = {
-        {"no planes", [](ImageFrame &frame) { frame.planes.clear(); }},
-        {"no type", [](ImageFrame &frame) { frame.pixelType = 0; }},
-        {"no format", [](ImageFrame &frame) { frame.internalFormat = 0; }},
-        {"short planes", [](ImageFrame &frame) { frame.ownedPlanes.assign(4, std::vector<std::byte>(1)); }},
-        {"negative size", [](ImageFrame &frame) { frame.planeSizes.front().width = -1; }},
-        {"more planes than textures", [](ImageFrame &frame) { frame.textureCount = 3; }},
-        {"more textures than planes", [](ImageFrame &frame) { frame.textureCount = 100000; }},
-        {"smaller planes",
+    QTest::addColumn<std::size_t>("textures");
+    const std::tuple<const char *, std::size_t, Spoiling> rows[] = {
+        {"no planes", 0, [](ImageFrame &frame) { frame.planes.clear(); }},
+        {"no type", 0, [](ImageFrame &frame) { frame.pixelType = 0; }},
+        {"no format", 0, [](ImageFrame &frame) { frame.internalFormat = 0; }},
+        {"short planes", 0,
+         [](ImageFrame &frame) { frame.ownedPlanes.assign(4, std::vector<std::byte>(1)); }},
+        {"negative size", 0, [](ImageFrame &frame) { frame.planeSizes.front().width = -1; }},
+        {"more planes than textures", 4, [](ImageFrame &frame) { frame.textureCount = 3; }},
+        {"more textures than planes", 4, [](ImageFrame &frame) { frame.textureCount = 100000; }},
+        {"smaller planes", 4,
          [](ImageFrame &frame) {
              frame.planeSizes[1] = frame.planeSizes[2] = {8, 5};
          }},
     };
-    for (const auto &[name, spoil] : rows)
-        QTest::newRow(name) << spoil;
+    for (const auto &[name, textures, spoil] : rows)
+        QTest::newRow(name) << spoil << textures;
 }
 
 void PictureTest::changesAloneRepaint_data()
