@@ -26,7 +26,7 @@ void Marking::setChunks(const std::vector<TClientLib::TChunk> &chunks)
 {
     m_chunks.clear();
     for (const TClientLib::TChunk &chunk : chunks) {
-        const auto [first, last] = std::minmax(chunk.getStart(), chunk.getEnd());
+        const auto [first, last] = std::minmax({chunk.getStart(), chunk.getEnd()}); // values, no references
         if (fits(first) && fits(last))
             m_chunks[std::int32_t(last)] = {chunk.getChunkId(), std::int32_t(first), chunk.getState()};
     }
