@@ -81,6 +81,7 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     m_calibration->reset(m_settings.defaultImportGamma);
     showLoadStatus();
     refreshControls();
+    refreshLayers();
     buildFrame();
     resize(kInitialSize);
     loadDefaultState();
@@ -146,6 +147,7 @@ void ImageViewer::retranslate()
         setTitle(tr("Images viewer"));
     refreshFrameControls();
     refreshStatus();
+    refreshMarkings();
 }
 
 void ImageViewer::setJob(JobFrames job)
@@ -194,6 +196,7 @@ void ImageViewer::loadFrame(bool fresh)
     if (m_lastLoad.layers && m_lastLoad.shown()) {
         m_layers = *m_lastLoad.layers;
         m_layer = m_lastLoad.layer;
+        refreshLayers();
     }
     if (!m_lastLoad.shown()) {
         picture().showFrame(nullptr);
@@ -299,7 +302,6 @@ void ImageViewer::refreshControls()
              m_ui->timeline, m_ui->imageAllocation, m_ui->imageMarker, m_ui->transport, m_ui->markings})
         control->setEnabled(isSequence());
     refreshZoom();
-    refreshLayers();
 }
 
 void ImageViewer::refreshZoom()
@@ -315,21 +317,25 @@ void ImageViewer::refreshLayers()
         entries += QString::fromStdString(entry);
     if (entries.isEmpty())
         entries += QStringLiteral("Default");
-    const QString chosen = QString::fromStdString(m_layer);
     QComboBox &selector = *m_ui->layersSelector;
     const QSignalBlocker blocker(selector);
     selector.clear();
     selector.addItems(entries);
-    selector.setCurrentIndex(std::max(0, int(entries.indexOf(chosen))));
+    selector.setCurrentIndex(std::max(0, int(entries.indexOf(QString::fromStdString(m_layer)))));
 }
 
 void ImageViewer::refreshStatus()
+{
+    m_ui->infoLabel->setText(m_totals.statusText());
+    m_ui->imageAllocation->update();
+}
+
+void ImageViewer::refreshMarkings()
 {
     const bool hasJob = m_job.job || m_job.chunk;
     if (!hasJob)
         m_marking.clear();
     m_ui->imageMarker->setVisible(hasJob);
-    m_ui->infoLabel->setText(m_totals.statusText());
     m_ui->jobInfoContainer->hide();
     m_ui->markFrameButton->setEnabled(false);
     m_ui->markChunkButton->setEnabled(false);
@@ -345,5 +351,4 @@ void ImageViewer::refreshStatus()
     m_ui->imageMarker->setMarkedChunks(m_marking.markedChunks());
     m_ui->imageMarker->setMarkedFrames(m_marking.markedFrames());
     m_ui->imageMarker->update();
-    m_ui->imageAllocation->update();
 }

@@ -109,8 +109,10 @@ private:
     void refreshControls();
     void refreshZoom();
     void refreshLayers();
-    /// The cache's use, the marks, and what can be done with them.
+    /// What the cache holds.
     void refreshStatus();
+    /// The marks, and what can be done with them.
+    void refreshMarkings();
     void mark(int frame, bool addChunk, bool addFrame, bool removeChunk, bool removeFrame);
     float importGamma() const;
     bool transportKey(int key);

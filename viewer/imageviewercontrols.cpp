@@ -258,7 +258,6 @@ void ImageViewer::onFrameScrubbed(int frame, bool addChunk, bool addFrame, bool 
     }
     m_ui->currentFrame->setText(QString::number(frame));
     mark(frame, addChunk, addFrame, removeChunk, removeFrame);
-    refreshStatus();
 }
 
 void ImageViewer::mark(int frame, bool addChunk, bool addFrame, bool removeChunk, bool removeFrame)
@@ -272,19 +271,19 @@ void ImageViewer::mark(int frame, bool addChunk, bool addFrame, bool removeChunk
     if (removeFrame)
         m_marking.unmarkFrame(frame);
     if (addChunk || addFrame || removeChunk || removeFrame)
-        refreshStatus();
+        refreshMarkings();
 }
 
 void ImageViewer::onMarkFrame()
 {
     m_marking.toggleFrame(m_sequence.currentFrame);
-    refreshStatus();
+    refreshMarkings();
 }
 
 void ImageViewer::onMarkChunk()
 {
     m_marking.toggleChunkOf(m_sequence.currentFrame);
-    refreshStatus();
+    refreshMarkings();
 }
 
 void ImageViewer::onClearMarkings()
@@ -296,7 +295,7 @@ void ImageViewer::onClearMarkings()
     if (!self || answer != QMessageBox::Yes)
         return;
     m_marking.clear();
-    refreshStatus();
+    refreshMarkings();
 }
 
 // The marks stay with the user: nothing is requeued or downloaded from here, though the buttons are there.
