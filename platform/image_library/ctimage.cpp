@@ -1,6 +1,6 @@
 #include "ctimage.h"
 
-#include <OpenImageIO/imagebufalgo.h>
+#include "oiiogate.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,25 +13,6 @@ namespace TImageLibrary {
 
 namespace {
 
-OIIO::TypeDesc sampleType(const TPlaneFormat &format)
-{
-    switch (format.depth) {
-    case 1:
-        return OIIO::TypeDesc::UINT8;
-    case 2:
-        return format.isFloat ? OIIO::TypeDesc::HALF : OIIO::TypeDesc::UINT16;
-    default:
-        return OIIO::TypeDesc::FLOAT;
-    }
-}
-
-/// A view on a plane. OpenImageIO takes no pointer to constant pixels, though it only reads a source.
-OIIO::ImageBuf wrapped(const TPlaneFormat &format, const void *data)
-{
-    const OIIO::ImageSpec spec(format.width, format.height, format.samples, sampleType(format));
-    return OIIO::ImageBuf(spec, const_cast<void *>(data));
-}
-
 std::int32_t scaled(std::int32_t size, std::int32_t from, std::int32_t to)
 {
     return std::max(1, std::int32_t(std::llround(double(size) * double(to) / double(from))));
@@ -43,9 +24,10 @@ CTImageChannel resized(const CTImageChannel &channel, std::int32_t width, std::i
     format.width = width;
     format.height = height;
     CTImageChannel result(channel.GetChannelName(), format);
-    OIIO::ImageBuf target = wrapped(format, result.data());
-    if (!OIIO::ImageBufAlgo::resize(target, wrapped(channel.format(), channel.GetChannelData()), "box"))
-        throw std::runtime_error(target.geterror());
+    const OiioModule *module = oiioModule();
+    if (!module)
+        throw std::runtime_error("nothing that resizes");
+    module->resize(channel, result);
     return result;
 }
 

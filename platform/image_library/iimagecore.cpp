@@ -1,10 +1,9 @@
 #include "iimagecore.h"
 
 #include "exrloader.h"
-#include "oiioloader.h"
+#include "oiiogate.h"
 
 #include <algorithm>
-#include <array>
 #include <exception>
 #include <memory>
 #include <utility>
@@ -14,32 +13,34 @@ namespace TImageLibrary {
 
 namespace {
 
-const std::array<const ImageLoader *, 2> &loaders()
+/// The loaders one after the other until one gives an answer; what is not asked is not loaded.
+template <typename Ask>
+auto firstAnswer(const Ask &ask) -> decltype(ask(std::declval<const ImageLoader &>()))
 {
     static const ExrLoader exr;
-    static const OiioLoader oiio;
-    static const std::array<const ImageLoader *, 2> all = {&exr, &oiio};
-    return all;
+    if (auto answer = ask(exr))
+        return answer;
+    const OiioModule *module = oiioModule();
+    return module ? ask(module->loader) : nullptr;
 }
 
 const ImageLoader *loaderOf(const char *format)
 {
     const std::string name = format ? format : "";
-    const auto found = std::find_if(loaders().begin(), loaders().end(),
-                                    [&name](const ImageLoader *loader) { return loader->knows(name); });
-    return found == loaders().end() ? nullptr : *found;
+    return firstAnswer([&name](const ImageLoader &loader) { return loader.knows(name) ? &loader : nullptr; });
 }
 
 const std::vector<std::string> &extensions()
 {
     static const std::vector<std::string> all = [] {
         std::vector<std::string> list;
-        for (const ImageLoader *loader : loaders()) {
-            for (std::string &extension : loader->extensions()) {
+        firstAnswer([&list](const ImageLoader &loader) -> const ImageLoader * {
+            for (std::string &extension : loader.extensions()) {
                 if (std::find(list.begin(), list.end(), extension) == list.end())
                     list.push_back(std::move(extension));
             }
-        }
+            return nullptr;
+        });
         return list;
     }();
     return all;
@@ -78,12 +79,9 @@ const char *IImageCore::Probe(const char *path)
 {
     return guarded([path]() -> const char * {
         const auto file = SourceFile::open(path);
-        const char *format = nullptr;
-        for (const ImageLoader *loader : loaders()) {
-            if (file && !format)
-                format = loader->probe(*file);
-        }
-        return format;
+        if (!file)
+            return nullptr;
+        return firstAnswer([&file](const ImageLoader &loader) { return loader.probe(*file); });
     });
 }
 

@@ -1,7 +1,12 @@
 #include "tdesktop.h"
 
 #include <csignal>
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <system_error>
 
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <unistd.h>
 #ifdef __GLIBC__
@@ -57,6 +62,25 @@ void TDesktop::OpenStandardStreams()
         opened = open("/dev/null", O_RDWR);
     if (opened >= 0)
         close(opened);
+}
+
+void *TDesktop::ModuleFunction(const char *module, const char *function)
+{
+    std::error_code error;
+    const auto folder = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
+    const std::string name = std::string("lib") + module + ".so";
+    for (const char *place : {".", "../lib", "../lib/tarrow-alertor"}) {
+        const auto path = folder / place / name;
+        if (!std::filesystem::exists(path, error))
+            continue;
+        void *library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+        void *found = library ? dlsym(library, function) : nullptr;
+        if (!found)
+            std::fprintf(stderr, "%s\n", dlerror());
+        return found;
+    }
+    std::fprintf(stderr, "%s is not there\n", name.c_str());
+    return nullptr;
 }
 
 void TDesktop::ReturnFreedMemory()

@@ -4,6 +4,9 @@
 
 #include <shellapi.h>
 
+#include <cstdio>
+#include <string>
+
 namespace {
 
 constexpr LONG kShadowAndDoubleClicks = 0x20008; // CS_DROPSHADOW | CS_DBLCLKS
@@ -50,5 +53,15 @@ int TDesktop::TerminationDescriptor()
 }
 
 void TDesktop::OpenStandardStreams() { }
+
+void *TDesktop::ModuleFunction(const char *module, const char *function)
+{
+    // The system looks in the program's own folder first.
+    const HMODULE library = LoadLibraryA((std::string(module) + ".dll").c_str());
+    void *found = library ? reinterpret_cast<void *>(GetProcAddress(library, function)) : nullptr;
+    if (!found)
+        std::fprintf(stderr, "%s cannot be loaded\n", module);
+    return found;
+}
 
 void TDesktop::ReturnFreedMemory() { }
