@@ -1,6 +1,7 @@
 #include "modals.h"
 #include "product.h"
 #include "qskinnedmessagebox.h"
+#include "table.h"
 #include "xuser.h"
 
 #include <QtGui/QAccessible>
@@ -47,17 +48,13 @@ class TestMessageBox : public QObject {
 private Q_SLOTS:
     void buttonsStandInTheirOrder_data()
     {
-        QTest::addColumn<Box::Buttons>("asked");
-        QTest::addColumn<QString>("expected");
-        QTest::addColumn<QString>("focused");
-        const auto row = [](const char *name, Box::Buttons asked, const char *expected, const char *focused) {
-            QTest::newRow(name) << asked << QString::fromLatin1(expected) << QString::fromLatin1(focused);
-        };
-        row("all", kAll, "Yes No Cancel Abort Ok", "Yes");
-        row("ok and cancel", QMessageBox::Ok | QMessageBox::Cancel, "Cancel Ok", "Ok");
-        row("none affirmative", QMessageBox::Abort | QMessageBox::No, "No Abort", "No");
-        row("others ignored", QMessageBox::Retry | QMessageBox::Ok | QMessageBox::Help, "Ok", "Ok");
-        row("no valid one", QMessageBox::Retry, "", "");
+        addTable<Box::Buttons, QString, QString>(
+            {"asked", "expected", "focused"},
+            {{"all", kAll, u"Yes No Cancel Abort Ok"_qs, u"Yes"_qs},
+             {"ok and cancel", QMessageBox::Ok | QMessageBox::Cancel, u"Cancel Ok"_qs, u"Ok"_qs},
+             {"none affirmative", QMessageBox::Abort | QMessageBox::No, u"No Abort"_qs, u"No"_qs},
+             {"others ignored", QMessageBox::Retry | QMessageBox::Ok, u"Ok"_qs, u"Ok"_qs},
+             {"no valid one", QMessageBox::Retry, {}, {}}});
     }
 
     void buttonsStandInTheirOrder()
@@ -74,8 +71,7 @@ private Q_SLOTS:
             QCOMPARE(captions.join(QLatin1Char(' ')), expected);
             if (!buttons.isEmpty()) {
                 const int right = buttons.constLast()->parentWidget()->rect().right();
-                QVERIFY(qAbs(buttons.constFirst()->x() - (right - buttons.constLast()->geometry().right()))
-                        <= 1);
+                QVERIFY(qAbs(buttons[0]->x() - (right - buttons.constLast()->geometry().right())) <= 1);
                 QVERIFY(box->focusWidget());
                 QCOMPARE(qobject_cast<QPushButton *>(box->focusWidget())->text(), focused);
             }
@@ -86,12 +82,11 @@ private Q_SLOTS:
 
     void keyboardAnswers_data()
     {
-        QTest::addColumn<QString>("keys");
-        QTest::addColumn<int>("expected");
-        QTest::newRow("enter") << QStringLiteral("Return") << int(QMessageBox::Yes);
-        QTest::newRow("keypad enter on the next") << QStringLiteral("Tab KP_Enter") << int(QMessageBox::No);
-        QTest::newRow("space on the last") << QStringLiteral("shift+Tab space") << int(QMessageBox::Cancel);
-        QTest::newRow("escape") << QStringLiteral("Tab Escape") << 0;
+        addTable<QString, int>({"keys", "expected"},
+                               {{"enter", u"Return"_qs, QMessageBox::Yes},
+                                {"keypad enter on the next", u"Tab KP_Enter"_qs, QMessageBox::No},
+                                {"space on the last", u"shift+Tab space"_qs, QMessageBox::Cancel},
+                                {"escape", u"Tab Escape"_qs, 0}});
     }
 
     void keyboardAnswers()
@@ -135,10 +130,10 @@ private Q_SLOTS:
         for (const auto &[show, icon] : kinds) {
             QImage shown;
             whenModalOpens([&](QWidget *box) {
-                shown = box->findChild<QLabel *>(QStringLiteral("skinnedMessageBoxIcon"))->pixmap().toImage();
+                shown = box->findChild<QLabel *>(u"skinnedMessageBoxIcon"_qs)->pixmap().toImage();
                 box->close();
             });
-            show(nullptr, product::kProductTitle, QStringLiteral("Text"), QMessageBox::Ok);
+            show(nullptr, product::kProductTitle, u"Text"_qs, QMessageBox::Ok);
             QVERIFY(!shown.isNull());
             QCOMPARE(shown, qApp->style()->standardIcon(icon).pixmap(size, size).toImage());
         }

@@ -3,6 +3,7 @@
 #include "qheaderlabel.h"
 #include "qskinneddialog.h"
 #include "qskinneddialogborder.h"
+#include "table.h"
 #include "xuser.h"
 
 #include <QtCore/QSettings>
@@ -53,11 +54,6 @@ void showAt(QWidget &dialog, const QRect &place)
     QTRY_COMPARE(dialog.mapToGlobal(QPoint(0, 0)), place.topLeft());
 }
 
-QRect stored(const QString &name)
-{
-    return QSettings().value(QStringLiteral("dialogsSizes/%1/rect").arg(name)).toRect();
-}
-
 } // namespace
 
 class TestSkinnedDialog : public QObject {
@@ -77,44 +73,32 @@ private Q_SLOTS:
         const int w = 400;
         const int h = 300;
         const int b = 9;
-        const struct {
-            const char *name;
-            Qt::CursorShape cursor;
-            QRect place;
-        } pieces[] = {
-            {"skinnedDialogTopBorder", Qt::SizeVerCursor, {b, 0, w - 2 * b, b}},
-            {"skinnedDialogBottomBorder", Qt::SizeVerCursor, {b, h - b, w - 2 * b, b}},
-            {"skinnedDialogLeftBorder", Qt::SizeHorCursor, {0, b, b, h - 2 * b}},
-            {"skinnedDialogRightBorder", Qt::SizeHorCursor, {w - b, b, b, h - 2 * b}},
-            {"skinnedDialogTopLeftBorder", Qt::SizeFDiagCursor, {0, 0, b, b}},
-            {"skinnedDialogTopRightBorder", Qt::SizeBDiagCursor, {w - b, 0, b, b}},
-            {"skinnedDialogBottomLeftBorder", Qt::SizeBDiagCursor, {0, h - b, b, b}},
-            {"skinnedDialogBottomRightBorder", Qt::SizeFDiagCursor, {w - b, h - b, b, b}},
-            {"skinnedDialogHeader", Qt::ArrowCursor, {b, b, w - 2 * b, 20}},
+        const std::tuple<const char *, Qt::CursorShape, QRect> pieces[] = {
+            {"TopBorder", Qt::SizeVerCursor, {b, 0, w - 2 * b, b}},
+            {"BottomBorder", Qt::SizeVerCursor, {b, h - b, w - 2 * b, b}},
+            {"LeftBorder", Qt::SizeHorCursor, {0, b, b, h - 2 * b}},
+            {"RightBorder", Qt::SizeHorCursor, {w - b, b, b, h - 2 * b}},
+            {"TopLeftBorder", Qt::SizeFDiagCursor, {0, 0, b, b}},
+            {"TopRightBorder", Qt::SizeBDiagCursor, {w - b, 0, b, b}},
+            {"BottomLeftBorder", Qt::SizeBDiagCursor, {0, h - b, b, b}},
+            {"BottomRightBorder", Qt::SizeFDiagCursor, {w - b, h - b, b, b}},
+            {"Header", Qt::ArrowCursor, {b, b, w - 2 * b, 20}},
         };
-        QString sheet;
-        int shade = 0;
-        for (const auto &piece : pieces)
-            sheet += QStringLiteral("#%1 { background: rgb(200, %2, 0) }")
-                         .arg(QLatin1String(piece.name))
-                         .arg(++shade);
         Dialog dialog;
-        dialog.setStyleSheet(sheet);
         dialog.resize(w, h);
         dialog.show();
         QCOMPARE(int(dialog.windowFlags()), 2051);
         QCOMPARE(dialog.content()->geometry(), QRect(5, 25, w - 10, h - 30));
         dialog.setBorderWidth(b);
         QTRY_COMPARE(dialog.content()->geometry(), QRect(b, b + 20, w - 2 * b, h - 2 * b - 20));
-
-        const QImage image = dialog.grab().toImage();
-        shade = 0;
-        for (const auto &piece : pieces) {
-            const auto *widget = dialog.findChild<QWidget *>(QLatin1String(piece.name));
-            QCOMPARE(widget->geometry(), piece.place);
-            QCOMPARE(widget->cursor().shape(), piece.cursor);
-            QVERIFY2(image.pixelColor(piece.place.topLeft() + QPoint(1, 1)) == QColor(200, ++shade, 0),
-                     piece.name);
+        for (const auto &[name, cursor, place] : pieces) {
+            auto *widget = dialog.findChild<QWidget *>(QStringLiteral("skinnedDialog") + QLatin1String(name));
+            QCOMPARE(widget->geometry(), place);
+            QCOMPARE(widget->cursor().shape(), cursor);
+            widget->setStyleSheet(QStringLiteral("background: rgb(200, 100, 0)"));
+            QVERIFY2(dialog.grab().toImage().pixelColor(place.topLeft() + QPoint(1, 1))
+                         == QColor(200, 100, 0),
+                     name);
         }
     }
 
@@ -136,27 +120,21 @@ private Q_SLOTS:
 
     void borderDragResizes_data()
     {
-        QTest::addColumn<Border::Position>("position");
-        QTest::addColumn<QPoint>("by");
-        QTest::addColumn<QRect>("expected");
-        QTest::addColumn<bool>("resizable");
-        QTest::addColumn<int>("button");
-        const auto row = [](const char *name, Border::Position position, QPoint by, QRect expected) {
-            QTest::newRow(name) << position << by << expected << true << 1;
-        };
-        // From (200, 150) 400 x 300, limits 250 x 200 and 500 x 400.
-        row("top up", Border::Top, {30, -40}, {200, 110, 400, 340});
-        row("bottom down", Border::Bottom, {30, 40}, {200, 150, 400, 340});
-        row("left outwards", Border::Left, {-30, 40}, {170, 150, 430, 300});
-        row("right inwards", Border::Right, {-30, 40}, {200, 150, 370, 300});
-        row("top left inwards", Border::TopLeft, {30, 40}, {230, 190, 370, 260});
-        row("top right outwards", Border::TopRight, {30, -40}, {200, 110, 430, 340});
-        row("bottom left outwards", Border::BottomLeft, {-30, 40}, {170, 150, 430, 340});
-        row("bottom right inwards", Border::BottomRight, {-30, -40}, {200, 150, 370, 260});
-        row("top left below the minimum", Border::TopLeft, {300, 280}, {350, 250, 250, 200});
-        row("top left beyond the maximum", Border::TopLeft, {-190, -140}, {100, 50, 500, 400});
-        QTest::newRow("not resizable") << Border::BottomRight << QPoint(30, 40) << kPlace << false << 1;
-        QTest::newRow("right button") << Border::BottomRight << QPoint(30, 40) << kPlace << true << 3;
+        // From (200, 150) 400 x 300, limits 250 x 200 and 500 x 400; button 0: the left one, but nothing to resize
+        addTable<Border::Position, QPoint, QRect, int>(
+            {"position", "by", "expected", "button"},
+            {{"top up", Border::Top, {30, -40}, {200, 110, 400, 340}, 1},
+             {"bottom down", Border::Bottom, {30, 40}, {200, 150, 400, 340}, 1},
+             {"left outwards", Border::Left, {-30, 40}, {170, 150, 430, 300}, 1},
+             {"right inwards", Border::Right, {-30, 40}, {200, 150, 370, 300}, 1},
+             {"top left inwards", Border::TopLeft, {30, 40}, {230, 190, 370, 260}, 1},
+             {"top right outwards", Border::TopRight, {30, -40}, {200, 110, 430, 340}, 1},
+             {"bottom left outwards", Border::BottomLeft, {-30, 40}, {170, 150, 430, 340}, 1},
+             {"bottom right inwards", Border::BottomRight, {-30, -40}, {200, 150, 370, 260}, 1},
+             {"top left below the minimum", Border::TopLeft, {300, 280}, {350, 250, 250, 200}, 1},
+             {"top left beyond the maximum", Border::TopLeft, {-190, -140}, {100, 50, 500, 400}, 1},
+             {"not resizable", Border::BottomRight, {30, 40}, kPlace, 0},
+             {"right button", Border::BottomRight, {30, 40}, kPlace, 3}});
     }
 
     void borderDragResizes()
@@ -164,9 +142,8 @@ private Q_SLOTS:
         QFETCH(Border::Position, position);
         QFETCH(QPoint, by);
         QFETCH(QRect, expected);
-        QFETCH(bool, resizable);
         QFETCH(int, button);
-        Dialog dialog(nullptr, resizable);
+        Dialog dialog(nullptr, button > 0);
         dialog.setMinimumSize(250, 200);
         dialog.setMaximumSize(500, 400);
         showAt(dialog, kPlace);
@@ -176,7 +153,7 @@ private Q_SLOTS:
         });
         const QPoint grip = (*dragged)->mapToGlobal((*dragged)->rect().center());
 
-        xuser::drag(grip, grip + by, button);
+        xuser::drag(grip, grip + by, qMax(button, 1));
         QTRY_COMPARE(xuser::geometry(dialog), expected);
         // The release has ended it.
         xuser::moveMouse(grip + by + QPoint(15, 15));
@@ -216,15 +193,13 @@ private Q_SLOTS:
 
     void escapeAndCloseButton_data()
     {
-        QTest::addColumn<Qt::WindowModality>("modality");
-        QTest::addColumn<bool>("closes");
-        QTest::addColumn<bool>("focusInContent");
-        QTest::newRow("non-modal") << Qt::NonModal << true << true;
-        QTest::newRow("non-modal without focus") << Qt::NonModal << true << false;
-        QTest::newRow("modal") << Qt::ApplicationModal << true << true;
-        QTest::newRow("window modal without focus") << Qt::WindowModal << true << false;
-        QTest::newRow("refused") << Qt::NonModal << false << true;
-        QTest::newRow("refused without focus") << Qt::ApplicationModal << false << false;
+        addTable<Qt::WindowModality, bool, bool>(
+            {"modality", "closes", "focusInContent"},
+            {{"non-modal", Qt::NonModal, true, true},
+             {"modal", Qt::ApplicationModal, true, true},
+             {"window modal without focus", Qt::WindowModal, true, false},
+             {"refused", Qt::NonModal, false, true},
+             {"refused without focus", Qt::ApplicationModal, false, false}});
     }
 
     void escapeAndCloseButton()
@@ -264,14 +239,12 @@ private Q_SLOTS:
         dialog.show();
         const QList<QPushButton *> buttons = headerButtons(dialog);
         QCOMPARE(buttons.size(), 3);
-        QVERIFY(buttons[0]->isVisible());
-        QVERIFY(!buttons[1]->isVisible());
+        QVERIFY(buttons[0]->isVisible() && !buttons[1]->isVisible());
         dialog.setShowSetSize(true);
         QTRY_VERIFY(buttons[0]->x() < buttons[1]->x() && buttons[1]->x() < buttons[2]->x());
         for (QPushButton *button : buttons) {
             QVERIFY(!QAccessible::queryAccessibleInterface(button)->text(QAccessible::Name).isEmpty());
-            QVERIFY(button->parentWidget()->rect().contains(button->geometry()));
-            QVERIFY(button->width() >= 11);
+            QVERIFY(button->parentWidget()->rect().contains(button->geometry()) && button->width() >= 11);
         }
         const QSignalSpy refreshed(&dialog, &QSkinnedDialog::refresh);
         QTest::mouseClick(buttons[0], Qt::LeftButton);
@@ -301,35 +274,53 @@ private Q_SLOTS:
         }
     }
 
+    void geometryIsRemembered_data()
+    {
+        addTable<QString, bool>({"key", "remembered"},
+                                {{"yes", QStringLiteral("Return"), true},
+                                 {"closed", QStringLiteral("Escape"), false},
+                                 {"the dialog goes meanwhile", QString(), false}});
+    }
+
     void geometryIsRemembered()
     {
+        QFETCH(QString, key);
+        QFETCH(bool, remembered);
         const QString name = QStringLiteral("imageViewer");
-        Dialog dialog;
-        dialog.setName(name);
-        dialog.resize(320, 240);
-        dialog.loadDefaultState();
-        QCOMPARE(dialog.size(), QSize(320, 240));
-        showAt(dialog, kPlace);
-        dialog.setDefaultState(false);
-        QCOMPARE(stored(name), kPlace);
+        auto dialog = std::make_unique<Dialog>();
+        dialog->setName(name);
+        dialog->resize(320, 240);
+        dialog->loadDefaultState();
+        QCOMPARE(dialog->size(), QSize(320, 240));
+        showAt(*dialog, kPlace);
+        whenModalOpens([&](QWidget *question) {
+            QCOMPARE(question->windowTitle(), QStringLiteral("Tarrow 9.0.14"));
+            QTRY_VERIFY(xuser::isManagedAndActive(*question));
+            if (key.isEmpty())
+                dialog.reset();
+            else
+                xuser::key(key);
+        });
+        dialog.get()->setDefaults();
+        QCOMPARE(QSettings().value(QStringLiteral("dialogsSizes/imageViewer/rect")).toRect(),
+                 remembered ? kPlace : QRect());
         Dialog again;
         again.setName(name);
         again.loadDefaultState();
         again.show();
-        QTRY_COMPARE(xuser::geometry(again), kPlace);
+        QTRY_COMPARE(xuser::geometry(again) == kPlace, remembered);
     }
 
     void storedRectangleIsMadeUsable_data()
     {
-        QTest::addColumn<QVariant>("value");
-        QTest::addColumn<QRect>("expected");
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-        QTest::newRow("on a screen that is gone")
-            << QVariant(kPlace.translated(5000, -4000))
-            << QRect(QPoint(screen.right() - kPlace.width() + 1, screen.top()), kPlace.size());
-        QTest::newRow("larger than the screen") << QVariant(screen.adjusted(-50, -60, 700, 800)) << screen;
-        QTest::newRow("left beyond right") << QVariant(QRect(QPoint(300, 100), QPoint(200, 400))) << kPlace;
-        QTest::newRow("no rectangle") << QVariant(QStringLiteral("wide")) << kPlace;
+        addTable<QVariant, QRect>(
+            {"value", "expected"},
+            {{"on a screen that is gone", kPlace.translated(5000, -4000),
+              QRect(QPoint(screen.right() - kPlace.width() + 1, screen.top()), kPlace.size())},
+             {"larger than the screen", screen.adjusted(-50, -60, 700, 800), screen},
+             {"left beyond right", QRect(QPoint(300, 100), QPoint(200, 400)), kPlace},
+             {"no rectangle", QStringLiteral("wide"), kPlace}});
     }
 
     void storedRectangleIsMadeUsable()
@@ -341,34 +332,6 @@ private Q_SLOTS:
         showAt(dialog, kPlace);
         dialog.loadDefaultState();
         QTRY_COMPARE(xuser::geometry(dialog), expected);
-    }
-
-    void confirmationDecides_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QRect>("expected");
-        QTest::newRow("yes") << QStringLiteral("Return") << kPlace;
-        QTest::newRow("closed") << QStringLiteral("Escape") << QRect();
-        QTest::newRow("the dialog goes meanwhile") << QString() << QRect();
-    }
-
-    void confirmationDecides()
-    {
-        QFETCH(QString, key);
-        QFETCH(QRect, expected);
-        auto dialog = std::make_unique<Dialog>();
-        dialog->setName(QStringLiteral("asked"));
-        showAt(*dialog, kPlace);
-        whenModalOpens([&](QWidget *question) {
-            QCOMPARE(question->windowTitle(), QStringLiteral("Tarrow 9.0.14"));
-            QTRY_VERIFY(xuser::isManagedAndActive(*question));
-            if (key.isEmpty())
-                dialog.reset();
-            else
-                xuser::key(key);
-        });
-        dialog.get()->setDefaults();
-        QCOMPARE(stored(QStringLiteral("asked")), expected);
     }
 
     void firstShowFitsTheScreen()
