@@ -12,11 +12,12 @@ bin=$root/build/release/bin
 out=$root/build/demo
 farm_pid=
 client_pid=
+view_pid=
 
 stop_everything() {
     trap '' INT TERM
     local pid
-    for pid in $client_pid $farm_pid; do
+    for pid in $client_pid $farm_pid $view_pid; do
         kill "$pid" 2>/dev/null || true
     done
     wait
@@ -98,6 +99,93 @@ picture() {
     import -window "$1" "$out/$2.png"
 }
 
+# list_row PATTERN: the row of the first event whose message matches, from 1, and its message.
+list_row() {
+    local row
+    # Read to the end: who stops early breaks the pipe.
+    row=$(sed -n 's/^tarrow\.notify: event [0-9]* type [0-9]* "\(.*\)"$/\1/p' "$out/client.log" \
+        | awk -v pattern="$1" '!found && $0 ~ pattern { print NR ":" $0; found = 1 }')
+    [ -n "$row" ] || fail "no event of the night says $1"
+    echo "$row"
+}
+
+viewer_windows() {
+    xdotool search --onlyvisible --name '^Images viewer'
+}
+
+# The newest viewer, where it is seen whole.
+place_viewer() {
+    wait_for 20 "a viewer" viewer_windows
+    window=$(viewer_windows | tail -n 1)
+    xdotool windowmove --sync "$window" 60 30 windowsize --sync "$window" 1100 700 windowfocus --sync "$window"
+}
+
+close_viewer() {
+    xdotool windowfocus --sync "$window" key alt+F4
+    wait_for 10 "the viewer to close" has_windows 2
+}
+
+# open_frames ROW: of the event in that row of the list.
+open_frames() {
+    local list X Y WINDOW
+    list=$(xdotool search --onlyvisible --name '^Tarrow Alertor$' | tail -n 1)
+    eval "$(xdotool getwindowgeometry --shell "$list")"
+    xdotool windowfocus --sync "$list" mousemove $((X + 200)) $((Y + 100)) click 1
+    xdotool key Home
+    [ "$1" -eq 1 ] || xdotool key --delay 5 --repeat $(($1 - 1)) Down
+    xdotool key Menu
+    wait_for 10 "the list's menu" has_windows 3
+    xdotool key f
+    place_viewer
+}
+
+# steps_to_gap FOLDER FIRST: from the first frame of a chunk to the one that its renderer never wrote.
+steps_to_gap() {
+    local steps=0 by=1 frame=$((10#$2))
+    there() { [ -f "$1/beauty.$(printf %04d "$2").exr" ]; }
+    there "$1" $((frame + 1)) || by=2
+    while there "$1" "$frame"; do
+        frame=$((frame + by))
+        steps=$((steps + 1))
+    done
+    echo "$steps"
+}
+
+take_viewer_pictures() {
+    local window row first name mask
+    row=$(list_row '^Job .* failed')
+    open_frames "${row%%:*}"
+    picture "$window" viewer
+    xdotool key space
+    sleep 2
+    picture "$window" viewer-playing
+    xdotool key space key F11
+    picture root viewer-full-screen
+    xdotool key Escape
+    close_viewer
+
+    row=$(list_row '^Frames .* failed')
+    first=$(expr "$row" : '.*Frames \([0-9]*\)-')
+    name=$(expr "$row" : '.* of \(.*\) failed')
+    mask=$(find "$(sed -n 's/^frames in //p' "$out/farm.log")" -type d -name "$name" | head -n 1)/beauty.####.exr
+    open_frames "${row%%:*}"
+    xdotool key --delay 200 --repeat "$(steps_to_gap "$(dirname "$mask")" "$first")" Right
+    picture "$window" viewer-missing-frame
+    close_viewer
+
+    # The list stays on top of what is not of its program.
+    xdotool search --onlyvisible --name '^Tarrow Alertor$' windowfocus --sync key Escape
+    wait_for 10 "the list to hide" has_windows 1
+    "$bin/tarrow-view" --set contrast=1.5,saturation=1.6,outputGamma=1.2 "$mask" >"$out/view.log" 2>&1 &
+    view_pid=$!
+    place_viewer
+    xdotool key ctrl+l
+    picture root viewer-calibrated
+    kill "$view_pid"
+    wait "$view_pid" || true
+    view_pid=
+}
+
 take_pictures() {
     local window
     open_tray_menu 1
@@ -112,6 +200,8 @@ take_pictures() {
     wait_for 10 "the preferences" xdotool search --onlyvisible --name '^Alertor Preferences$'
     picture root preferences
     xdotool key Escape
+    wait_for 10 "the preferences to close" has_windows 2
+    take_viewer_pictures
 }
 
 play_for_pictures() {
@@ -145,7 +235,7 @@ tags=(build)
 install_packages "${tags[@]}"
 step configure-release "Configuring (release)" cmake --preset release
 step build-release "Building (release)" \
-    cmake --build --preset release --target tarrow-alertor tarrow-demofarm
+    cmake --build --preset release --target tarrow-alertor tarrow-demofarm tarrow-view
 if [ "$pictures" = no ]; then
     play_on_desktop
 else

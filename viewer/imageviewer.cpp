@@ -115,6 +115,7 @@ void ImageViewer::prepareControls()
 void ImageViewer::prepareKeys()
 {
     // Keys that no field wants move through the frames, wherever the focus is.
+    content()->setFocusPolicy(Qt::ClickFocus);
     content()->installEventFilter(this);
     picture().installEventFilter(this);
     for (QAbstractButton *button : content()->findChildren<QAbstractButton *>())
@@ -237,6 +238,9 @@ void ImageViewer::showLoadStatus()
         m_ui->imageWarningReason->clear();
         m_watch.stop();
     }
+    // The focus would go to the next field with the picture, and take the keys of the frames along.
+    if (failed && picture().hasFocus())
+        content()->setFocus();
     m_ui->imageContainer->setVisible(!failed);
     m_ui->imageWarningWidget->setVisible(failed);
 }

@@ -372,7 +372,7 @@ bool ImageViewer::eventFilter(QObject *watched, QEvent *event)
     if (watched == content()) {
         // What a field took for its end gives the keys back to the frames.
         if (key == Qt::Key_Return || key == Qt::Key_Enter)
-            picture().setFocus();
+            content()->setFocus();
         transportKey(key);
         return true;
     }

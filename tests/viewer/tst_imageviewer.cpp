@@ -1,4 +1,5 @@
 #include "../ui/modals.h"
+#include "glpath.h"
 
 #include <cachetotals.h>
 #include <calibrationpanel.h>
@@ -6,7 +7,6 @@
 #include <imageviewer.h>
 #include <imagewidget.h>
 #include <product.h>
-#include <tappstate.h>
 
 #include <ImfRgbaFile.h>
 
@@ -14,7 +14,6 @@
 #include <QtCore/QFile>
 #include <QtCore/QPointer>
 #include <QtCore/QTemporaryDir>
-#include <QtGui/QSurfaceFormat>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
@@ -272,6 +271,9 @@ void ImageViewerTest::missingAndBrokenFrames()
     QCOMPARE(reason->text(), QStringLiteral("File not found at path: %1").arg(missing));
     QVERIFY(find("imageContainer")->isHidden());
     QVERIFY(!find<QLabel>("imageWarningLabel")->pixmap().isNull());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up); // the keys are still the frames'
+    QVERIFY(m_viewer->lastLoad().shown());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
     // A renderer writes elsewhere and puts the whole file in its place.
     writeFrame(m_folder->filePath(QStringLiteral("other")));
     QVERIFY(QFile::rename(m_folder->filePath(QStringLiteral("other")), missing));
@@ -436,6 +438,7 @@ void ImageViewerTest::manyViewers()
     QList<QPointer<ImageViewer>> viewers;
     for (int i = 0; i < 20; ++i) {
         viewers += open(QStringLiteral("shot.0001.exr"));
+        m_viewer->resize(m_viewer->minimumSizeHint());
         click("playAndStop");
     }
     for (const QPointer<ImageViewer> &viewer : viewers)
@@ -448,13 +451,7 @@ void ImageViewerTest::manyViewers()
 
 int main(int argc, char **argv)
 {
-    TAppState &state = TAppState::instance();
-    state.openGlUsable = state.gl21Supported = state.gl32Supported = true;
-    QSurfaceFormat format;
-    format.setVersion(3, 2);
-    format.setProfile(QSurfaceFormat::CoreProfile);
-    QSurfaceFormat::setDefaultFormat(format);
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    chooseGlPath();
     QApplication application(argc, argv);
     QCoreApplication::setOrganizationName(product::kOrganisation);
     QCoreApplication::setApplicationName(product::kApplicationName);

@@ -1,3 +1,4 @@
+#include "glpath.h"
 #include "picturereference.h"
 
 #include <hud.h>
@@ -7,7 +8,6 @@
 #include <QtGui/QOpenGLContext>
 #include <QtGui/QOpenGLFunctions>
 #include <QtGui/QScreen>
-#include <QtGui/QSurfaceFormat>
 #include <QtGui/QWindow>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
@@ -464,15 +464,7 @@ void PictureTest::unchangedHudKeepsItsTexture()
 
 int main(int argc, char **argv)
 {
-    const bool core = qgetenv("TARROW_PICTURE_GL") != "2.1";
-    TAppState &state = TAppState::instance();
-    state.openGlUsable = state.gl21Supported = true;
-    state.gl32Supported = core;
-    QSurfaceFormat format;
-    format.setVersion(core ? 3 : 2, core ? 2 : 1);
-    format.setProfile(core ? QSurfaceFormat::CoreProfile : QSurfaceFormat::CompatibilityProfile);
-    QSurfaceFormat::setDefaultFormat(format);
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    chooseGlPath();
     const QApplication application(argc, argv);
     PictureTest test;
     return QTest::qExec(&test, argc, argv);
