@@ -4,6 +4,7 @@
 #include "frameloader.h"
 #include "loadprogress.h"
 #include "sampleformat.h"
+#include "table.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
@@ -25,13 +26,12 @@ using Bytes = QByteArray;
 namespace {
 
 /// One layer for each channel, named alike.
-CTImage makeImage(std::vector<CTImageChannel> channels)
+CTImage makeImage(const std::vector<std::pair<std::string, TPlaneFormat>> &channels)
 {
     std::vector<CTImageLayer> layers;
-    for (CTImageChannel &channel : channels) {
-        const std::string name = channel.GetChannelName();
+    for (const auto &[name, format] : channels) {
         std::vector<CTImageChannel> own;
-        own.push_back(std::move(channel));
+        own.emplace_back(name, format);
         layers.emplace_back(name, std::move(own));
     }
     return CTImage(30, 20, true, std::move(layers));
@@ -39,9 +39,7 @@ CTImage makeImage(std::vector<CTImageChannel> channels)
 
 std::unique_ptr<ImageFrame> frameOf(const TPlaneFormat &format)
 {
-    std::vector<CTImageChannel> channels;
-    channels.emplace_back("", format);
-    return buildFrame(makeImage(std::move(channels)), std::string());
+    return buildFrame(makeImage({{"", format}}), std::string());
 }
 
 /// A file of float channels, the first one all 1.0, the second 2.0, and so on.
@@ -68,22 +66,169 @@ class FrameLoaderTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void formats();
-    void composite();
-    void layers_data();
-    void layers();
-    void failures_data();
-    void failures();
-    void cached();
-    void downsampling();
-    void progress();
+    void init()
+    {
+        m_cache.reset();
+        m_totals = {};
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_display = std::make_unique<FakeDisplay>();
+        m_cache = std::make_unique<FrameCache>(m_totals, *m_display);
+    }
+
+    void formats()
+    {
+        const auto frame = frameOf({.width = 3, .height = 2, .depth = 2, .isFloat = true, .samples = 4});
+        QVERIFY(frame->internalFormat == GL_RGBA16F && frame->pixelType == GL_HALF_FLOAT);
+        QCOMPARE(frame->byteSize, std::uint64_t(3 * 2 * 4 * 2));
+        QCOMPARE(frame->planeSizes.front(), (PlaneSize{3, 2}));
+        QCOMPARE(frame->channelLayout, std::string("RGBA"));
+        QVERIFY(frame->yFlipped && !frame->premultiplied && !frame->isYCbCr);
+        QCOMPARE(frameOf({.width = 1, .height = 1, .depth = 1})->channelLayout, std::string("Luminance"));
+        // An integer format for one sample, normalised ones for more.
+        QVERIFY(frameOf({.width = 1, .height = 1, .depth = 2})->internalFormat == GL_R16UI);
+        QVERIFY(frameOf({.width = 1, .height = 1, .depth = 2, .samples = 3})->internalFormat == GL_RGB16);
+        QVERIFY(!frameOf({.width = 1, .height = 1, .depth = 1, .samples = 2}));
+        QVERIFY(!frameOf({.width = 1, .height = 1, .depth = 8}));
+
+        constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+        QCOMPARE(planeBytes(kMost, kMost, 1, 4),
+                 std::optional(4 * std::uint64_t(kMost) * std::uint64_t(kMost)));
+        QVERIFY(!planeBytes(kMost, kMost, 3, 4) && !planeBytes(-1, -1, 1, 1) && !planeBytes(0, 1, 1, 1));
+    }
+
+    void composite()
+    {
+        const CTImage image =
+            makeImage({{"Y", {.width = 4, .height = 2, .depth = 2, .isFloat = true}},
+                       {"BY", {.width = 2, .height = 1, .depth = 2, .isFloat = true}},
+                       {"wide", {.width = 2, .height = 1, .depth = 4, .isFloat = true}},
+                       {"short", {.width = 2, .height = 1, .depth = 2}},
+                       {"many", {.width = 2, .height = 1, .depth = 2, .isFloat = true, .samples = 3}}});
+        CompositeLayer composite{"YCbCr", {"BY", "Y"}, "Y,Cb,Cr", true};
+        const auto frame = buildFrame(image, composite);
+        QCOMPARE(frame->planeSizes, (std::vector<PlaneSize>{{2, 1}, {4, 2}}));
+        QCOMPARE(frame->planes.back(), image.GetLayer("Y")->GetDefaultChannel()->GetChannelData());
+        QCOMPARE(frame->byteSize, std::uint64_t(2 * (2 + 8)));
+        QVERIFY(frame->internalFormat == GL_R16F);
+        QVERIFY(frame->isYCbCr && frame->premultiplied && frame->yFlipped);
+        // Samples of another kind than the default layer's would be read as if they were of its kind.
+        for (const char *other : {"wide", "short", "many", "missing"}) {
+            composite.members.back() = other;
+            QVERIFY2(!buildFrame(image, composite), other);
+        }
+    }
+
+    void layers_data()
+    {
+        const Bytes colour = "A B G R p.B p.G p.R Z";
+        // The values: the channel's place in the list, per texture
+        addTable<Bytes, Bytes, Bytes, QList<float>>({"channels", "layer", "layout", "values"},
+                                                    {{"colour", colour, "", "R,G,B,A", {4, 3, 2, 1}},
+                                                     {"the default layer", colour, "deep", "R", {4}},
+                                                     {"luma", "Y BY RY A", "", "Y,Cb,Cr,A", {1, 2, 3, 4}}});
+    }
+
+    void layers()
+    {
+        QFETCH(const Bytes, channels);
+        QFETCH(const Bytes, layer);
+        writeExr(path("a.exr"), channels);
+        QVERIFY(load("a.exr", layer.toStdString()).shown());
+        const ImageFrame &frame = *m_display->shown;
+        QTEST(Bytes::fromStdString(frame.channelLayout), "layout");
+        QTEST(uploadedValues(), "values");
+        QCOMPARE(frame.formatName, std::string("exr"));
+        QCOMPARE(m_fraction, 1.0F);
+        QVERIFY(frame.planes.empty()); // they went with the image
+    }
+
+    /// A failure leaves the cache as it was, and the next try starts anew.
+    void failures()
+    {
+        using Row = std::tuple<int, LoadOutcome, bool>;
+        // No file, an empty one, one cut in its header, one cut in its pixels
+        for (const auto &[keptBytes, outcome, isCleared] :
+             {Row{-1, LoadOutcome::NotFound, false}, Row{0, LoadOutcome::Corrupted, true},
+              Row{40, LoadOutcome::Corrupted, false}, Row{450, LoadOutcome::Corrupted, false}}) {
+            init();
+            writeExr(path("a.exr"), "Z", 64);
+            QVERIFY(load("a.exr").shown());
+            QFile cut(path("b.exr"));
+            QVERIFY(keptBytes < 0 || (QFile::copy(path("a.exr"), path("b.exr")) && cut.resize(keptBytes)));
+            QCOMPARE(load("b.exr").outcome, outcome);
+            QCOMPARE(m_display->shown == nullptr, isCleared);
+            QVERIFY(m_cache->contains(path("a.exr").toStdString())
+                    && !m_cache->contains(path("b.exr").toStdString()));
+            writeExr(path("b.exr"), "Z");
+            QVERIFY(load("b.exr").shown());
+        }
+    }
+
+    /// Shown again after its image and its file are gone, a frame in main memory has its own pixels.
+    void cached()
+    {
+        m_totals.videoMemoryBudget = 0;
+        writeExr(path("a.exr"), "R G B");
+        writeExr(path("b.exr"), "Z");
+        QVERIFY(load("a.exr").shown() && load("b.exr").shown());
+        QCOMPARE(m_display->textures, 1);
+        QVERIFY(QFile::remove(path("a.exr")));
+        const LoadResult again = load("a.exr");
+        QVERIFY(again.shown() && !again.layers);
+        QCOMPARE(uploadedValues(), (QList<float>{1, 2, 3}));
+    }
+
+    void downsampling()
+    {
+        QImage image(100, 50, QImage::Format_RGB888);
+        image.fill(Qt::red);
+        QVERIFY(image.save(path("a.png")) && image.scaled(9, 9).save(path("small.png")));
+        QVERIFY(load("a.png", {}, 4).shown());
+        QCOMPARE(m_display->shown->planeSizes.front(), (PlaneSize{6, 3}));
+        QCOMPARE(m_display->uploaded.front().left(3), QByteArrayLiteral("\xff\0\0"));
+        QVERIFY(load("small.png", {}, 4).shown());
+        QCOMPARE(m_display->shown->planeSizes.front(), (PlaneSize{1, 1})); // a side never becomes 0
+    }
+
+    void progress()
+    {
+        std::int64_t now = 41;
+        LoadProgress progress([&now] { return now; });
+        const auto report = [&progress](float fraction) {
+            const LoadProgress::Step step = progress.report(fraction);
+            return Bytes::number(step.value) + (step.barVisible ? " bar" : "")
+                + (step.setWaitCursor ? " wait" : "") + (step.restoreCursor ? " restore" : "");
+        };
+        for (int load = 0; load < 2; ++load) {
+            QCOMPARE(report(0.25009F), Bytes("2500 bar"));
+            QCOMPARE(report(0.5F), Bytes("5000 bar"));
+            now += 1;
+            QCOMPARE(report(0.75F), Bytes("7500 bar wait"));
+            QCOMPARE(report(0.99999F), Bytes("9999 bar"));
+            QCOMPARE(report(1.0F), Bytes("0 restore"));
+        }
+        // A cursor that this load did not set is another's.
+        QCOMPARE(report(-1e30F), Bytes("0 bar"));
+        QCOMPARE(report(std::numeric_limits<float>::quiet_NaN()), Bytes("0"));
+    }
 
 private:
     QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
-    LoadResult load(const char *name, const std::string &layer = {}, int downsampling = 0);
+    LoadResult load(const char *name, const std::string &layer = {}, int downsampling = 0)
+    {
+        m_fraction = 0.0F;
+        const auto note = [](float fraction, void *user) { *static_cast<float *>(user) = fraction; };
+        return FrameLoader(*m_cache, *m_display)
+            .load({path(name).toStdString(), layer, false, true, downsampling, note, &m_fraction});
+    }
     /// First float of each plane of the last upload.
-    QList<float> uploadedValues() const;
+    QList<float> uploadedValues() const
+    {
+        QList<float> values;
+        for (const Bytes &plane : m_display->uploaded)
+            values << *reinterpret_cast<const float *>(plane.constData());
+        return values;
+    }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     CacheTotals m_totals;
@@ -91,180 +236,6 @@ private:
     std::unique_ptr<FakeDisplay> m_display;
     std::unique_ptr<FrameCache> m_cache;
 };
-
-void FrameLoaderTest::init()
-{
-    m_cache.reset();
-    m_totals = {};
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_display = std::make_unique<FakeDisplay>();
-    m_cache = std::make_unique<FrameCache>(m_totals, *m_display);
-}
-
-LoadResult FrameLoaderTest::load(const char *name, const std::string &layer, int downsampling)
-{
-    m_fraction = 0.0F;
-    const auto note = [](float fraction, void *user) { *static_cast<float *>(user) = fraction; };
-    return FrameLoader(*m_cache, *m_display)
-        .load({path(name).toStdString(), layer, false, true, downsampling, note, &m_fraction});
-}
-
-QList<float> FrameLoaderTest::uploadedValues() const
-{
-    QList<float> values;
-    for (const Bytes &plane : m_display->uploaded)
-        values << *reinterpret_cast<const float *>(plane.constData());
-    return values;
-}
-
-void FrameLoaderTest::formats()
-{
-    const auto frame = frameOf({.width = 3, .height = 2, .depth = 2, .isFloat = true, .samples = 4});
-    QCOMPARE(frame->internalFormat, unsigned(GL_RGBA16F));
-    QCOMPARE(frame->pixelType, unsigned(GL_HALF_FLOAT));
-    QCOMPARE(frame->byteSize, std::uint64_t(3 * 2 * 4 * 2));
-    QCOMPARE(frame->planeSizes.front(), (PlaneSize{3, 2}));
-    QCOMPARE(frame->channelLayout, std::string("RGBA"));
-    QVERIFY(frame->yFlipped && !frame->premultiplied && !frame->isYCbCr);
-    QCOMPARE(frameOf({.width = 1, .height = 1, .depth = 1})->channelLayout, std::string("Luminance"));
-    // An integer format for one sample, normalised ones for more.
-    QCOMPARE(frameOf({.width = 1, .height = 1, .depth = 2})->internalFormat, unsigned(GL_R16UI));
-    QCOMPARE(frameOf({.width = 1, .height = 1, .depth = 2, .samples = 3})->internalFormat,
-             unsigned(GL_RGB16));
-    QVERIFY(!frameOf({.width = 1, .height = 1, .depth = 1, .samples = 2}));
-    QVERIFY(!frameOf({.width = 1, .height = 1, .depth = 8}));
-
-    constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
-    QCOMPARE(planeBytes(kMost, kMost, 1, 4), std::optional(4 * std::uint64_t(kMost) * std::uint64_t(kMost)));
-    QVERIFY(!planeBytes(kMost, kMost, 3, 4) && !planeBytes(-1, -1, 1, 1) && !planeBytes(0, 1, 1, 1));
-}
-
-void FrameLoaderTest::composite()
-{
-    std::vector<CTImageChannel> channels;
-    channels.emplace_back("Y", TPlaneFormat{.width = 4, .height = 2, .depth = 2, .isFloat = true});
-    channels.emplace_back("BY", TPlaneFormat{.width = 2, .height = 1, .depth = 2, .isFloat = true});
-    channels.emplace_back("wide", TPlaneFormat{.width = 2, .height = 1, .depth = 4, .isFloat = true});
-    channels.emplace_back("short", TPlaneFormat{.width = 2, .height = 1, .depth = 2});
-    channels.emplace_back("many",
-                          TPlaneFormat{.width = 2, .height = 1, .depth = 2, .isFloat = true, .samples = 3});
-    const CTImage image = makeImage(std::move(channels));
-
-    CompositeLayer composite{"YCbCr", {"BY", "Y"}, "Y,Cb,Cr", true};
-    const auto frame = buildFrame(image, composite);
-    QCOMPARE(frame->planeSizes, (std::vector<PlaneSize>{{2, 1}, {4, 2}}));
-    QCOMPARE(frame->planes.back(), image.GetLayer("Y")->GetDefaultChannel()->GetChannelData());
-    QCOMPARE(frame->byteSize, std::uint64_t(2 * (2 + 8)));
-    QCOMPARE(frame->internalFormat, unsigned(GL_R16F));
-    QVERIFY(frame->isYCbCr && frame->premultiplied && frame->yFlipped);
-    // Samples of another kind than the default layer's would be read as if they were of its kind.
-    for (const char *other : {"wide", "short", "many", "missing"}) {
-        composite.members.back() = other;
-        QVERIFY2(!buildFrame(image, composite), other);
-    }
-}
-
-void FrameLoaderTest::layers_data()
-{
-    QTest::addColumn<Bytes>("channels");
-    QTest::addColumn<Bytes>("layer");
-    QTest::addColumn<Bytes>("layout");
-    QTest::addColumn<QList<float>>("values"); // the channel's place in the list, per texture
-    const Bytes colour = "A B G R p.B p.G p.R Z";
-    using Values = QList<float>;
-    QTest::newRow("colour") << colour << Bytes() << Bytes("R,G,B,A") << Values{4, 3, 2, 1};
-    QTest::newRow("the default layer") << colour << Bytes("deep") << Bytes("R") << Values{4};
-    QTest::newRow("luma") << Bytes("Y BY RY A") << Bytes() << Bytes("Y,Cb,Cr,A") << Values{1, 2, 3, 4};
-}
-
-void FrameLoaderTest::layers()
-{
-    QFETCH(const Bytes, channels);
-    QFETCH(const Bytes, layer);
-    writeExr(path("a.exr"), channels);
-    QVERIFY(load("a.exr", layer.toStdString()).shown());
-    const ImageFrame &frame = *m_display->shown;
-    QTEST(Bytes::fromStdString(frame.channelLayout), "layout");
-    QTEST(uploadedValues(), "values");
-    QCOMPARE(frame.formatName, std::string("exr"));
-    QCOMPARE(m_fraction, 1.0F);
-    QVERIFY(frame.planes.empty()); // they went with the image
-}
-
-void FrameLoaderTest::failures_data()
-{
-    QTest::addColumn<int>("keptBytes"); // of a sound file; -1 for no file
-    QTest::addColumn<LoadOutcome>("outcome");
-    QTest::addColumn<bool>("isCleared");
-    QTest::newRow("missing") << -1 << LoadOutcome::NotFound << false;
-    QTest::newRow("empty") << 0 << LoadOutcome::Corrupted << true;
-    QTest::newRow("header cut") << 40 << LoadOutcome::Corrupted << false;
-    QTest::newRow("pixels cut") << 450 << LoadOutcome::Corrupted << false;
-}
-
-/// A failure leaves the cache as it was, and the next try starts anew.
-void FrameLoaderTest::failures()
-{
-    QFETCH(const int, keptBytes);
-    writeExr(path("a.exr"), "Z", 64);
-    QVERIFY(load("a.exr").shown());
-    QFile cut(path("b.exr"));
-    QVERIFY(keptBytes < 0 || (QFile::copy(path("a.exr"), path("b.exr")) && cut.resize(keptBytes)));
-    QTEST(load("b.exr").outcome, "outcome");
-    QTEST(m_display->shown == nullptr, "isCleared");
-    QVERIFY(m_cache->contains(path("a.exr").toStdString())
-            && !m_cache->contains(path("b.exr").toStdString()));
-    writeExr(path("b.exr"), "Z");
-    QVERIFY(load("b.exr").shown());
-}
-
-/// Shown again after its image and its file are gone, a frame in main memory has its own pixels.
-void FrameLoaderTest::cached()
-{
-    m_totals.videoMemoryBudget = 0;
-    writeExr(path("a.exr"), "R G B");
-    writeExr(path("b.exr"), "Z");
-    QVERIFY(load("a.exr").shown() && load("b.exr").shown());
-    QCOMPARE(m_display->textures, 1);
-    QVERIFY(QFile::remove(path("a.exr")));
-    const LoadResult again = load("a.exr");
-    QVERIFY(again.shown() && !again.layers);
-    QCOMPARE(uploadedValues(), (QList<float>{1, 2, 3}));
-}
-
-void FrameLoaderTest::downsampling()
-{
-    QImage image(100, 50, QImage::Format_RGB888);
-    image.fill(Qt::red);
-    QVERIFY(image.save(path("a.png")) && image.scaled(9, 9).save(path("small.png")));
-    QVERIFY(load("a.png", {}, 4).shown());
-    QCOMPARE(m_display->shown->planeSizes.front(), (PlaneSize{6, 3}));
-    QCOMPARE(m_display->uploaded.front().left(3), QByteArrayLiteral("\xff\0\0"));
-    QVERIFY(load("small.png", {}, 4).shown());
-    QCOMPARE(m_display->shown->planeSizes.front(), (PlaneSize{1, 1})); // a side never becomes 0
-}
-
-void FrameLoaderTest::progress()
-{
-    std::int64_t now = 41;
-    LoadProgress progress([&now] { return now; });
-    const auto report = [&progress](float fraction) {
-        const LoadProgress::Step step = progress.report(fraction);
-        return Bytes::number(step.value) + (step.barVisible ? " bar" : "")
-            + (step.setWaitCursor ? " wait" : "") + (step.restoreCursor ? " restore" : "");
-    };
-    for (int load = 0; load < 2; ++load) {
-        QCOMPARE(report(0.25009F), Bytes("2500 bar"));
-        QCOMPARE(report(0.5F), Bytes("5000 bar"));
-        now += 1;
-        QCOMPARE(report(0.75F), Bytes("7500 bar wait"));
-        QCOMPARE(report(0.99999F), Bytes("9999 bar"));
-        QCOMPARE(report(1.0F), Bytes("0 restore"));
-    }
-    // A cursor that this load did not set is another's.
-    QCOMPARE(report(-1e30F), Bytes("0 bar"));
-    QCOMPARE(report(std::numeric_limits<float>::quiet_NaN()), Bytes("0"));
-}
 
 QTEST_GUILESS_MAIN(FrameLoaderTest)
 #include "tst_frameloader.moc"

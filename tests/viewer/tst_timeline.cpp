@@ -20,27 +20,25 @@ QImage reference(imageTimeline &timeline, const Frames &frames, int start, int e
     QImage image(size, QImage::Format_RGB32);
     image.fill(timeline.palette().window().color());
     QPainter painter(&image);
+    painter.setFont(QFont(QStringLiteral("Lato"), 7));
+    const int numberWidth = painter.fontMetrics().horizontalAdvance(QStringLiteral("999.99"));
     const int bottom = size.height() - 2;
     const float step = float(size.width()) / float(end - start + 1);
     const auto x = [&](int frame) { return int(float(frame - start) * step); };
     painter.fillRect(1, 1, size.width() - 2, bottom, Qt::black);
     painter.setPen(QColor(200, 200, 200));
-    int last = 0;
-    for (int frame = start; frame <= end; ++frame) {
+    for (int frame = start, last = 0; frame <= end; ++frame) {
         if (frames.contains(frame) && x(frame) - last >= 4) {
             last = x(frame);
             painter.drawLine(last, bottom - 10, last, bottom);
         }
     }
     painter.setPen(QPen(QColor(150, 150, 150), 2));
-    painter.setFont(QFont(QStringLiteral("Lato"), 7));
-    last = 0;
-    for (int frame = start; frame <= end; ++frame) {
+    for (int frame = start, last = 0; frame <= end; ++frame) {
         if (!frames.contains(frame)) {
             const QRect column(QPoint(x(frame), 0), QSize(int(step), bottom));
             painter.fillRect(column, QBrush(QColor(100, 100, 100), Qt::Dense3Pattern));
-        } else if (x(frame) == 0
-                   || x(frame) - last >= painter.fontMetrics().horizontalAdvance(QStringLiteral("999.99"))) {
+        } else if (x(frame) == 0 || x(frame) - last >= numberWidth) {
             last = x(frame);
             painter.drawLine(last, 15, last, bottom);
             painter.drawText(QPointF(last, 10), QString::number(frame));
@@ -66,170 +64,145 @@ class TimelineTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void moves();
-    void drags();
-    void paints();
-    void crowdedFrames();
-    void hostileRecords();
-
-private:
-    static void follow(imageTimeline &timeline, const QList<long> &positions, bool (imageTimeline::*move)());
-};
-
-/// Moves from the first of the positions on.
-void TimelineTest::follow(imageTimeline &timeline, const QList<long> &positions,
-                          bool (imageTimeline::*move)())
-{
-    QSignalSpy changed(&timeline, &imageTimeline::frameChanged);
-    timeline.setPosition(positions.first());
-    for (qsizetype i = 1; i < positions.size(); ++i) {
-        changed.clear();
-        const bool moved = positions[i] != positions[i - 1];
-        QCOMPARE((timeline.*move)(), moved);
-        QCOMPARE(changed.size(), qsizetype(moved));
-        if (moved)
-            QCOMPARE(changed.first(), (QVariantList{int(positions[i]), false, false, false, false}));
-    }
-}
-
-void TimelineTest::moves()
-{
-    struct Case {
-        Frames frames;
-        long step;
-        QList<long> nexts;
-        QList<long> previouses;
-    };
-    const Case cases[] = {
-        {{1, 2, 3}, 1, {1, 2, 3, 3}, {3, 2, 1, 1}},
-        {{1, 2, 3, 10}, 3, {1, 10, 10}, {10, 1, 1}}, // 7 and 4 are stepped on and passed
-        {{1, 2, 3, 4, 9}, 2, {1, 3, 9}, {9, 3, 1}},
-        {{1, 1'000'000'000}, 1, {1, 1'000'000'000}, {1'000'000'000, 1}},
-        {{-kHuge, kHuge}, kHuge, {-kHuge, kHuge}, {kHuge, -kHuge}},
-        {{5, 6, 7}, 1, {-9, 5, 6}, {20, 7, 6, 5}},
-        {{1, 2}, -4, {1, 2}, {2, 1}}, // no step is below 1
-        {{}, 1, {3, 3}, {3, 3}},
-    };
-    for (const Case &moves : cases) {
-        imageTimeline timeline;
-        timeline.setFrames(moves.frames);
-        QVERIFY(timeline.setByFrame(moves.step));
-        follow(timeline, moves.nexts, &imageTimeline::moveNext);
-        follow(timeline, moves.previouses, &imageTimeline::movePrevious);
-        QSignalSpy changed(&timeline, &imageTimeline::frameChanged);
-        timeline.moveFirst();
-        timeline.moveLast();
-        timeline.moveLast();
-        QCOMPARE(changed.size(), qsizetype(moves.frames.empty() ? 0 : 1)); // it stands on the first
-    }
-}
-
-void TimelineTest::drags()
-{
-    QWidget window;
-    window.resize(400, 100);
-    imageTimeline timeline(&window);
-    timeline.resize(200, 60);
-    timeline.setFrames({-1, 0, 1, 2, 3, 7, 8});
-    timeline.setRange(-1, 8); // 20 pixels a frame
-    timeline.setPosition(1);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QSignalSpy scrubbed(&timeline, &imageTimeline::frameScrubbed);
-    QSignalSpy changed(&timeline, &imageTimeline::frameChanged);
-    const auto at = [](int frame) { return QPoint((frame + 1) * 20 + 10, 30); };
-    const auto drag = [&](Qt::KeyboardModifiers keys, int from, int to) {
-        QTest::mousePress(window.windowHandle(), Qt::LeftButton, keys, at(from));
-        const bool refused = !timeline.moveNext();
-        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, keys, at(to));
-        return refused;
-    };
-    using Keys = Qt::KeyboardModifiers;
-    constexpr Keys kChunk = Qt::ShiftModifier | Qt::ControlModifier;
-    for (const auto &[keys, flag] :
-         {std::pair(Keys(), 0), std::pair(kChunk, 1), std::pair(Keys(Qt::ControlModifier), 2),
-          std::pair(kChunk | Qt::AltModifier, 3), std::pair(Qt::ControlModifier | Qt::AltModifier, 4)}) {
-        timeline.setPosition(1);
-        QVERIFY(drag(keys, 2, 5)); // 5 is missing
-        const QVariantList emitted{2, flag == 1, flag == 2, flag == 3, flag == 4};
-        QCOMPARE(scrubbed.takeLast(), emitted);
-        QCOMPARE(changed.takeLast(), emitted);
-        QVERIFY(scrubbed.isEmpty() && changed.isEmpty());
-    }
-    // Back on the settled frame without a step between: the frame last shown counts.
-    QTest::mousePress(&timeline, Qt::LeftButton, {}, at(-1));
-    QTest::mouseRelease(&timeline, Qt::LeftButton, {}, at(2));
-    QCOMPARE(changed.takeLast()[0].toInt(), -1);
-
-    QTest::mousePress(&timeline, Qt::LeftButton, {}, at(-1));
-    QTest::mouseRelease(&timeline, Qt::RightButton, {}, at(8));
-    QTest::mouseRelease(&timeline, Qt::LeftButton, {}, at(8));
-    QVERIFY(changed.isEmpty() && timeline.moveNext());
-}
-
-void TimelineTest::paints()
-{
-    struct Case {
-        QSize size;
-        Frames frames;
-        std::pair<int, int> range;
-        int current;
-    };
-    const Case cases[] = {{{300, 60}, {7}, {7, 7}, 7},
-                          {{643, 60}, numbers(1001, 1011, 2), {1001, 1011}, 1004},
-                          {{777, 60}, numbers(1, 500, 3), {1, 500}, 333},
-                          {{400, 80}, {-7, 0, 1, 2, 3, 100, 300}, {-49, 350}, 0}, // a pixel each
-                          {{200, 60}, numbers(1, 100), {40, 60}, 20}};
-    for (const auto &[size, frames, range, current] : cases) {
-        imageTimeline timeline;
-        timeline.resize(size);
-        timeline.setFrames(frames);
-        timeline.setRange(range.first, range.second);
-        timeline.setPosition(current);
-        QCOMPARE(timeline.grab().toImage(), reference(timeline, frames, range.first, range.second, current));
-    }
-}
-
-void TimelineTest::crowdedFrames()
-{
-    imageTimeline timeline;
-    timeline.resize(100, 60);
-    timeline.setRange(1, 10'000);
-    timeline.setPosition(-1);
-    timeline.setFrames(numbers(1, 10'000));
-    const QImage whole = timeline.grab().toImage();
-    Frames holed = numbers(1, 10'000);
-    holed.erase(5'023);
-    timeline.setFrames(holed);
-    for (int x = 0; x < 100; ++x) {
-        const QRect column(x, 16, 1, 28); // between the numbers and the short ticks
-        QCOMPARE(timeline.grab().toImage().copy(column) != whole.copy(column), x == 50);
-    }
-    // A pixel gives the frame that it can.
-    timeline.setFrames({57, 9'999});
-    QSignalSpy changed(&timeline, &imageTimeline::frameChanged);
-    for (const int x : {0, 50, 99})
-        QTest::mouseClick(&timeline, Qt::LeftButton, {}, {x, 5});
-    QCOMPARE(changed.size(), 2);
-    QCOMPARE(changed[0][0].toInt(), 57);
-    QCOMPARE(changed[1][0].toInt(), 9'999);
-}
-
-void TimelineTest::hostileRecords()
-{
-    imageTimeline timeline;
-    QCOMPARE(timeline.getLength(), size_t(1));
-    timeline.setFrames({-kHuge - 1, 5, kHuge, std::numeric_limits<long>::max()});
-    QCOMPARE(timeline.getLength(), size_t(kHuge) * 2 + 2);
-    for (const long start : {-kHuge * 2, 0L, kHuge}) {
-        timeline.setRange(start, -start * 2);
-        for (const int width : {0, 1, 3000}) {
-            timeline.resize(width, 60);
-            QCOMPARE(timeline.grab().width(), width);
-            QTest::mouseClick(&timeline, Qt::LeftButton, {}, {width, 5});
+    void moves()
+    {
+        const std::tuple<Frames, long, QList<long>, QList<long>> cases[] = {
+            {{1, 2, 3}, 1, {1, 2, 3, 3}, {3, 2, 1, 1}},
+            {{1, 2, 3, 10}, 3, {1, 10, 10}, {10, 1, 1}}, // 7 and 4 are stepped on and passed
+            {{1, 2, 3, 4, 9}, 2, {1, 3, 9}, {9, 3, 1}},
+            {{-kHuge, kHuge}, kHuge, {-kHuge, kHuge}, {kHuge, -kHuge}},
+            {{-kHuge, kHuge}, 1, {-kHuge, kHuge}, {kHuge, -kHuge}},
+            {{5, 6, 7}, 1, {-9, 5, 6}, {20, 7, 6, 5}},
+            {{1, 2}, -4, {1, 2}, {2, 1}}, // no step is below 1
+            {{}, 1, {3, 3}, {3, 3}},
+        };
+        for (const auto &[frames, step, nexts, previouses] : cases) {
+            imageTimeline timeline;
+            timeline.setFrames(frames);
+            QVERIFY(timeline.setByFrame(step));
+            QSignalSpy changed(&timeline, &imageTimeline::frameChanged);
+            for (const auto &[positions, move] :
+                 {std::pair(nexts, &imageTimeline::moveNext), {previouses, &imageTimeline::movePrevious}}) {
+                timeline.setPosition(positions.first());
+                for (qsizetype i = 1; i < positions.size(); ++i) {
+                    changed.clear();
+                    const bool moved = positions[i] != positions[i - 1];
+                    QCOMPARE((timeline.*move)(), moved);
+                    QCOMPARE(changed.size(), qsizetype(moved));
+                    QVERIFY(!moved
+                            || changed[0] == (QVariantList{int(positions[i]), false, false, false, false}));
+                }
+            }
+            changed.clear();
+            timeline.moveFirst();
+            timeline.moveLast();
+            timeline.moveLast();
+            QCOMPARE(changed.size(), qsizetype(frames.empty() ? 0 : 1)); // it stands on the first
         }
     }
-}
+
+    void drags()
+    {
+        QWidget window;
+        window.resize(400, 100);
+        imageTimeline timeline(&window);
+        timeline.resize(200, 60);
+        timeline.setFrames({-1, 0, 1, 2, 3, 7, 8});
+        timeline.setRange(-1, 8); // 20 pixels a frame
+        timeline.setPosition(1);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QSignalSpy scrubbed(&timeline, &imageTimeline::frameScrubbed);
+        QSignalSpy changed(&timeline, &imageTimeline::frameChanged);
+        const auto at = [](int frame) { return QPoint((frame + 1) * 20 + 10, 30); };
+        const auto drag = [&](Qt::KeyboardModifiers keys, int from, int to) {
+            QTest::mousePress(window.windowHandle(), Qt::LeftButton, keys, at(from));
+            const bool refused = !timeline.moveNext();
+            QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, keys, at(to));
+            return refused;
+        };
+        using Keys = Qt::KeyboardModifiers;
+        constexpr Keys kChunk = Qt::ShiftModifier | Qt::ControlModifier;
+        for (const auto &[keys, flag] :
+             {std::pair(Keys(), 0), std::pair(kChunk, 1), std::pair(Keys(Qt::ControlModifier), 2),
+              std::pair(kChunk | Qt::AltModifier, 3), std::pair(Qt::ControlModifier | Qt::AltModifier, 4)}) {
+            timeline.setPosition(1);
+            QVERIFY(drag(keys, 2, 5)); // 5 is missing
+            const QVariantList emitted{2, flag == 1, flag == 2, flag == 3, flag == 4};
+            QCOMPARE(scrubbed.takeLast(), emitted);
+            QCOMPARE(changed.takeLast(), emitted);
+            QVERIFY(scrubbed.isEmpty() && changed.isEmpty());
+        }
+        // Back on the settled frame without a step between: the frame last shown counts.
+        QTest::mousePress(&timeline, Qt::LeftButton, {}, at(-1));
+        QTest::mouseRelease(&timeline, Qt::LeftButton, {}, at(2));
+        QCOMPARE(changed.takeLast()[0].toInt(), -1);
+
+        QTest::mousePress(&timeline, Qt::LeftButton, {}, at(-1));
+        QTest::mouseRelease(&timeline, Qt::RightButton, {}, at(8));
+        QTest::mouseRelease(&timeline, Qt::LeftButton, {}, at(8));
+        QVERIFY(changed.isEmpty() && timeline.moveNext());
+    }
+
+    void paints()
+    {
+        const std::tuple<QSize, Frames, int, int, int> cases[] = {
+            {{300, 60}, {7}, 7, 7, 7},
+            {{643, 60}, numbers(1001, 1011, 2), 1001, 1011, 1004},
+            {{777, 60}, numbers(1, 500, 3), 1, 500, 333},
+            {{400, 80}, {-7, 0, 1, 2, 3, 100, 300}, -49, 350, 0}, // a pixel each
+            {{200, 60}, numbers(1, 100), 40, 60, 20}};
+        for (const auto &[size, frames, start, end, current] : cases) {
+            imageTimeline timeline;
+            timeline.resize(size);
+            timeline.setFrames(frames);
+            timeline.setRange(start, end);
+            timeline.setPosition(current);
+            QCOMPARE(timeline.grab().toImage(), reference(timeline, frames, start, end, current));
+        }
+    }
+
+    void crowdedFrames()
+    {
+        imageTimeline timeline;
+        timeline.resize(100, 60);
+        timeline.setRange(1, 10'000);
+        timeline.setPosition(-1);
+        timeline.setFrames(numbers(1, 10'000));
+        const QImage whole = timeline.grab().toImage();
+        Frames holed = numbers(1, 10'000);
+        holed.erase(5'023);
+        timeline.setFrames(holed);
+        for (int x = 0; x < 100; ++x) {
+            const QRect column(x, 16, 1, 28); // between the numbers and the short ticks
+            QCOMPARE(timeline.grab().toImage().copy(column) != whole.copy(column), x == 50);
+        }
+        // A pixel gives the frame that it can.
+        timeline.setFrames({57, 9'999});
+        QSignalSpy changed(&timeline, &imageTimeline::frameChanged);
+        for (const int x : {0, 50, 99})
+            QTest::mouseClick(&timeline, Qt::LeftButton, {}, {x, 5});
+        QCOMPARE(changed.size(), 2);
+        QCOMPARE(changed[0][0].toInt(), 57);
+        QCOMPARE(changed[1][0].toInt(), 9'999);
+    }
+
+    void hostileRecords()
+    {
+        imageTimeline timeline;
+        QCOMPARE(timeline.getLength(), size_t(1));
+        timeline.setFrames({-kHuge - 1, 5, kHuge, std::numeric_limits<long>::max()});
+        QCOMPARE(timeline.getLength(), size_t(kHuge) * 2 + 2);
+        for (const long start : {-kHuge * 2, 0L, kHuge}) {
+            timeline.setRange(start, -start * 2);
+            for (const int width : {0, 1, 3000}) {
+                timeline.resize(width, 60);
+                QCOMPARE(timeline.grab().width(), width);
+                QTest::mouseClick(&timeline, Qt::LeftButton, {}, {width, 5});
+            }
+        }
+    }
+};
 
 QTEST_MAIN(TimelineTest)
 #include "tst_timeline.moc"
