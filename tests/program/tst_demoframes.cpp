@@ -1,5 +1,6 @@
 #include <framestore.h>
 #include <scenario.h>
+#include <table.h>
 
 #include <iimagecore.h>
 #include <stringhelper.h>
@@ -52,103 +53,94 @@ class TestDemoFrames : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void recordsNameWhatIsRendered();
-    void framesOfAChunk_data();
-    void framesOfAChunk();
-    void onlyTheLastJobsStay();
-};
-
-void TestDemoFrames::recordsNameWhatIsRendered()
-{
-    Scenario scenario({.jobs = 40, .folder = QStringLiteral("/night")});
-    std::set<std::int64_t> starts;
-    int finalFiles = 0;
-    while (const std::optional<FarmEvent> event = scenario.next()) {
-        TClientLib::TJob job;
-        TClientLib::TChunk chunk;
-        job.Unmarshall(values(event->packet.job), nullptr);
-        const bool isChunk = chunk.Unmarshall(values(event->packet.chunk));
-        const std::string finalFile = job.attributeGetString("final_filename");
-        const bool rendersFinalFile = event->packet.eventType == JobCompleted && !finalFile.empty();
-        QCOMPARE(event->render.has_value(), rendersFinalFile || (isChunk && finalFile.empty()));
-        if (!event->render)
-            continue;
-        const RenderOrder &render = *event->render;
-        QCOMPARE(render.path, rendersFinalFile ? finalFile : job.attributeGetString("frames_mask"));
-        QVERIFY(render.path.starts_with(job.attributeGetString("output_folder") + "/"));
-        QVERIFY(render.path.starts_with("/night/"));
-        finalFiles += rendersFinalFile;
-        if (rendersFinalFile)
-            continue;
-        QCOMPARE(render.frames.start, chunk.getStart());
-        QCOMPARE(render.frames.end, chunk.getEnd());
-        QCOMPARE(render.outcome ? chunkStatus(*render.outcome) : kRunningStatus, chunk.getStatus());
-        starts.insert(job.GetFrameRanges().front().start);
-    }
-    QCOMPARE(starts, (std::set<std::int64_t>{1, 1001}));
-    QVERIFY(finalFiles > 0);
-}
-
-void TestDemoFrames::framesOfAChunk_data()
-{
-    QTest::addColumn<std::optional<Outcome>>("outcome");
-    QTest::addColumn<QStringList>("files");
-    QTest::addColumn<QString>("damaged");
-    const QString first = QStringLiteral("beauty.1001.exr");
-    const QString middle = QStringLiteral("beauty.1003.exr");
-    const QString last = QStringLiteral("beauty.1005.exr");
-    const auto row = [](const char *name, std::optional<Outcome> outcome, const QStringList &files,
-                        const QString &damaged) { QTest::newRow(name) << outcome << files << damaged; };
-    row("at work", {}, {first}, first);
-    row("success", Outcome::Success, {first, middle, last}, {});
-    row("warnings", Outcome::Warnings, {first, middle, last}, middle);
-    row("errors", Outcome::Errors, {first, last}, {});
-}
-
-void TestDemoFrames::framesOfAChunk()
-{
-    QFETCH(const std::optional<Outcome>, outcome);
-    QFETCH(const QStringList, files);
-    QFETCH(const QString, damaged);
-    FrameStore store({}, false, true);
-    const RenderOrder chunk = order(store, "a job", outcome);
-    store.render(chunk);
-    const QDir folder(QString::fromStdString(chunk.folder));
-    QCOMPARE(folder.entryList(QDir::Files, QDir::Name), files);
-    std::set<QByteArray> pictures;
-    for (const QString &file : files) {
-        const QString path = folder.filePath(file);
-        const QByteArray red = plane(path, "R");
-        QCOMPARE(red.isEmpty(), file == damaged);
-        if (file == damaged)
-            continue;
-        pictures.insert(red);
-        std::set<std::string> layers;
-        QVERIFY(IImageCore::LoadLayers(path.toUtf8().constData(), "exr", layers));
-        QCOMPARE(layers, kLayers);
-        const QByteArray alpha = plane(path, "A");
-        QVERIFY(alpha.startsWith(QByteArray(2, '\0')) && alpha.endsWith(QByteArray("\0\x3c", 2))); // 0 and 1
-    }
-    QCOMPARE(qsizetype(pictures.size()), files.size() - !damaged.isEmpty());
-}
-
-void TestDemoFrames::onlyTheLastJobsStay()
-{
-    QString folder;
+    void recordsNameWhatIsRendered()
     {
-        FrameStore store({}, false, true);
-        folder = store.folder();
-        for (std::size_t job = 0; job <= FrameStore::kJobsKept; ++job)
-            store.render(order(store, std::to_string(job).c_str(), std::nullopt));
-        const QStringList jobs =
-            QDir(folder + QStringLiteral("/show")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-        QCOMPARE(std::size_t(jobs.size()), FrameStore::kJobsKept);
-        QVERIFY(!jobs.contains(QStringLiteral("0")));
+        Scenario scenario({.jobs = 40, .folder = QStringLiteral("/night")});
+        std::set<std::int64_t> starts;
+        int finalFiles = 0;
+        while (const std::optional<FarmEvent> event = scenario.next()) {
+            TClientLib::TJob job;
+            TClientLib::TChunk chunk;
+            job.Unmarshall(values(event->packet.job), nullptr);
+            const bool isChunk = chunk.Unmarshall(values(event->packet.chunk));
+            const std::string finalFile = job.attributeGetString("final_filename");
+            const bool rendersFinalFile = event->packet.eventType == JobCompleted && !finalFile.empty();
+            QCOMPARE(event->render.has_value(), rendersFinalFile || (isChunk && finalFile.empty()));
+            if (!event->render)
+                continue;
+            const RenderOrder &render = *event->render;
+            QCOMPARE(render.path, rendersFinalFile ? finalFile : job.attributeGetString("frames_mask"));
+            QVERIFY(render.path.starts_with(job.attributeGetString("output_folder") + "/"));
+            QVERIFY(render.path.starts_with("/night/"));
+            finalFiles += rendersFinalFile;
+            if (rendersFinalFile)
+                continue;
+            QVERIFY(render.frames.start == chunk.getStart() && render.frames.end == chunk.getEnd());
+            QCOMPARE(render.outcome ? chunkStatus(*render.outcome) : kRunningStatus, chunk.getStatus());
+            starts.insert(job.GetFrameRanges().front().start);
+        }
+        QCOMPARE(starts, (std::set<std::int64_t>{1, 1001}));
+        QVERIFY(finalFiles > 0);
     }
-    QVERIFY(!QDir(folder).exists());
-    folder = FrameStore({}, true, false).folder();
-    QVERIFY(QDir(folder).removeRecursively());
-}
+
+    void framesOfAChunk_data()
+    {
+        const QString first = QStringLiteral("beauty.1001.exr");
+        const QString middle = QStringLiteral("beauty.1003.exr");
+        const QString last = QStringLiteral("beauty.1005.exr");
+        addTable<std::optional<Outcome>, QStringList, QString>(
+            {"outcome", "files", "damaged"},
+            {{"at work", {}, {first}, first},
+             {"success", Outcome::Success, {first, middle, last}, {}},
+             {"warnings", Outcome::Warnings, {first, middle, last}, middle},
+             {"errors", Outcome::Errors, {first, last}, {}}});
+    }
+
+    void framesOfAChunk()
+    {
+        QFETCH(const std::optional<Outcome>, outcome);
+        QFETCH(const QStringList, files);
+        QFETCH(const QString, damaged);
+        FrameStore store({}, false, true);
+        const RenderOrder chunk = order(store, "a job", outcome);
+        store.render(chunk);
+        const QDir folder(QString::fromStdString(chunk.folder));
+        QCOMPARE(folder.entryList(QDir::Files, QDir::Name), files);
+        std::set<QByteArray> pictures;
+        for (const QString &file : files) {
+            const QString path = folder.filePath(file);
+            const QByteArray red = plane(path, "R");
+            QCOMPARE(red.isEmpty(), file == damaged);
+            if (file == damaged)
+                continue;
+            pictures.insert(red);
+            std::set<std::string> layers;
+            QVERIFY(IImageCore::LoadLayers(path.toUtf8().constData(), "exr", layers));
+            QCOMPARE(layers, kLayers);
+            const QByteArray alpha = plane(path, "A"); // from 0 to 1
+            QVERIFY(alpha.startsWith(QByteArray(2, '\0')) && alpha.endsWith(QByteArray("\0\x3c", 2)));
+        }
+        QCOMPARE(qsizetype(pictures.size()), files.size() - !damaged.isEmpty());
+    }
+
+    void onlyTheLastJobsStay()
+    {
+        QString folder;
+        {
+            FrameStore store({}, false, true);
+            folder = store.folder();
+            for (std::size_t job = 0; job <= FrameStore::kJobsKept; ++job)
+                store.render(order(store, std::to_string(job).c_str(), std::nullopt));
+            const QStringList jobs =
+                QDir(folder + QStringLiteral("/show")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+            QCOMPARE(std::size_t(jobs.size()), FrameStore::kJobsKept);
+            QVERIFY(!jobs.contains(QStringLiteral("0")));
+        }
+        QVERIFY(!QDir(folder).exists());
+        folder = FrameStore({}, true, false).folder();
+        QVERIFY(QDir(folder).removeRecursively());
+    }
+};
 
 QTEST_GUILESS_MAIN(TestDemoFrames)
 #include "tst_demoframes.moc"
