@@ -3,16 +3,14 @@
 #include <glprobe.h>
 #include <look.h>
 #include <qtsingleapplication.h>
+#include <table.h>
 #include <tappstate.h>
 
 #include <QtCore/QDir>
-#include <QtCore/QPointer>
 #include <QtCore/QStandardPaths>
 #include <QtGui/QOpenGLContext>
 #include <QtGui/QSurfaceFormat>
-#include <QtGui/QWindow>
 #include <QtNetwork/QLocalSocket>
-#include <QtOpenGLWidgets/QOpenGLWidget>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
@@ -42,25 +40,21 @@ CommandLine parsed(QByteArray arguments)
 /// What was given on the command line, in one line.
 QString summary(const CommandLine &line)
 {
-    QStringList given;
-    const auto add = [&given](const char *name, const std::optional<QString> &value) {
+    const CommandLineOverrides &given = line.overrides;
+    QString text;
+    for (const auto &[name, value] :
+         {std::pair("server", given.server), {"user", given.user}, {"pass", given.password}}) {
         if (value)
-            given += QLatin1String(name) + QLatin1Char('=') + *value;
-    };
-    add("server", line.overrides.server);
-    add("user", line.overrides.user);
-    add("pass", line.overrides.password);
-    if (line.overrides.port)
-        given += QStringLiteral("port=%1").arg(*line.overrides.port);
+            text += u" %1=%2"_qs.arg(QLatin1String(name), *value);
+    }
+    if (given.port)
+        text += u" port=%1"_qs.arg(*given.port);
     if (!line.language.isEmpty())
-        given += QStringLiteral("language=") + line.language;
-    if (line.forceGl2)
-        given += QStringLiteral("gl2");
-    if (line.help)
-        given += QStringLiteral("help");
-    if (line.version)
-        given += QStringLiteral("version");
-    return given.join(QLatin1Char(' '));
+        text += u" language="_qs + line.language;
+    for (const auto &[name, isGiven] :
+         {std::pair(u" gl2"_qs, line.forceGl2), {u" help"_qs, line.help}, {u" version"_qs, line.version}})
+        text += isGiven ? name : QString();
+    return text.mid(1);
 }
 
 } // namespace
@@ -69,31 +63,25 @@ class StartUpTest final : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void optionsAreRead_data()
-    {
-        QTest::addColumn<QByteArray>("arguments");
-        QTest::addColumn<QString>("given");
-        const auto row = [](const char *name, const char *arguments, const char *given) {
-            QTest::newRow(name) << QByteArray(arguments) << QString::fromUtf8(given);
-        };
-        row("nothing", "x y", "");
-        row("all", "x -server h -user ü -pass p -port 7 -forcegl2", "server=h user=ü pass=p port=7 gl2");
-        row("a value is wanted", "-user a -port", "user=a");
-        row("the last counts", "-user a -user b", "user=b");
-        row("exact and case-sensitive", "-Server h --user u -portx 1 -forceGL2 -help", "");
-        row("an empty value is one", "-pass  -user u", "user=u pass=");
-        row("a value may look like an option", "-pass -user -port 5", "user=-port pass=-user port=5");
-        row("port: no number", "-port x7", "port=0");
-        row("port: digits lead", "-port 98x3", "port=98");
-        row("port: kept as it is", "-port 75000", "port=75000");
-        row("language", "--language de -language fr_CA", "language=fr_CA");
-        row("help", "-port 1 --help", "port=1 help");
-        row("version", "--version", "version");
-    }
     void optionsAreRead()
     {
-        QFETCH(QByteArray, arguments);
-        QTEST(summary(parsed(arguments)), "given");
+        const std::pair<const char *, const char *> lines[] = {
+            {"x y", ""},
+            {"x -server h -user ü -pass p -port 7 -forcegl2", "server=h user=ü pass=p port=7 gl2"},
+            {"-user a -port", "user=a"},
+            {"-user a -user b", "user=b"},
+            {"-Server h --user u -portx 1 -forceGL2 -help", ""},
+            {"-pass  -user u", "user=u pass="}, // an empty value is one
+            {"-pass -user -port 5", "user=-port pass=-user port=5"},
+            {"-port x7", "port=0"},
+            {"-port 98x3", "port=98"},
+            {"-port 75000", "port=75000"},
+            {"--language de -language fr_CA", "language=fr_CA"},
+            {"-port 1 --help", "port=1 help"},
+            {"--version", "version"},
+        };
+        for (const auto &[arguments, given] : lines)
+            QCOMPARE(summary(parsed(arguments)), QString::fromUtf8(given));
     }
 
     void fontsThatFailAreNamedInOrder()
@@ -116,44 +104,20 @@ private Q_SLOTS:
         QCOMPARE(QApplication::palette().color(QPalette::Active, QPalette::Light), active);
     }
 
-    void openGlIsProbed_data()
-    {
-        QTest::addColumn<bool>("forceGl2");
-        QTest::newRow("3.2") << false;
-        QTest::newRow("2.1") << true;
-    }
     void openGlIsProbed()
     {
-        QFETCH(bool, forceGl2);
-        TAppState state;
-        state.forceGl2 = forceGl2;
-        probeOpenGl(state);
-        QVERIFY(state.openGlUsable && state.gl21Supported);
-        QCOMPARE(state.gl32Supported, !forceGl2);
-        const QSurfaceFormat format = QSurfaceFormat::defaultFormat();
-        QCOMPARE(format.version(), forceGl2 ? qMakePair(2, 1) : qMakePair(3, 2));
-        QCOMPARE(format.profile(),
-                 forceGl2 ? QSurfaceFormat::CompatibilityProfile : QSurfaceFormat::CoreProfile);
-        QCOMPARE(format.swapBehavior(), QSurfaceFormat::DoubleBuffer);
-    }
-
-    void texturesOutliveTheirWindow()
-    {
-        TAppState state;
-        probeOpenGl(state);
+        for (const bool forceGl2 : {true, false}) {
+            TAppState state;
+            state.forceGl2 = forceGl2;
+            probeOpenGl(state);
+            QVERIFY(state.openGlUsable && state.gl21Supported && state.gl32Supported == !forceGl2);
+            const QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+            QCOMPARE(format.version(), forceGl2 ? qMakePair(2, 1) : qMakePair(3, 2));
+            QCOMPARE(format.profile(),
+                     forceGl2 ? QSurfaceFormat::CompatibilityProfile : QSurfaceFormat::CoreProfile);
+            QCOMPARE(format.swapBehavior(), QSurfaceFormat::DoubleBuffer);
+        }
         QVERIFY(QOpenGLContext::globalShareContext());
-        QWidget window;
-        auto *picture = new QOpenGLWidget(&window);
-        window.show();
-        QTRY_VERIFY(picture->isValid());
-        const QPointer<QOpenGLContext> context = picture->context();
-        QVERIFY(QOpenGLContext::areSharing(picture->context(), QOpenGLContext::globalShareContext()));
-        picture->setParent(nullptr);
-        picture->showFullScreen();
-        QTRY_VERIFY(picture->window()->windowHandle()->isExposed());
-        QVERIFY(context);
-        QCOMPARE(picture->context(), context.data());
-        delete picture;
     }
 
     void othersAreKeptOut()
@@ -169,20 +133,17 @@ private Q_SLOTS:
 
     void aMessageEndsWithAZero_data()
     {
-        QTest::addColumn<QList<QByteArray>>("pieces");
-        QTest::addColumn<QStringList>("messages");
-        const auto sized = [](int size) { return QByteArray(size, 'x'); };
-        const auto text = [](int size) { return QString(size, QLatin1Char('x')); };
-        using Pieces = QList<QByteArray>;
-        QTest::newRow("whole") << Pieces{QByteArray("wakeup\0", 7)} << QStringList{QStringLiteral("wakeup")};
-        QTest::newRow("in pieces") << Pieces{"wake", "up", QByteArray(1, '\0')}
-                                   << QStringList{QStringLiteral("wakeup")};
-        QTest::newRow("one a visit") << Pieces{QByteArray("a\0b\0", 4)} << QStringList{QStringLiteral("a")};
-        QTest::newRow("longest") << Pieces{sized(4095) + '\0'} << QStringList{text(4095)};
-        QTest::newRow("too long") << Pieces{sized(4096) + '\0'} << QStringList();
-        QTest::newRow("never ends") << Pieces{sized(100000)} << QStringList();
-        QTest::newRow("not UTF-8") << Pieces{QByteArray("\xff\0", 2)} << QStringList{QString(QChar(0xfffd))};
+        const QByteArray zero(1, '\0');
+        addTable<QList<QByteArray>, QStringList>(
+            {"pieces", "messages"},
+            {{"in pieces", {"wake", "up", zero}, {u"wakeup"_qs}},
+             {"one a visit", {QByteArray("a\0b\0", 4)}, {u"a"_qs}},
+             {"longest", {QByteArray(4095, 'x') + zero}, {QString(4095, u'x')}},
+             {"too long", {QByteArray(4096, 'x') + zero}, {}},
+             {"never ends", {QByteArray(100000, 'x')}, {}},
+             {"not UTF-8", {"\xff" + zero}, {QString(QChar(0xfffd))}}});
     }
+
     void aMessageEndsWithAZero()
     {
         QFETCH(QList<QByteArray>, pieces);

@@ -2,7 +2,6 @@
 #include "templatefolder.h"
 #include "templates.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QTemporaryDir>
@@ -29,216 +28,181 @@ class TestTemplates : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_folder.emplace();
+        m_home = qgetenv("HOME");
+        qputenv("HOME", QFile::encodeName(m_folder->filePath(u"home"_qs)));
+        QVERIFY(QDir(m_folder->path()).mkpath(u"home"_qs));
+        QVERIFY(TFramework::InitializeLibrary(m_folder->filePath(u"program/tarrow"_qs).toUtf8().constData()));
+        m_link.emplace();
+    }
 
-    void choosesFolder();
-    void testsFileNames();
-    void nothingToLoad();
-    void invokesByID_data();
-    void invokesByID();
-    void reportsFailures();
-    void handsOverText();
-    void endsOnce();
-    void exampleAnswers();
+    void cleanup()
+    {
+        m_link.reset();
+        TFramework::ShutdownLibrary();
+        qputenv("HOME", m_home);
+        m_folder.reset();
+    }
+
+    void choosesFolder()
+    {
+        const auto loaded = [this](const QByteArray &message) {
+            Templates templates;
+            const QStringList texts = load(templates);
+            templates.invokeCustomMessage(0, message);
+            return texts;
+        };
+        writeFile(m_folder->filePath(u"program/templates/p.py"_qs), recorder("program", "0"));
+        QCOMPARE(loaded("empty home"), QStringList{u"Loading template p.py..."_qs});
+        QVERIFY(QFileInfo(userFile(QString())).isDir());
+        // One entry of any kind is enough to make it the user's folder.
+        writeFile(userFile(u"notes.txt"_qs), "mine");
+        QCOMPARE(loaded("no template"), QStringList());
+        writeFile(userFile(u"u.py"_qs), recorder("user", "0"));
+        QCOMPARE(loaded("own"), QStringList{u"Loading template u.py..."_qs});
+        QCOMPARE(m_link->payloads(), (QList<QByteArray>{"program:empty home", "user:own"}));
+    }
+
+    void testsFileNames()
+    {
+        // By the name they were loaded under; those that fail the test are missing.
+        const std::pair<QString, QByteArray> names[] = {
+            {u"%1.pyp"_qs, "%1p"},  {u"a.py.b.py"_qs, "a.b"},
+            {u"full."_qs, "full."}, {u"notes.cpp"_qs, "notes.cpp"},
+            {u"x.py"_qs, "x"},      {u"y"_qs, "y"},
+            {u"X.PY"_qs, {}},       {u"x.py.bak"_qs, {}},
+            {u"x.pyc"_qs, {}}};
+        QStringList shown{u"Loading template my..."_qs};
+        QVERIFY(QDir().mkpath(userFile(u"my"_qs)));
+        for (const auto &[file, name] : names) {
+            writeFile(userFile(file), "raise OSError");
+            if (!name.isEmpty())
+                shown.append(u"Loading template "_qs + file + u"..."_qs);
+        }
+        shown.sort();
+
+        CapturedOutput errors(STDERR_FILENO);
+        Templates templates;
+        QCOMPARE(load(templates), shown);
+        const QByteArray lines = errors.take();
+        QCOMPARE(lines.count('\n'), shown.size());
+        for (const auto &[file, name] : names) {
+            const QByteArray line =
+                "Failed to load template " + name + " from " + userFile(file).toUtf8() + ": OSError";
+            QVERIFY2(lines.contains(line) != name.isEmpty(), line);
+        }
+    }
+
+    void nothingToLoad()
+    {
+        CapturedOutput errors(STDERR_FILENO);
+        Templates templates;
+        QCOMPARE(load(templates), QStringList());
+        templates.invokeCustomMessage(12, "nobody");
+        QVERIFY(!Py_IsInitialized());
+        QCOMPARE(errors.take(), QByteArray());
+    }
+
+    void invokesByID()
+    {
+        writeFile(userFile(u"z.py"_qs), recorder("global", "0"));
+        writeFile(userFile(u"j.py"_qs), recorder("job", "12"));
+        writeFile(userFile(u"n.py"_qs), recorder("negative", "-3"));
+        Templates templates;
+        load(templates);
+        for (const int id : {0, 12, 13, -3})
+            templates.invokeCustomMessage(id, QByteArray::number(id));
+        QCOMPARE(m_link->payloads(),
+                 (QList<QByteArray>{"global:0", "global:12", "job:12", "global:13", "global:-3"}));
+    }
+
+    void reportsFailures()
+    {
+        writeFile(userFile(u"global.py"_qs), recorder("global", "0") + "    raise ValueError('g')\n");
+        writeFile(userFile(u"job.py"_qs),
+                  "TEMPLATE_NAME = 'Job kind'\n" + recorder("job", "12")
+                      + "    import sys; message == b'bad' and sys.exit('j')\n");
+        Templates templates;
+        load(templates);
+        CapturedOutput errors(STDERR_FILENO);
+        templates.invokeCustomMessage(12, "bad");
+        const QByteArray text = errors.take();
+        const QByteArray hook = "Failed to invoke onCustomDispatcherMessageToAlertor() on ";
+        const qsizetype job = text.indexOf(hook + "template Job kind (ID 12):Traceback");
+        QVERIFY2(text.startsWith(hook + "global template (ID 0): Traceback"), text);
+        QVERIFY2(job > 0 && text.first(job).endsWith("\nValueError: g\n"), text);
+        QVERIFY2(text.endsWith("\nSystemExit: j\n"), text);
+
+        templates.invokeCustomMessage(12, "good");
+        QVERIFY(!errors.take().contains("ID 12"));
+        QCOMPARE(m_link->payloads(), (QList<QByteArray>{"global:bad", "job:bad", "global:good", "job:good"}));
+    }
+
+    void handsOverText()
+    {
+        writeFile(userFile(u"x.py"_qs), recorder("x", "0"));
+        Templates templates;
+        load(templates);
+        const char raw[] = {'a', 'b', 'c'};
+        templates.invokeCustomMessage(0, QByteArray::fromRawData(raw, 2));
+        templates.invokeCustomMessage(0, QByteArray("a\0b", 3));
+        templates.invokeCustomMessage(0, QByteArray());
+        QCOMPARE(m_link->payloads(), (QList<QByteArray>{"x:ab", "x:a", "x:"}));
+    }
+
+    void endsOnce()
+    {
+        writeFile(userFile(u"x.py"_qs),
+                  "import atexit\n" + recorder("x", "0") + "atexit.register(alertor.send, 1, b'end')\n");
+        Templates templates;
+        load(templates);
+        templates.shutdown();
+        QVERIFY(!Py_IsInitialized());
+        templates.invokeCustomMessage(0, "late");
+        templates.shutdown();
+        QCOMPARE(m_link->payloads(), QList<QByteArray>{"end"});
+    }
+
+    void exampleAnswers()
+    {
+        QVERIFY(QDir().mkpath(userFile(QString())));
+        QVERIFY(QFile::copy(QStringLiteral(TARROW_EXAMPLES "/hostreport.py"), userFile(u"hostreport.py"_qs)));
+        Templates templates;
+        load(templates);
+        templates.invokeCustomMessage(12, R"({"ask": "weather"})");
+        QCOMPARE(m_link->messages.size(), 0);
+        templates.invokeCustomMessage(12, R"({"ask": "host", "number": 7})");
+        QCOMPARE(m_link->messages.size(), 1);
+        QCOMPARE(m_link->messages[0].command, 1204U);
+        QCOMPARE(m_link->messages[0].param, 12U);
+        const QJsonObject answer = QJsonDocument::fromJson(m_link->messages[0].payload).object();
+        QCOMPARE(answer[u"question"_qs].toInt(), 7);
+        QCOMPARE(answer[u"host"_qs].toString(), QSysInfo::machineHostName());
+
+        m_link->accepts = false;
+        CapturedOutput errors(STDERR_FILENO);
+        templates.invokeCustomMessage(12, R"({"ask": "host", "number": 8})");
+        QCOMPARE(errors.take(), QByteArray("Host report: no link to the Dispatcher\n"));
+    }
 
 private:
     QString userFile(const QString &name) const
     {
         return m_folder->filePath(u"home/.Tarrow9/templates/"_qs + name);
     }
-    QString programFile(const QString &name) const
+    QStringList load(Templates &templates) const
     {
-        return m_folder->filePath(u"program/templates/"_qs + name);
+        QStringList texts;
+        templates.loadTemplates([&texts](const QString &text) { texts.append(text); });
+        return texts;
     }
-    QStringList load(Templates &templates) const;
 
     std::optional<QTemporaryDir> m_folder;
     std::optional<RecordedLink> m_link;
     QByteArray m_home;
 };
-
-void TestTemplates::init()
-{
-    m_folder.emplace();
-    m_home = qgetenv("HOME");
-    qputenv("HOME", QFile::encodeName(m_folder->filePath(u"home"_qs)));
-    QVERIFY(QDir(m_folder->path()).mkpath(u"home"_qs));
-    QVERIFY(TFramework::InitializeLibrary(m_folder->filePath(u"program/tarrow"_qs).toUtf8().constData()));
-    m_link.emplace();
-}
-
-void TestTemplates::cleanup()
-{
-    m_link.reset();
-    TFramework::ShutdownLibrary();
-    qputenv("HOME", m_home);
-    m_folder.reset();
-}
-
-QStringList TestTemplates::load(Templates &templates) const
-{
-    QStringList texts;
-    templates.loadTemplates([&texts](const QString &text) { texts.append(text); });
-    return texts;
-}
-
-void TestTemplates::choosesFolder()
-{
-    writeFile(programFile(u"p.py"_qs), recorder("program", "0"));
-    {
-        Templates templates;
-        QCOMPARE(load(templates), QStringList{u"Loading template p.py..."_qs});
-        QVERIFY(QFileInfo(userFile(QString())).isDir());
-        templates.invokeCustomMessage(0, "empty home");
-    }
-    // One entry of any kind is enough to make it the user's folder.
-    writeFile(userFile(u"notes.txt"_qs), "mine");
-    {
-        Templates templates;
-        QCOMPARE(load(templates), QStringList());
-        templates.invokeCustomMessage(0, "no template");
-    }
-    writeFile(userFile(u"u.py"_qs), recorder("user", "0"));
-    {
-        Templates templates;
-        QCOMPARE(load(templates), QStringList{u"Loading template u.py..."_qs});
-        templates.invokeCustomMessage(0, "own");
-    }
-    QCOMPARE(m_link->payloads(), (QList<QByteArray>{"program:empty home", "user:own"}));
-}
-
-void TestTemplates::testsFileNames()
-{
-    // By the name they were loaded under; those that fail the test are missing.
-    const QHash<QString, QByteArray> names{
-        {u"x.py"_qs, "x"}, {u"notes.cpp"_qs, "notes.cpp"}, {u"a.py.b.py"_qs, "a.b"}, {u"full."_qs, "full."},
-        {u"y"_qs, "y"},    {u"%1.pyp"_qs, "%1p"},          {u"x.py.bak"_qs, {}},     {u"x.pyc"_qs, {}},
-        {u"X.PY"_qs, {}}};
-    QStringList shown;
-    for (auto name = names.begin(); name != names.end(); ++name) {
-        writeFile(userFile(name.key()), "raise OSError");
-        if (!name->isEmpty())
-            shown.append(u"Loading template "_qs + name.key() + u"..."_qs);
-    }
-    QVERIFY(QDir(userFile(QString())).mkdir(u"my"_qs));
-    shown.append(u"Loading template my..."_qs);
-    shown.sort();
-
-    CapturedOutput errors(STDERR_FILENO);
-    Templates templates;
-    QCOMPARE(load(templates), shown);
-    const QByteArray lines = errors.take();
-    QCOMPARE(lines.count('\n'), shown.size());
-    for (auto name = names.begin(); name != names.end(); ++name) {
-        const QByteArray line =
-            "Failed to load template " + *name + " from " + userFile(name.key()).toUtf8() + ": OSError";
-        QVERIFY2(lines.contains(line) != name->isEmpty(), line);
-    }
-}
-
-void TestTemplates::nothingToLoad()
-{
-    CapturedOutput errors(STDERR_FILENO);
-    Templates templates;
-    QCOMPARE(load(templates), QStringList());
-    templates.invokeCustomMessage(12, "nobody");
-    QVERIFY(!Py_IsInitialized());
-    QCOMPARE(errors.take(), QByteArray());
-}
-
-void TestTemplates::invokesByID_data()
-{
-    QTest::addColumn<int>("id");
-    QTest::addColumn<QList<QByteArray>>("received");
-
-    QTest::newRow("global") << 0 << QList<QByteArray>{"global:m"};
-    QTest::newRow("job's own") << 12 << QList<QByteArray>{"global:m", "job:m"};
-    QTest::newRow("unknown") << 13 << QList<QByteArray>{"global:m"};
-    QTest::newRow("below zero") << -3 << QList<QByteArray>{"global:m"};
-}
-
-void TestTemplates::invokesByID()
-{
-    QFETCH(int, id);
-    QFETCH(QList<QByteArray>, received);
-    writeFile(userFile(u"z.py"_qs), recorder("global", "0"));
-    writeFile(userFile(u"j.py"_qs), recorder("job", "12"));
-    writeFile(userFile(u"n.py"_qs), recorder("negative", "-3"));
-    Templates templates;
-    load(templates);
-    templates.invokeCustomMessage(id, "m");
-    QCOMPARE(m_link->payloads(), received);
-}
-
-void TestTemplates::reportsFailures()
-{
-    writeFile(userFile(u"global.py"_qs), recorder("global", "0") + "    raise ValueError('g')\n");
-    writeFile(userFile(u"job.py"_qs),
-              "TEMPLATE_NAME = 'Job kind'\n" + recorder("job", "12")
-                  + "    import sys; message == b'bad' and sys.exit('j')\n");
-    Templates templates;
-    load(templates);
-    CapturedOutput errors(STDERR_FILENO);
-    templates.invokeCustomMessage(12, "bad");
-    const QByteArray text = errors.take();
-    const QByteArray hook = "Failed to invoke onCustomDispatcherMessageToAlertor() on ";
-    const qsizetype job = text.indexOf(hook + "template Job kind (ID 12):Traceback");
-    QVERIFY2(text.startsWith(hook + "global template (ID 0): Traceback"), text);
-    QVERIFY2(job > 0 && text.first(job).endsWith("\nValueError: g\n"), text);
-    QVERIFY2(text.endsWith("\nSystemExit: j\n"), text);
-
-    templates.invokeCustomMessage(12, "good");
-    QVERIFY(!errors.take().contains("ID 12"));
-    QCOMPARE(m_link->payloads(), (QList<QByteArray>{"global:bad", "job:bad", "global:good", "job:good"}));
-}
-
-void TestTemplates::handsOverText()
-{
-    writeFile(userFile(u"x.py"_qs), recorder("x", "0"));
-    Templates templates;
-    load(templates);
-    const char raw[] = {'a', 'b', 'c'};
-    templates.invokeCustomMessage(0, QByteArray::fromRawData(raw, 2));
-    templates.invokeCustomMessage(0, QByteArray("a\0b", 3));
-    templates.invokeCustomMessage(0, QByteArray());
-    QCOMPARE(m_link->payloads(), (QList<QByteArray>{"x:ab", "x:a", "x:"}));
-}
-
-void TestTemplates::endsOnce()
-{
-    writeFile(userFile(u"x.py"_qs),
-              "import atexit\n" + recorder("x", "0") + "atexit.register(alertor.send, 1, b'end')\n");
-    Templates templates;
-    load(templates);
-    templates.shutdown();
-    QVERIFY(!Py_IsInitialized());
-    templates.invokeCustomMessage(0, "late");
-    templates.shutdown();
-    QCOMPARE(m_link->payloads(), QList<QByteArray>{"end"});
-}
-
-void TestTemplates::exampleAnswers()
-{
-    QVERIFY(QDir().mkpath(userFile(QString())));
-    QVERIFY(QFile::copy(QStringLiteral(TARROW_EXAMPLES "/hostreport.py"), userFile(u"hostreport.py"_qs)));
-    Templates templates;
-    load(templates);
-    templates.invokeCustomMessage(12, R"({"ask": "weather"})");
-    QCOMPARE(m_link->messages.size(), 0);
-    templates.invokeCustomMessage(12, R"({"ask": "host", "number": 7})");
-    QCOMPARE(m_link->messages.size(), 1);
-    QCOMPARE(m_link->messages[0].command, 1204U);
-    QCOMPARE(m_link->messages[0].param, 12U);
-    const QJsonObject answer = QJsonDocument::fromJson(m_link->messages[0].payload).object();
-    QCOMPARE(answer[u"question"_qs].toInt(), 7);
-    QCOMPARE(answer[u"host"_qs].toString(), QSysInfo::machineHostName());
-
-    m_link->accepts = false;
-    CapturedOutput errors(STDERR_FILENO);
-    templates.invokeCustomMessage(12, R"({"ask": "host", "number": 8})");
-    QCOMPARE(errors.take(), QByteArray("Host report: no link to the Dispatcher\n"));
-}
 
 QTEST_GUILESS_MAIN(TestTemplates)
 #include "tst_templates.moc"

@@ -52,108 +52,94 @@ class FrameCacheTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void placement_data();
-    void placement();
-    void mainMemory();
-    void shownFrameDies();
-    void windowsShareTotals();
-    void status();
-};
-
-void FrameCacheTest::placement_data()
-{
-    QTest::addColumn<int>("videoBudget");
-    QTest::addColumn<int>("mainBudget");
-    QTest::addColumn<QByteArray>("inserted");
-    QTest::addColumn<QByteArray>("state");
-    QTest::newRow("video memory first") << 24 << 24 << QByteArray("abcd") << QByteArray("aV bV cM dM");
-    QTest::newRow("full: one leaves each") << 24 << 24 << QByteArray("abcde") << QByteArray("bV dM eV");
-    QTest::newRow("budgets are soft") << 13 << 1 << QByteArray("abc") << QByteArray("aV bV cM");
-    QTest::newRow("no budget") << 0 << 0 << QByteArray("abc") << QByteArray("cV");
-    QTest::newRow("replaced is youngest") << 24 << 0 << QByteArray("abac") << QByteArray("aV cV");
-    QTest::newRow("changes memory") << 12 << 24 << QByteArray("abcab") << QByteArray("aV bM cM");
-}
-
-void FrameCacheTest::placement()
-{
-    QFETCH(const int, videoBudget);
-    QFETCH(const int, mainBudget);
-    QFETCH(const QByteArray, inserted);
-    QFETCH(const QByteArray, state);
-    CacheTotals totals{0, 0, std::uint64_t(videoBudget), std::uint64_t(mainBudget)};
-    Window window(totals);
-    for (const char path : inserted) {
-        window.insert(path);
-        window.cache.find("a"); // does not make a younger
-    }
-    QCOMPARE(window.state(), state);
-    QCOMPARE(totals.videoMemoryUsed, std::uint64_t(state.count('V')) * kFrameBytes);
-    QCOMPARE(totals.mainMemoryUsed, std::uint64_t(state.count('M')) * kFrameBytes);
-    QVERIFY(!window.cache.remove("z"));
-    window.cache.clear();
-    QCOMPARE(window.display.textures, 0);
-    QCOMPARE(totals.videoMemoryUsed + totals.mainMemoryUsed, std::uint64_t(0));
-}
-
-/// Textures of a frame in main memory live while it is shown and come back from its own copies.
-void FrameCacheTest::mainMemory()
-{
-    CacheTotals totals{0, 0, 1, 100};
-    Window window(totals);
-    FakeDisplay &display = window.display;
-    ImageFrame &video = window.insert('v');
-    ImageFrame &main = window.insert('m');
-    window.pixels.fill('-');
-
-    display.showFrame(&main);
-    QCOMPARE(display.uploads, 2); // those of its load still stand
-    display.showFrame(&video);
-    QVERIFY(main.textureNames.empty() && video.ownedPlanes.empty());
-    display.showFrame(&main);
-    QCOMPARE(display.uploaded, (QList<QByteArray>{"0123", "456789ab"}));
-    display.showFrame(nullptr);
-    QCOMPARE(display.textures, 2);
-}
-
-/// Whatever takes a frame out of the cache, the display is told while the frame still lives.
-void FrameCacheTest::shownFrameDies()
-{
-    CacheTotals totals{0, 0, 1, 1};
-    Window window(totals);
-    FakeDisplay &display = window.display;
-    window.insert('v');
-    display.showFrame(&window.insert('m'));
-    ImageFrame &evicting = window.insert('a');
-    QVERIFY(!display.shown);
-    display.showFrame(&evicting);
-    display.showFrame(&window.insert('a'));
-    QVERIFY(window.cache.remove("a") && !display.shown);
-    display.showFrame(&window.insert('b'));
-    window.cache.clear();
-    QVERIFY(!display.shown);
-}
-
-void FrameCacheTest::windowsShareTotals()
-{
-    CacheTotals totals{0, 0, 25, 0};
-    Window first(totals);
-    first.insert('a');
+    void placement()
     {
-        Window second(totals);
-        for (const char path : {'b', 'c', 'd'})
-            second.insert(path);
-        QCOMPARE(second.state(), QByteArray("cV dV")); // a window evicts its own frames alone
+        const std::tuple<std::uint64_t, std::uint64_t, QByteArray, QByteArray> cases[] = {
+            {24, 24, "abcd", "aV bV cM dM"}, // video memory first
+            {24, 24, "abcde", "bV dM eV"}, // full: one leaves each
+            {13, 1, "abc", "aV bV cM"}, // budgets are soft
+            {0, 0, "abc", "cV"},
+            {24, 0, "abac", "aV cV"}, // replaced is youngest
+            {12, 24, "abcab", "aV bM cM"}, // changes memory
+        };
+        for (const auto &[videoBudget, mainBudget, inserted, state] : cases) {
+            CacheTotals totals{0, 0, videoBudget, mainBudget};
+            Window window(totals);
+            for (const char path : inserted) {
+                window.insert(path);
+                window.cache.find("a"); // does not make a younger
+            }
+            QCOMPARE(window.state(), state);
+            QCOMPARE(totals.videoMemoryUsed, std::uint64_t(state.count('V')) * kFrameBytes);
+            QCOMPARE(totals.mainMemoryUsed, std::uint64_t(state.count('M')) * kFrameBytes);
+            QVERIFY(!window.cache.remove("z"));
+            window.cache.clear();
+            QCOMPARE(window.display.textures, 0);
+            QCOMPARE(totals.videoMemoryUsed + totals.mainMemoryUsed, std::uint64_t(0));
+        }
     }
-    QCOMPARE(first.state(), QByteArray("aV"));
-    QCOMPARE(totals.videoMemoryUsed, kFrameBytes);
-}
 
-void FrameCacheTest::status()
-{
-    QCOMPARE((CacheTotals{333, 3, 1000, 2}.statusText()),
-             u"VRAM Cache Usage: 33.30% RAM Cache Usage: 150.00% "_qs);
-    QCOMPARE((CacheTotals{0, 1, 0, 0}.statusText()), u"VRAM Cache Usage: 0.00% RAM Cache Usage: 100.00% "_qs);
-}
+    /// Textures of a frame in main memory live while it is shown and come back from its own copies.
+    void mainMemory()
+    {
+        CacheTotals totals{0, 0, 1, 100};
+        Window window(totals);
+        FakeDisplay &display = window.display;
+        ImageFrame &video = window.insert('v');
+        ImageFrame &main = window.insert('m');
+        window.pixels.fill('-');
+
+        display.showFrame(&main);
+        QCOMPARE(display.uploads, 2); // those of its load still stand
+        display.showFrame(&video);
+        QVERIFY(main.textureNames.empty() && video.ownedPlanes.empty());
+        display.showFrame(&main);
+        QCOMPARE(display.uploaded, (QList<QByteArray>{"0123", "456789ab"}));
+        display.showFrame(nullptr);
+        QCOMPARE(display.textures, 2);
+    }
+
+    /// Whatever takes a frame out of the cache, the display is told while the frame still lives.
+    void shownFrameDies()
+    {
+        CacheTotals totals{0, 0, 1, 1};
+        Window window(totals);
+        FakeDisplay &display = window.display;
+        window.insert('v');
+        display.showFrame(&window.insert('m'));
+        ImageFrame &evicting = window.insert('a');
+        QVERIFY(!display.shown);
+        display.showFrame(&evicting);
+        display.showFrame(&window.insert('a'));
+        QVERIFY(window.cache.remove("a") && !display.shown);
+        display.showFrame(&window.insert('b'));
+        window.cache.clear();
+        QVERIFY(!display.shown);
+    }
+
+    void windowsShareTotals()
+    {
+        CacheTotals totals{0, 0, 25, 0};
+        Window first(totals);
+        first.insert('a');
+        {
+            Window second(totals);
+            for (const char path : {'b', 'c', 'd'})
+                second.insert(path);
+            QCOMPARE(second.state(), QByteArray("cV dV")); // a window evicts its own frames alone
+        }
+        QCOMPARE(first.state(), QByteArray("aV"));
+        QCOMPARE(totals.videoMemoryUsed, kFrameBytes);
+    }
+
+    void status()
+    {
+        QCOMPARE((CacheTotals{333, 3, 1000, 2}.statusText()),
+                 u"VRAM Cache Usage: 33.30% RAM Cache Usage: 150.00% "_qs);
+        QCOMPARE((CacheTotals{0, 1, 0, 0}.statusText()),
+                 u"VRAM Cache Usage: 0.00% RAM Cache Usage: 100.00% "_qs);
+    }
+};
 
 QTEST_APPLESS_MAIN(FrameCacheTest)
 #include "tst_framecache.moc"
