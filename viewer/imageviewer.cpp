@@ -331,7 +331,9 @@ void ImageViewer::refreshLayers()
 void ImageViewer::refreshStatus()
 {
     m_ui->infoLabel->setText(m_totals.statusText());
-    m_ui->imageAllocation->update();
+    // A frame that was cached changes nothing in the cache.
+    if (!m_lastLoad.shown() || m_lastLoad.layers)
+        m_ui->imageAllocation->update();
 }
 
 void ImageViewer::refreshMarkings()
