@@ -3,6 +3,7 @@
 #include <QtCore/QPointer>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -26,7 +27,8 @@ int Playback::interval() const
 
 void Playback::setFramesPerSecond(float framesPerSecond)
 {
-    m_framesPerSecond = framesPerSecond > 0.0F ? framesPerSecond : kDefaultFramesPerSecond;
+    m_framesPerSecond =
+        framesPerSecond > 0.0F && std::isfinite(framesPerSecond) ? framesPerSecond : kDefaultFramesPerSecond;
 }
 
 void Playback::start()

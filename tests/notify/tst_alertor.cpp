@@ -1,12 +1,15 @@
 #include "farmpackets.h"
+#include "glpath.h"
 #include "loopbackpeer.h"
 
 #include <alertor.h>
 #include <eventsview.h>
+#include <imageviewer.h>
 #include <notifyevent.h>
 #include <product.h>
 #include <resultopener.h>
 
+#include <QtCore/QScopeGuard>
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QContextMenuEvent>
@@ -19,6 +22,8 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollBar>
+
+#include <utility>
 
 namespace {
 
@@ -389,6 +394,50 @@ private Q_SLOTS:
                  QStringLiteral("Cannot open output folder /no where/$(touch x)"));
     }
 
+    void framesOpenInAViewerEach()
+    {
+        TAppState::instance() = m_openGl;
+        const auto restore = qScopeGuard([] { TAppState::instance() = {}; });
+        QTemporaryDir folder;
+        TClientLib::TJob job = farm::job();
+        job.attributeSetString("frames_mask", folder.filePath(QStringLiteral("a.####.exr")).toStdString());
+        job.setFrameRanges({{5, 9, 1}});
+        TClientLib::TJob still = farm::job();
+        still.setPacketType(2);
+        still.setTasksMask(2);
+        still.attributeSetString("final_filename",
+                                 folder.filePath(QStringLiteral("still.exr")).toStdString());
+        TClientLib::TChunk chunk = farm::chunk();
+        chunk.setFrames(5, 6, 1);
+        QSettings().setValue(QStringLiteral("imageViewer/launchImageViewer"), true);
+        Farm farm;
+        QSettings().clear();
+        QTRY_VERIFY(farm.up());
+        farm.show();
+        const auto viewers = [&farm] { return farm.alertor.findChildren<ImageViewer *>(); };
+
+        farm.send(farm::notification(1, &job));
+        farm.send(farm::notification(2, &job, &chunk));
+        QTRY_COMPARE(farm.alertor.events().size(), 2);
+        QVERIFY(viewers().isEmpty());
+        farm.list()->selectAll();
+        farm.alertor.actOpenFrame();
+        QCOMPARE(viewers().size(), 2);
+        QCOMPARE(viewers()[0]->sequence().frames, (std::set<long>{5, 6, 7, 8, 9}));
+        QCOMPARE(viewers()[0]->marking().chunks().size(), 1U);
+        QCOMPARE(viewers()[1]->sequence().frames, (std::set<long>{5, 6}));
+        qDeleteAll(viewers());
+
+        for (int i = 0; i < 25; ++i)
+            farm.send(farm::notification(1, &still));
+        QTRY_COMPARE(farm.alertor.events().size(), 27);
+        QTRY_COMPARE(viewers().size(), 20); // and no more by themselves
+        QVERIFY(QString::fromStdString(viewers().last()->sequence().framesPath)
+                    .endsWith(QStringLiteral("still.exr")));
+        farm.alertor.openImageViewer();
+        QVERIFY(viewers().last()->sequence().framesPath.empty());
+    }
+
     void theWindowIsManagedAndTakesKeys()
     {
         Farm farm;
@@ -397,10 +446,15 @@ private Q_SLOTS:
         QTRY_VERIFY(farm.alertor.isActiveWindow());
         QVERIFY(farm.alertor.frameGeometry().height() > farm.alertor.height()); // the window manager's frame
     }
+
+private:
+    // What there is; the tests run without, but for the one of the viewer.
+    const TAppState m_openGl = std::exchange(TAppState::instance(), {});
 };
 
 int main(int argc, char *argv[])
 {
+    chooseGlPath();
     QApplication application(argc, argv);
     QCoreApplication::setOrganizationName(product::kOrganisation);
     QCoreApplication::setApplicationName(product::kApplicationName);

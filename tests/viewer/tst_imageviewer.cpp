@@ -75,6 +75,7 @@ private Q_SLOTS:
     void fields();
     void scrubbing();
     void missingAndBrokenFrames();
+    void framesComeAndGoWhilePlaying();
     void layersAndChannels();
     void zoomAndLocks();
     void calibration();
@@ -294,6 +295,28 @@ void ImageViewerTest::missingAndBrokenFrames()
     writeFrame(broken, {32, 16});
     QTRY_VERIFY(m_viewer->lastLoad().shown());
     QCOMPARE(m_viewer->picture().displayedSize(), QSize(32, 16));
+}
+
+void ImageViewerTest::framesComeAndGoWhilePlaying()
+{
+    const CacheTotals budgets = m_totals;
+    m_totals.videoMemoryBudget = m_totals.mainMemoryBudget = 0; // so that files are read again and again
+    open(QStringLiteral("shot.0001.exr"));
+    type("fps", QStringLiteral("1000"));
+    click("playAndStop");
+    for (int round = 0; round < 20; ++round) {
+        const QString file = m_folder->filePath(QStringLiteral("shot.000%1.exr").arg(1 + round % 5));
+        QVERIFY(round % 2 == 0 ? QFile::remove(file) : QFile::resize(file, 300 + 20 * round));
+        const int before = frame();
+        QTRY_VERIFY(frame() != before);
+        QTRY_COMPARE(frame(), before); // once round
+        writeFrame(file, kFrame * (1 + round % 3));
+    }
+    click("playAndStop");
+    m_totals.videoMemoryBudget = budgets.videoMemoryBudget;
+    m_totals.mainMemoryBudget = budgets.mainMemoryBudget;
+    click("reloadButton");
+    QVERIFY(m_viewer->lastLoad().shown());
 }
 
 void ImageViewerTest::layersAndChannels()
