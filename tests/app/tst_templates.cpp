@@ -95,13 +95,24 @@ private Q_SLOTS:
         }
     }
 
-    void nothingToLoad()
+    void startsAndEndsPythonOnce()
     {
         CapturedOutput errors(STDERR_FILENO);
+        {
+            Templates templates;
+            QCOMPARE(load(templates), QStringList());
+            templates.invokeCustomMessage(12, "nobody");
+            QVERIFY(!Py_IsInitialized()); // for nothing
+        }
+        writeFile(userFile(u"x.py"_qs),
+                  "import atexit\n" + recorder("x", "0") + "atexit.register(alertor.send, 1, b'end')\n");
         Templates templates;
-        QCOMPARE(load(templates), QStringList());
-        templates.invokeCustomMessage(12, "nobody");
+        load(templates);
+        templates.shutdown();
         QVERIFY(!Py_IsInitialized());
+        templates.invokeCustomMessage(0, "late");
+        templates.shutdown();
+        QCOMPARE(m_link->payloads(), QList<QByteArray>{"end"});
         QCOMPARE(errors.take(), QByteArray());
     }
 
@@ -146,23 +157,10 @@ private Q_SLOTS:
         Templates templates;
         load(templates);
         const char raw[] = {'a', 'b', 'c'};
-        templates.invokeCustomMessage(0, QByteArray::fromRawData(raw, 2));
-        templates.invokeCustomMessage(0, QByteArray("a\0b", 3));
-        templates.invokeCustomMessage(0, QByteArray());
-        QCOMPARE(m_link->payloads(), (QList<QByteArray>{"x:ab", "x:a", "x:"}));
-    }
-
-    void endsOnce()
-    {
-        writeFile(userFile(u"x.py"_qs),
-                  "import atexit\n" + recorder("x", "0") + "atexit.register(alertor.send, 1, b'end')\n");
-        Templates templates;
-        load(templates);
-        templates.shutdown();
-        QVERIFY(!Py_IsInitialized());
-        templates.invokeCustomMessage(0, "late");
-        templates.shutdown();
-        QCOMPARE(m_link->payloads(), QList<QByteArray>{"end"});
+        for (const QByteArray &text : {QByteArray::fromRawData(raw, 2), QByteArray("a\0b", 3), QByteArray(),
+                                       QByteArray("\xff\xfe \n\x01")})
+            templates.invokeCustomMessage(0, text);
+        QCOMPARE(m_link->payloads(), (QList<QByteArray>{"x:ab", "x:a", "x:", "x:\xff\xfe \n\x01"}));
     }
 
     void exampleAnswers()

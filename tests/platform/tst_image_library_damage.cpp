@@ -42,24 +42,24 @@ qsizetype peakMemory()
     return qsizetype(usage.ru_maxrss) * 1024;
 }
 
-QByteArray bigEndian(std::initializer_list<quint32> values)
+QByteArray bytesOf(std::initializer_list<quint32> values, quint32 (*inOrder)(quint32))
 {
     QByteArray bytes;
     for (const quint32 value : values) {
-        const quint32 stored = qToBigEndian(value);
-        bytes.append(reinterpret_cast<const char *>(&stored), sizeof stored);
+        const quint32 ordered = inOrder(value);
+        bytes.append(reinterpret_cast<const char *>(&ordered), sizeof ordered);
     }
     return bytes;
 }
 
+QByteArray bigEndian(std::initializer_list<quint32> values)
+{
+    return bytesOf(values, &qToBigEndian<quint32>);
+}
+
 QByteArray littleEndian(std::initializer_list<quint32> values)
 {
-    QByteArray bytes;
-    for (const quint32 value : values) {
-        const quint32 stored = qToLittleEndian(value);
-        bytes.append(reinterpret_cast<const char *>(&stored), sizeof stored);
-    }
-    return bytes;
+    return bytesOf(values, &qToLittleEndian<quint32>);
 }
 
 /// Writes over what stands behind a marker text.
@@ -90,12 +90,11 @@ const std::vector<std::pair<QByteArray, QByteArray>> &intactFiles()
             if (writeImage(folder(name), spec))
                 list.emplace_back(name, readBytes(folder(name)));
         }
-        if (writeImage(folder("six.tif"), OIIO::ImageSpec(40, 30, 6, TypeDesc::UINT16)))
-            list.emplace_back("six.tif", readBytes(folder("six.tif")));
-        OIIO::ImageSpec halves(40, 90, 3, TypeDesc::HALF);
-        halves.attribute("compression", "zip");
-        if (writeImage(folder("half.tif"), halves))
-            list.emplace_back("half.tif", readBytes(folder("half.tif")));
+        for (const auto &[name, spec] : {std::pair("six.tif", OIIO::ImageSpec(40, 30, 6, TypeDesc::UINT16)),
+                                         {"half.tif", OIIO::ImageSpec(40, 90, 3, TypeDesc::HALF)}}) {
+            if (writeImage(folder(name), spec))
+                list.emplace_back(name, readBytes(folder(name)));
+        }
         return list;
     }();
     return files;
@@ -107,147 +106,139 @@ class ImageLibraryDamageTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cutFiles_data();
-    void cutFiles();
-    void flippedBytes_data();
-    void flippedBytes();
-    void lyingSizes_data();
-    void lyingSizes();
-    void foreignPixels();
-};
+    void cutFiles_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QByteArray>("bytes");
 
-void ImageLibraryDamageTest::cutFiles_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QByteArray>("bytes");
-
-    QCOMPARE(intactFiles().size(), std::size_t(Imf::NUM_COMPRESSION_METHODS) + 14);
-    for (const auto &[name, bytes] : intactFiles())
-        QTest::newRow(name.constData()) << name << bytes;
-}
-
-void ImageLibraryDamageTest::cutFiles()
-{
-    QFETCH(const QByteArray, name);
-    QFETCH(const QByteArray, bytes);
-    const ImageFolder folder;
-    const std::string path = folder(name.constData());
-    QVERIFY(writeBytes(path, bytes) && loadsAndHolds(path));
-    // The last bytes may be a footer behind all pixels.
-    constexpr qsizetype kFooter = 600;
-    const qsizetype pixelsEnd = name.endsWith("tga") ? bytes.size() - kFooter : bytes.size() - 16;
-    for (qsizetype cut = 0; cut < bytes.size(); cut += cut < 64 ? 1 : 1 + bytes.size() / 97) {
-        QVERIFY(writeBytes(path, bytes.left(cut)));
-        QVERIFY2(!loadsAndHolds(path) || cut > pixelsEnd, qPrintable(QString::number(cut)));
+        QCOMPARE(intactFiles().size(), std::size_t(Imf::NUM_COMPRESSION_METHODS) + 14);
+        for (const auto &[name, bytes] : intactFiles())
+            QTest::newRow(name.constData()) << name << bytes;
     }
-}
 
-void ImageLibraryDamageTest::flippedBytes_data()
-{
-    cutFiles_data();
-}
-
-void ImageLibraryDamageTest::flippedBytes()
-{
-    QFETCH(const QByteArray, name);
-    QFETCH(const QByteArray, bytes);
-    const ImageFolder folder;
-    const std::string path = folder(name.constData());
-    std::mt19937 random(20);
-    const auto below = [&random](qsizetype limit) { return qsizetype(random() % unsigned(limit)); };
-    const qsizetype before = peakMemory();
-    int refused = 0;
-    constexpr int kFiles = 150;
-    for (int i = 0; i < kFiles; ++i) {
-        QByteArray damaged = bytes;
-        for (qsizetype flips = 1 + below(4); flips > 0; --flips) {
-            // Half of them in the header, where they do most.
-            const qsizetype at = below(flips % 2 ? bytes.size() : std::min<qsizetype>(bytes.size(), 500));
-            damaged[at] = flips % 3 ? char(random()) : '\xff';
+    void cutFiles()
+    {
+        QFETCH(const QByteArray, name);
+        QFETCH(const QByteArray, bytes);
+        const ImageFolder folder;
+        const std::string path = folder(name.constData());
+        QVERIFY(writeBytes(path, bytes) && loadsAndHolds(path));
+        // The last bytes may be a footer behind all pixels.
+        constexpr qsizetype kFooter = 600;
+        const qsizetype pixelsEnd = name.endsWith("tga") ? bytes.size() - kFooter : bytes.size() - 16;
+        for (qsizetype cut = 0; cut < bytes.size(); cut += cut < 64 ? 1 : 1 + bytes.size() / 97) {
+            QVERIFY(writeBytes(path, bytes.left(cut)));
+            QVERIFY2(!loadsAndHolds(path) || cut > pixelsEnd, qPrintable(QString::number(cut)));
         }
-        QVERIFY(writeBytes(path, damaged));
-        refused += loadsAndHolds(path) ? 0 : 1;
     }
-    QVERIFY(refused > 0);
-    QVERIFY2(peakMemory() - before < 700 * kMegabyte,
-             qPrintable(QString::number((peakMemory() - before) / kMegabyte)));
-}
 
-void ImageLibraryDamageTest::lyingSizes_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QByteArray>("bytes");
+    void flippedBytes_data() { cutFiles_data(); }
 
-    std::map<QByteArray, QByteArray> files(intactFiles().begin(), intactFiles().end());
-    const auto row = [](const QByteArray &what, const char *name, const QByteArray &bytes) {
-        QTest::newRow(what.constData()) << QByteArray(name) << bytes;
-    };
-    for (const quint32 side : {30000U, 0x3ffffffeU, 0x7fffffffU}) {
-        const QByteArray text = QByteArray::number(side);
-        const auto exr = [&](const char *window, const QByteArray &box) {
-            const QByteArray marker = QByteArray(window) + '\0' + QByteArray("box2i\0\x10\0\0\0", 10);
-            for (const char *file : {"compression2.exr", "compression3.exr"})
-                QTest::addRow("%s %s in %s", window, box.toHex().constData(), file)
-                    << QByteArray(file) << patched(files[file], marker, 0, box);
+    void flippedBytes()
+    {
+        QFETCH(const QByteArray, name);
+        QFETCH(const QByteArray, bytes);
+        const ImageFolder folder;
+        const std::string path = folder(name.constData());
+        std::mt19937 random(20);
+        const auto below = [&random](qsizetype limit) { return qsizetype(random() % unsigned(limit)); };
+        const qsizetype before = peakMemory();
+        int refused = 0;
+        constexpr int kFiles = 150;
+        for (int i = 0; i < kFiles; ++i) {
+            QByteArray damaged = bytes;
+            for (qsizetype flips = 1 + below(4); flips > 0; --flips) {
+                // Half of them in the header, where they do most.
+                const qsizetype at = below(flips % 2 ? bytes.size() : std::min<qsizetype>(bytes.size(), 500));
+                damaged[at] = flips % 3 ? char(random()) : '\xff';
+            }
+            QVERIFY(writeBytes(path, damaged));
+            refused += loadsAndHolds(path) ? 0 : 1;
+        }
+        QVERIFY(refused > 0);
+        QVERIFY2(peakMemory() - before < 700 * kMegabyte,
+                 qPrintable(QString::number((peakMemory() - before) / kMegabyte)));
+    }
+
+    void lyingSizes_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QByteArray>("bytes");
+
+        std::map<QByteArray, QByteArray> files(intactFiles().begin(), intactFiles().end());
+        const auto row = [](const QByteArray &what, const char *name, const QByteArray &bytes) {
+            QTest::newRow(what.constData()) << QByteArray(name) << bytes;
         };
-        exr("dataWindow", littleEndian({0, 0, side, side}));
-        exr("dataWindow", littleEndian({0, 0, side, 29}));
-        exr("dataWindow", littleEndian({0, 0, 39, side}));
-        exr("displayWindow", littleEndian({0, 0, side, side}));
-        row("tiles of " + text, "a.exr",
-            patched(files["compression3.exr"], QByteArray("tiledesc\0\x9\0\0\0", 13), 0,
-                    littleEndian({side, side})));
-        QByteArray header = "IHDR" + bigEndian({side, side}) + QByteArray("\x8\2\0\0\0", 5);
-        header += bigEndian(
-            {quint32(crc32(0, reinterpret_cast<const Bytef *>(header.constData()), uInt(header.size())))});
-        row("PNG of " + text, "a.png", patched(files["a.png"], "IHDR", -4, header));
-        row("BMP of " + text, "a.bmp", patched(files["a.bmp"], "BM", 16, littleEndian({side, side})));
-        row("DPX of " + text, "a.dpx", QByteArray(files["a.dpx"]).replace(772, 8, bigEndian({side, side})));
-        row("HDR of " + text, "a.hdr",
-            QByteArray(files["a.hdr"]).replace("-Y 30 +X 40", "-Y " + text + " +X " + text));
-        row("PNM of " + text, "a.ppm", QByteArray(files["a.ppm"]).replace("40 30", text + ' ' + text));
-        row("PSD of " + text, "a.psd",
-            QByteArray("8BPS\0\2\0\0\0\0\0\0\0\3", 14) + bigEndian({side, side}) + QByteArray("\0\x8\0\3", 4)
-                + QByteArray(1000, '\0'));
+        for (const quint32 side : {30000U, 0x3ffffffeU, 0x7fffffffU}) {
+            const QByteArray text = QByteArray::number(side);
+            const auto exr = [&](const char *window, const QByteArray &box) {
+                const QByteArray marker = QByteArray(window) + '\0' + QByteArray("box2i\0\x10\0\0\0", 10);
+                for (const char *file : {"compression2.exr", "compression3.exr"})
+                    QTest::addRow("%s %s in %s", window, box.toHex().constData(), file)
+                        << QByteArray(file) << patched(files[file], marker, 0, box);
+            };
+            exr("dataWindow", littleEndian({0, 0, side, side}));
+            exr("dataWindow", littleEndian({0, 0, side, 29}));
+            exr("dataWindow", littleEndian({0, 0, 39, side}));
+            exr("displayWindow", littleEndian({0, 0, side, side}));
+            row("tiles of " + text, "a.exr",
+                patched(files["compression3.exr"], QByteArray("tiledesc\0\x9\0\0\0", 13), 0,
+                        littleEndian({side, side})));
+            QByteArray header = "IHDR" + bigEndian({side, side}) + QByteArray("\x8\2\0\0\0", 5);
+            header += bigEndian({quint32(
+                crc32(0, reinterpret_cast<const Bytef *>(header.constData()), uInt(header.size())))});
+            row("PNG of " + text, "a.png", patched(files["a.png"], "IHDR", -4, header));
+            row("BMP of " + text, "a.bmp", patched(files["a.bmp"], "BM", 16, littleEndian({side, side})));
+            row("DPX of " + text, "a.dpx",
+                QByteArray(files["a.dpx"]).replace(772, 8, bigEndian({side, side})));
+            row("HDR of " + text, "a.hdr",
+                QByteArray(files["a.hdr"]).replace("-Y 30 +X 40", "-Y " + text + " +X " + text));
+            row("PNM of " + text, "a.ppm", QByteArray(files["a.ppm"]).replace("40 30", text + ' ' + text));
+            row("PSD of " + text, "a.psd",
+                QByteArray("8BPS\0\2\0\0\0\0\0\0\0\3", 14) + bigEndian({side, side})
+                    + QByteArray("\0\x8\0\3", 4) + QByteArray(1000, '\0'));
+        }
+        const QByteArray wide("\xff\xff\xff\xff", 4);
+        row("GIF", "a.gif", QByteArray(files["a.gif"]).replace(6, 4, wide));
+        row("Targa", "a.tga", QByteArray(files["a.tga"]).replace(12, 4, wide));
+        row("SGI", "a.sgi", QByteArray(files["a.sgi"]).replace(6, 4, wide));
+        row("JPEG", "a.jpg",
+            patched(files["a.jpg"], QByteArray("\xff\xc0\0\x11\x8", 5), 0,
+                    QByteArray("\xff\xdc\xff\xdc", 4)));
+        row("RLA", "a.rla",
+            QByteArray(files["a.rla"]).replace(8, 8, QByteArray("\0\0\x7f\xfe\0\0\x7f\xfe", 8)));
     }
-    const QByteArray wide("\xff\xff\xff\xff", 4);
-    row("GIF", "a.gif", QByteArray(files["a.gif"]).replace(6, 4, wide));
-    row("Targa", "a.tga", QByteArray(files["a.tga"]).replace(12, 4, wide));
-    row("SGI", "a.sgi", QByteArray(files["a.sgi"]).replace(6, 4, wide));
-    row("JPEG", "a.jpg",
-        patched(files["a.jpg"], QByteArray("\xff\xc0\0\x11\x8", 5), 0, QByteArray("\xff\xdc\xff\xdc", 4)));
-    row("RLA", "a.rla", QByteArray(files["a.rla"]).replace(8, 8, QByteArray("\0\0\x7f\xfe\0\0\x7f\xfe", 8)));
-}
 
-void ImageLibraryDamageTest::lyingSizes()
-{
-    QFETCH(const QByteArray, name);
-    QFETCH(const QByteArray, bytes);
-    const ImageFolder folder;
-    QVERIFY(!bytes.isEmpty());
-    QVERIFY(writeBytes(folder(name.constData()), bytes));
-    const qsizetype before = peakMemory();
-    QVERIFY(!loadsAndHolds(folder(name.constData())));
-    QVERIFY(peakMemory() - before < 200 * kMegabyte);
-}
-
-/// Lines that unpack to less than the header says are not filled up with what stood in memory.
-void ImageLibraryDamageTest::foreignPixels()
-{
-    const ImageFolder folder;
-    for (const Imf::Compression compression :
-         {Imf::NO_COMPRESSION, Imf::RLE_COMPRESSION, Imf::ZIPS_COMPRESSION, Imf::ZIP_COMPRESSION,
-          Imf::PXR24_COMPRESSION, Imf::B44_COMPRESSION, Imf::DWAA_COMPRESSION}) {
-        ExrSpec spec;
-        spec.compression = compression;
-        writeExr(folder("a.exr"), spec);
-        const QByteArray wider =
-            patched(readBytes(folder("a.exr")), QByteArray("dataWindow\0box2i\0\x10\0\0\0", 21), 0,
-                    littleEndian({0, 0, 47, 29}));
-        QVERIFY(!wider.isEmpty() && writeBytes(folder("a.exr"), wider));
-        QVERIFY2(!loadsAndHolds(folder("a.exr")), qPrintable(QString::number(compression)));
+    void lyingSizes()
+    {
+        QFETCH(const QByteArray, name);
+        QFETCH(const QByteArray, bytes);
+        const ImageFolder folder;
+        QVERIFY(!bytes.isEmpty());
+        QVERIFY(writeBytes(folder(name.constData()), bytes));
+        const qsizetype before = peakMemory();
+        QVERIFY(!loadsAndHolds(folder(name.constData())));
+        QVERIFY(peakMemory() - before < 200 * kMegabyte);
     }
-}
+
+    /// Lines that unpack to less than the header says are not filled up with what stood in memory.
+    void foreignPixels()
+    {
+        const ImageFolder folder;
+        for (const Imf::Compression compression :
+             {Imf::NO_COMPRESSION, Imf::RLE_COMPRESSION, Imf::ZIPS_COMPRESSION, Imf::ZIP_COMPRESSION,
+              Imf::PXR24_COMPRESSION, Imf::B44_COMPRESSION, Imf::DWAA_COMPRESSION}) {
+            ExrSpec spec;
+            spec.compression = compression;
+            writeExr(folder("a.exr"), spec);
+            const QByteArray wider =
+                patched(readBytes(folder("a.exr")), QByteArray("dataWindow\0box2i\0\x10\0\0\0", 21), 0,
+                        littleEndian({0, 0, 47, 29}));
+            QVERIFY(!wider.isEmpty() && writeBytes(folder("a.exr"), wider));
+            QVERIFY2(!loadsAndHolds(folder("a.exr")), qPrintable(QString::number(compression)));
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(ImageLibraryDamageTest)
 #include "tst_image_library_damage.moc"

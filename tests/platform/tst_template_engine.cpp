@@ -114,11 +114,8 @@ private Q_SLOTS:
 
     void interfaceVersions()
     {
-        QVERIFY(!TManager::initializePythonPath(2, "alertor"));
-        QVERIFY(!TManager::getUniqueClass(2));
+        QVERIFY(!TManager::initializePythonPath(2, "alertor") && !TManager::getUniqueClass(2));
         QVERIFY(!TManager::initializePythonPath(1, nullptr));
-        const Engine engine;
-        QCOMPARE(TManager::getUniqueClass(1), engine.manager);
     }
 
     void refusedSources_data()
@@ -270,19 +267,6 @@ def onCustomDispatcherMessageToAlertor(message):
         QCOMPARE(link.payloads(), (QList<QByteArray>{"next", "next"}));
     }
 
-    void messageBytes()
-    {
-        Engine engine;
-        RecordedLink link;
-        QVERIFY(engine.load(u"x.py"_qs,
-                            hook("assert type(message) is bytes\nalertor.send(1, message + b'\\0|')")));
-        for (const char *message : {"", "text\0behind", "\xff\xfe \n\x01"})
-            QCOMPARE(engine.call(12, message), std::nullopt);
-        QCOMPARE(link.payloads(),
-                 (QList<QByteArray>{QByteArray("\0|", 2), QByteArray("text\0|", 6),
-                                    QByteArray("\xff\xfe \n\x01\0|", 7)}));
-    }
-
     void sending()
     {
         Engine engine;
@@ -350,20 +334,6 @@ def onCustomDispatcherMessageToAlertor(message):
         QCOMPARE(link.payloads(), (QList<QByteArray>{"shown", "reader gone", "closed", "closed"}));
     }
 
-    void exceptionNobodyTakes()
-    {
-        Engine engine;
-        QVERIFY(engine.load(u"x.py"_qs, hook("raise ValueError")));
-        TTemplate *called = engine.manager->getTemplate(12);
-        engine.manager->acquirePython();
-        QVERIFY_THROWS_EXCEPTION(THookFailure, called->onCustomDispatcherMessageToAlertor(""));
-        engine.manager->releasePython();
-        engine.manager->acquirePython();
-        QCOMPARE(engine.manager->getPyExceptionStr(), std::string());
-        engine.manager->releasePython();
-        TTemplate::Release(called);
-    }
-
     void lockIsFreeBetweenCalls()
     {
         Engine engine;
@@ -387,7 +357,6 @@ def onCustomDispatcherMessageToAlertor(message):
             kept = engine.manager->getTemplate(12);
         }
         QVERIFY(!Py_IsInitialized());
-        QCOMPARE(kept->getID(), 12);
         kept->onCustomDispatcherMessageToAlertor("too late");
         TTemplate::Release(kept);
         TTemplate::Release(nullptr);
