@@ -1,5 +1,5 @@
-#include "../ui/modals.h"
 #include "glpath.h"
+#include "modals.h"
 
 #include <cachetotals.h>
 #include <calibrationpanel.h>
