@@ -182,9 +182,27 @@ void QSkinnedDialog::applyBorderWidth()
 
 void QSkinnedDialog::setVisible(bool visible)
 {
-    if (visible)
+    if (visible && !isVisible()) {
         buildFrame();
+        approachParent();
+    }
     QDialog::setVisible(visible);
+}
+
+// A native window made on the first screen and moved onto one of another scale would be scaled twice: where QDialog
+// will centre it on its parent's, it is to be made there.
+void QSkinnedDialog::approachParent()
+{
+    if (testAttribute(Qt::WA_Moved) || internalWinId() || !parentWidget())
+        return;
+    if (!testAttribute(Qt::WA_Resized)) {
+        adjustSize();
+        setAttribute(Qt::WA_Resized, false);
+    }
+    QRect place = rect();
+    place.moveCenter(parentWidget()->window()->geometry().center());
+    move(place.topLeft());
+    setAttribute(Qt::WA_Moved, false);
 }
 
 void QSkinnedDialog::mayClose()

@@ -65,6 +65,7 @@ private:
     void buildHeader();
     void placeBorders(QGridLayout *grid);
     void applyBorderWidth();
+    void approachParent();
     void escapePressed(QKeyEvent *event);
     void settlePosition();
     QPushButton *addHeaderButton(const QString &image, const QString &name);

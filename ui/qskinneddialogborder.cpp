@@ -3,6 +3,7 @@
 #include "qskinneddialog.h"
 #include "windowplacement.h"
 
+#include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWindow>
 #include <QtWidgets/QStyleOption>
@@ -70,13 +71,14 @@ void QSkinnedDialogBorder::mousePressEvent(QMouseEvent *event)
     }
     m_dragging = true;
     m_pressedAt = event->globalPosition().toPoint();
+    m_pressedInside = event->scenePosition().toPoint();
     m_pressedGeometry = m_dialog->geometry();
 }
 
 void QSkinnedDialogBorder::mouseMoveEvent(QMouseEvent *event)
 {
     if (m_dragging)
-        dragTo(event->globalPosition().toPoint());
+        dragTo(event->globalPosition().toPoint(), event->scenePosition().toPoint());
 }
 
 void QSkinnedDialogBorder::mouseReleaseEvent(QMouseEvent *event)
@@ -87,19 +89,23 @@ void QSkinnedDialogBorder::mouseReleaseEvent(QMouseEvent *event)
         event->ignore();
 }
 
-void QSkinnedDialogBorder::dragTo(QPoint globalPosition)
+void QSkinnedDialogBorder::dragTo(QPoint globalPosition, QPoint inside)
 {
     const QPoint moved = globalPosition - m_pressedAt;
+    // Global positions jump where another scale begins. The right and the bottom edge can follow the mouse from the
+    // dialog's corner, which they leave where it is.
+    const bool strays = QGuiApplication::screenAt(globalPosition) != m_dialog->screen();
+    const QPoint gained = strays ? inside - m_pressedInside : moved;
     const Qt::Edges edges = roleOf(m_position).edges;
     QRect wanted = m_pressedGeometry;
     if (edges & Qt::LeftEdge)
         wanted.setLeft(wanted.left() + moved.x());
     if (edges & Qt::RightEdge)
-        wanted.setRight(wanted.right() + moved.x());
+        wanted.setRight(wanted.right() + gained.x());
     if (edges & Qt::TopEdge)
         wanted.setTop(wanted.top() + moved.y());
     if (edges & Qt::BottomEdge)
-        wanted.setBottom(wanted.bottom() + moved.y());
+        wanted.setBottom(wanted.bottom() + gained.y());
 
     // The size that the dialog can take decides the position, so that the edges not dragged stay where they were at
     // the press, however late the window system's answers to earlier moves arrive.

@@ -27,11 +27,12 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void dragTo(QPoint globalPosition);
+    void dragTo(QPoint globalPosition, QPoint inside);
 
     const Position m_position;
     QSkinnedDialog *const m_dialog;
     bool m_dragging = false;
     QPoint m_pressedAt;
+    QPoint m_pressedInside;
     QRect m_pressedGeometry;
 };
