@@ -3,6 +3,7 @@
 #include <qtarrowstyle.h>
 
 #include <QtCore/QFile>
+#include <QtCore/QResource>
 #include <QtGui/QFontDatabase>
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
@@ -24,8 +25,9 @@ void Look::installFonts()
     for (const char *name :
          {"Lato-Bla.ttf", "Lato-BlaIta.ttf", "Lato-Bol.ttf", "Lato-BolIta.ttf", "Lato-Hai.ttf",
           "Lato-HaiIta.ttf", "Lato-Lig.ttf", "Lato-LigIta.ttf", "Lato-Reg.ttf", "Lato-RegIta.ttf"}) {
-        const QString resource = QStringLiteral(":/Fonts/Resources/fonts/") + QLatin1String(name);
-        if (QFontDatabase::addApplicationFont(resource) == -1)
+        // Where it lies: a copy of all ten would take longer than installing them.
+        const QResource font(QStringLiteral(":/Fonts/Resources/fonts/") + QLatin1String(name));
+        if (QFontDatabase::addApplicationFontFromData(font.uncompressedData()) == -1)
             std::fprintf(stderr, "Failed to install font resource %s\n", name);
     }
 }
