@@ -14,6 +14,7 @@
 #include <QtCore/QFile>
 
 #include <array>
+#include <bit>
 #include <cmath>
 #include <limits>
 
@@ -21,40 +22,13 @@ using namespace TImageLibrary;
 
 namespace {
 
-/// The pixels of one channel in a data window, as the file is to store them.
-struct ChannelPixels {
-    std::vector<char> bytes;
-    Imf::Slice slice;
-
-    ChannelPixels(const ExrSpec &spec, int index)
-    {
-        const ExrChannelSpec &channel = spec.channels[std::size_t(index)];
-        const int step = channel.sampling;
-        const std::size_t size = channel.type == Imf::HALF ? 2 : 4;
-        const int columns = (spec.data.max.x - spec.data.min.x) / step + 1;
-        for (int y = spec.data.min.y; y <= spec.data.max.y; y += step) {
-            for (int x = spec.data.min.x; x <= spec.data.max.x; x += step)
-                append(testValue(x, y, index), channel.type);
-        }
-        const std::size_t row = size * std::size_t(columns);
-        const std::intptr_t origin =
-            spec.data.min.y / step * std::intptr_t(row) + spec.data.min.x / step * std::intptr_t(size);
-        slice = Imf::Slice(channel.type,
-                           reinterpret_cast<char *>(reinterpret_cast<std::intptr_t>(bytes.data()) - origin),
-                           size, row, step, step);
-    }
-
-    void append(float value, Imf::PixelType type)
-    {
-        const half asHalf(value);
-        const auto asInteger = static_cast<unsigned>(std::lround(value));
-        const void *data = &value;
-        if (type != Imf::FLOAT)
-            data = type == Imf::HALF ? static_cast<const void *>(&asHalf) : &asInteger;
-        const auto *first = static_cast<const char *>(data);
-        bytes.insert(bytes.end(), first, first + (type == Imf::HALF ? 2 : 4));
-    }
-};
+/// A sample as the file stores it; a half takes the first bytes.
+quint32 sampleBits(float value, Imf::PixelType type)
+{
+    if (type == Imf::UINT)
+        return quint32(std::lround(value));
+    return type == Imf::HALF ? half(value).bits() : std::bit_cast<quint32>(value);
+}
 
 Imf::Header headerOf(const ExrSpec &spec)
 {
@@ -72,11 +46,17 @@ Imf::Header headerOf(const ExrSpec &spec)
 
 void writePart(Imf::MultiPartOutputFile &file, int part, const ExrSpec &spec)
 {
-    std::vector<ChannelPixels> pixels;
+    std::vector<std::vector<quint32>> planes(spec.channels.size());
+    const Imath::Box2i &data = spec.data;
     Imf::FrameBuffer buffer;
-    for (int i = 0; i < int(spec.channels.size()); ++i) {
-        pixels.emplace_back(spec, i);
-        buffer.insert(spec.channels[std::size_t(i)].name, pixels.back().slice);
+    for (std::size_t i = 0; i < planes.size(); ++i) {
+        const auto &[name, type, step] = spec.channels[i];
+        for (int y = data.min.y; y <= data.max.y; y += step) {
+            for (int x = data.min.x; x <= data.max.x; x += step)
+                planes[i].push_back(sampleBits(testValue(x, y, int(i)), type));
+        }
+        const auto columns = std::size_t((data.max.x - data.min.x) / step + 1);
+        buffer.insert(name, Imf::Slice::Make(type, planes[i].data(), data, 4, 4 * columns, step, step));
     }
     const int rows = spec.data.max.y - spec.data.min.y + 1;
     if (spec.tiled) {
