@@ -6,7 +6,6 @@
 #include <table.h>
 #include <tappstate.h>
 
-#include <QtCore/QDir>
 #include <QtCore/QStandardPaths>
 #include <QtGui/QOpenGLContext>
 #include <QtGui/QSurfaceFormat>

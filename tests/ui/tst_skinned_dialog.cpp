@@ -9,10 +9,8 @@
 #include <QtCore/QSettings>
 #include <QtGui/QAccessible>
 #include <QtGui/QScreen>
-#include <QtGui/QWindow>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
