@@ -219,8 +219,7 @@ private Q_SLOTS:
         const QString key = u"network/authenticationPassword"_s;
         Settings settings;
         settings.authenticationPassword = u"hunter2"_s;
-        QVERIFY(saveSettings(settings));
-        QVERIFY(!readFile().contains("hunter2"));
+        QVERIFY(saveSettings(settings) && !readFile().contains("hunter2"));
         QCOMPARE(cipher().decipher(QSettings().value(key).toString()), u"hunter2"_s);
         QCOMPARE(loadSettings(), settings);
 

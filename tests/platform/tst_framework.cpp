@@ -161,8 +161,7 @@ private Q_SLOTS:
         QVERIFY(listed("/proc/self/exe").empty());
         for (const std::string &path : {std::string(), folder + "/none/deeper", folder + std::string("\0", 1),
                                         std::string(5000, 'x')}) {
-            QVERIFY(listed(path).empty());
-            QVERIFY(!TFileSystem::CheckFile(path));
+            QVERIFY(listed(path).empty() && !TFileSystem::CheckFile(path));
             QVERIFY(!TFileSystem::MakeDirectory(path, false));
         }
     }

@@ -252,8 +252,7 @@ private Q_SLOTS:
             std::set<std::string> names = {"left over"};
             QVERIFY2(!IImageCore::LoadLayers(folder(name).c_str(), "png", names) && names.empty(), name);
         }
-        QVERIFY(!IImageCore::Probe(""));
-        QVERIFY(!IImageCore::Probe(nullptr));
+        QVERIFY(!IImageCore::Probe("") && !IImageCore::Probe(nullptr));
     }
 
     void extensions()

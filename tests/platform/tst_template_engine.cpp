@@ -147,8 +147,7 @@ private Q_SLOTS:
             line.startsWith("Failed to load template bad from " + engine.path(u"bad.py"_qs).toUtf8() + ": "),
             line);
         QVERIFY2(line.contains(report) && line.indexOf('\n') == line.size() - 1, line);
-        QVERIFY(engine.load(u"good.py"_qs, hook("pass")));
-        QVERIFY(!engine.call(12));
+        QVERIFY(engine.load(u"good.py"_qs, hook("pass")) && !engine.call(12));
         QCOMPARE(errors.take(), QByteArray());
     }
 
@@ -166,9 +165,7 @@ private Q_SLOTS:
             QCOMPARE(errors.take().count('\n'), 1);
         }
         // None of them was worth an interpreter.
-        QVERIFY(!Py_IsInitialized());
-        QVERIFY(engine.load(u"empty.py"_qs, QByteArray()));
-        QVERIFY(Py_IsInitialized());
+        QVERIFY(!Py_IsInitialized() && engine.load(u"empty.py"_qs, QByteArray()) && Py_IsInitialized());
     }
 
     void idsAndNames()
