@@ -115,7 +115,6 @@ void ImageViewer::prepareControls()
 void ImageViewer::prepareKeys()
 {
     // Keys that no field wants move through the frames, wherever the focus is.
-    content()->setFocusPolicy(Qt::ClickFocus);
     content()->installEventFilter(this);
     picture().installEventFilter(this);
     for (QAbstractButton *button : content()->findChildren<QAbstractButton *>())
