@@ -27,8 +27,16 @@ class Dialog : public QSkinnedDialog {
 public:
     using QSkinnedDialog::QSkinnedDialog;
     int closes = 0;
+    QRect madeAt;
 
 protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() == QEvent::WinIdChange && internalWinId())
+            madeAt = geometry();
+        return QSkinnedDialog::event(event);
+    }
+
     void closeEvent(QCloseEvent *event) override
     {
         ++closes;
@@ -114,6 +122,19 @@ private Q_SLOTS:
         QTRY_VERIFY(xuser::isManagedAndActive(parent));
         dialog.show();
         QTRY_VERIFY(xuser::isManagedAndActive(dialog));
+    }
+
+    // Moved there later, from a screen of another scale, it would be scaled twice.
+    void nativeWindowIsMadeOverTheParent()
+    {
+        QWidget parent;
+        parent.setGeometry(kPlace);
+        parent.show();
+        Dialog dialog(&parent);
+        dialog.resize(300, 200);
+        dialog.show();
+        QCOMPARE(dialog.madeAt, QRect(QPoint(250, 200), QSize(300, 200)));
+        QTRY_VERIFY(kPlace.contains(xuser::geometry(dialog).center()));
     }
 
     void borderDragResizes_data()
