@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 using TFramework::TFileSystem;
 
@@ -50,14 +51,14 @@ std::string firstImageOf(const std::string &folder)
 {
     std::string single;
     for (const std::string &name : namesIn(folder)) {
-        const std::string path = TFileSystem::JoinPath(folder, name);
+        std::string path = TFileSystem::JoinPath(folder, name);
         std::int32_t frame = 0;
         const bool isNumbered = !TFileSystem::GetSequenceMask(path, true, frame).empty();
         if ((!isNumbered && !single.empty()) || !isImage(path))
             continue;
         if (isNumbered)
             return path;
-        single = path;
+        single = std::move(path);
     }
     return single;
 }

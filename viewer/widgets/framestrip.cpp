@@ -19,6 +19,7 @@ QSize FrameStrip::sizeHint() const
     return {0, 20};
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the viewer hands its set over
 void FrameStrip::setFrames(std::set<long> _frames)
 {
     m_scale.setFrames(_frames);

@@ -56,6 +56,7 @@ size_t imageTimeline::getLength() const
     return frames.size() < 2 ? 1 : static_cast<size_t>(std::int64_t{frames.back()} - frames.front() + 1);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the viewer hands its set over
 void imageTimeline::setFrames(std::set<long> _frames)
 {
     m_scale.setFrames(_frames);
