@@ -1,6 +1,7 @@
 """One client for each user, whatever became of the first; a second start wakes it up and ends."""
 
 import os
+import pwd
 import signal
 import tempfile
 
@@ -83,12 +84,28 @@ def users_do_not_meet():
         theirs.quit()
 
 
+def laid_folder_is_not_entered():
+    """Without a runtime folder of the session: what another laid where it would be made must not be trusted."""
+    with tempfile.TemporaryDirectory() as shared:
+        theirs = os.path.join(shared, "theirs")
+        os.mkdir(theirs, 0o700)
+        os.symlink(theirs, os.path.join(shared, "runtime-" + pwd.getpwuid(os.geteuid()).pw_name))
+        without = {"XDG_RUNTIME_DIR": "", "TMPDIR": shared}
+        first = alertor(**without)
+        put_away()
+        second_start(**without)
+        woken_up()
+        equal(os.listdir(theirs), [], "what was left in the folder of another")
+        first.quit()
+
+
 def test():
     killed_leaves_nothing()
     stopped_does_not_hold()
     starting_hears_of_it()
     of_two_at_once_one_remains()
     users_do_not_meet()
+    laid_folder_is_not_entered()
 
 
 run(test)
