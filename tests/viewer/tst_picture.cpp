@@ -1,5 +1,6 @@
 #include "glpath.h"
 #include "picturereference.h"
+#include "table.h"
 
 #include <hud.h>
 #include <imagewidget.h>
@@ -13,8 +14,8 @@
 #include <QtWidgets/QApplication>
 
 #include <functional>
+#include <map>
 #include <tuple>
-#include <utility>
 
 using Change = std::function<void(imageWidget &)>;
 using Spoiling = std::function<void(ImageFrame &)>;
@@ -37,7 +38,7 @@ ImageFrame stored(GLenum internalFormat, GLenum pixelType, int components, int t
     return form;
 }
 
-ImageFrame flagged(bool isYCbCr, bool premultiplied, bool yFlipped = true)
+ImageFrame flagged(bool isYCbCr = false, bool premultiplied = false, bool yFlipped = true)
 {
     ImageFrame form = stored(GL_RGBA32F, GL_FLOAT, 4);
     form.isYCbCr = isYCbCr;
@@ -54,41 +55,33 @@ QString difference(const QImage &picture, const PictureSetup &setup, const Pictu
     const auto expected = drawReference(setup, shown);
     const QImage stored = picture.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
     for (int i = 0; i < stored.width() * stored.height(); ++i) {
-        const auto &colour = expected[static_cast<std::size_t>(i)];
+        const auto &colour = expected[std::size_t(i)];
         const int x = i % stored.width();
         const int y = i / stored.width();
-        for (std::size_t c = 0; colour && c < 3; ++c) {
-            const double found = stored.constScanLine(y)[4 * x + int(c)];
-            const double wanted = 255.0 * (*colour)[c];
-            if (!(std::abs(found - wanted) <= kTolerance)) {
-                return QStringLiteral("channel %1 at %2, %3 is %4, not %5")
-                    .arg(c)
-                    .arg(x)
-                    .arg(y)
-                    .arg(found)
-                    .arg(wanted);
-            }
+        for (int c = 0; colour && c < 3; ++c) {
+            const double found = stored.constScanLine(y)[4 * x + c];
+            const double wanted = 255.0 * (*colour)[std::size_t(c)];
+            if (!(std::abs(found - wanted) <= kTolerance))
+                return QString::asprintf("channel %d at %d, %d is %g, not %g", c, x, y, found, wanted);
         }
     }
     return {};
 }
 
-/// First and last row of each line of a white text on black.
-QList<QPair<int, int>> textLines(const QImage &picture)
+/// The rows that end the lines of a white text on black.
+QList<int> lineEnds(const QImage &picture)
 {
-    QList<QPair<int, int>> lines;
+    QList<int> ends;
     bool within = false;
     for (int y = 0; y < picture.height(); ++y) {
         bool lit = false;
         for (int x = 0; x < picture.width(); ++x)
             lit = lit || qGray(picture.pixel(x, y)) > 100;
-        if (lit && !within)
-            lines.append({y, y});
-        else if (lit)
-            lines.last().second = y;
+        if (within && !lit)
+            ends.append(y);
         within = lit;
     }
-    return lines;
+    return ends;
 }
 
 class Paints final : public QObject {
@@ -104,9 +97,11 @@ public:
 
 } // namespace
 
-/// Runs on the path that main() is told of.
 class PictureTest final : public QObject {
     Q_OBJECT
+
+public:
+    static void initMain() { chooseGlPath(); }
 
 private Q_SLOTS:
     void init()
@@ -126,14 +121,67 @@ private Q_SLOTS:
     }
     void cleanup()
     {
-        QCOMPARE(glError(), 0U);
+        m_picture->makeCurrent();
+        QCOMPARE(m_picture->context()->functions()->glGetError(), 0U);
         // The rows of the pipeline share one: making it takes longest, and what it keeps between paints shows.
         if (qstrcmp(QTest::currentTestFunction(), "pipeline") != 0)
             m_window.reset();
         QCOMPARE(imageWidget::liveTextures(), 0);
     }
 
-    void pipeline_data();
+    void pipeline_data()
+    {
+        QTest::addColumn<PictureLook>("look");
+        QTest::addColumn<ImageFrame>("form");
+        const ImageFrame plain = flagged();
+        const std::tuple<const char *, float Calibration::*, std::vector<float>> sliders[] = {
+            {"gamma", &Calibration::gamma, {0.0F, 0.45F, 1.0F, 2.2F, 4.0F}},
+            {"brightness", &Calibration::brightness, {0.0F, 0.7F, 1.3F, 2.0F}},
+            {"saturation", &Calibration::saturation, {0.0F, 0.5F, 1.5F, 2.0F}},
+            {"contrast", &Calibration::contrast, {-1.0F, 0.0F, 0.6F, 1.4F, 2.0F}},
+            {"level input min", &Calibration::levelInputMin, {-1.0F, -0.3F, 0.3F, 1.0F}},
+            // Nothing is defined for 0, which divides.
+            {"level input max", &Calibration::levelInputMax, {-1.0F, -0.4F, 0.1F, 0.6F}},
+            {"level output min", &Calibration::levelOutputMin, {-1.0F, -0.3F, 0.3F, 1.0F}},
+            {"level output max", &Calibration::levelOutputMax, {-1.0F, 0.0F, 0.6F}},
+            {"soft clip", &Calibration::softClip, {0.0F, 0.2F, 0.7F, 1.5F, 2.0F}},
+        };
+        for (const auto &[name, value, settings] : sliders) {
+            for (const float setting : settings) {
+                PictureLook look;
+                look.calibration.*value = setting;
+                QTest::addRow("%s %g", name, double(setting)) << look << plain;
+            }
+        }
+        for (const float gamma : {0.1F, 1.8F, 2.2F, 4.0F}) // nor for 0 here
+            QTest::addRow("source gamma %g", double(gamma)) << PictureLook{{}, gamma} << plain;
+        for (const int mode : {-1, 1, 2, 3, 4, 5, 6, 1000}) {
+            for (const bool alphaOn : {false, true})
+                QTest::addRow("mode %d, alpha %d", mode, alphaOn)
+                    << PictureLook{{}, 1.0F, mode, true, alphaOn} << plain;
+        }
+        const Calibration all{0.6F, 1.1F, 1.4F, 0.8F, 0.1F, 0.9F, 0.05F, 0.95F, 0.3F};
+        for (const bool alphaOn : {false, true}) {
+            for (int flags = 0; flags < 8; ++flags)
+                QTest::addRow("all at once, alpha %d, flags %d", alphaOn, flags)
+                    << PictureLook{all, 2.2F, 0, true, alphaOn} << flagged(flags & 1, flags & 2, flags & 4);
+        }
+
+        // The format of each of several textures, then those of one texture by its samples.
+        const std::tuple<const char *, GLenum, GLenum, std::map<int, GLenum>> formats[] = {
+            {"8 bit", GL_UNSIGNED_BYTE, GL_R8, {{1, GL_LUMINANCE}, {3, GL_RGB}, {4, GL_RGBA}}},
+            {"16 bit", GL_UNSIGNED_SHORT, GL_R16F, {{4, GL_RGBA16}}},
+            {"half", GL_HALF_FLOAT, GL_R16F, {{1, GL_R16F}, {3, GL_RGB16F}, {4, GL_RGBA16F}}},
+            {"float", GL_FLOAT, GL_R32F, {{1, GL_R32F}, {3, GL_RGB32F}, {4, GL_RGBA32F}}}};
+        for (const auto &[name, type, plane, packed] : formats) {
+            for (const auto &[samples, format] : packed)
+                QTest::addRow("%s, %d samples", name, samples)
+                    << PictureLook() << stored(format, type, samples);
+            for (const int count : {2, 3, 4})
+                QTest::addRow("%s, %d textures", name, count)
+                    << PictureLook() << stored(plane, type, 1, count);
+        }
+    }
     void pipeline()
     {
         QFETCH(PictureLook, look);
@@ -142,7 +190,19 @@ private Q_SLOTS:
         compare({look, kPlace.size()}, shown.get());
     }
 
-    void geometry_data();
+    void geometry_data()
+    {
+        addTable<QSize, float, QPoint, bool>({"frame", "zoom", "pan", "checkerOn"},
+                                             {{"no frame, larger", {}, 4.0F, {37, 81}, true},
+                                              {"no frame, smaller", {}, 0.25F, {}, true},
+                                              {"half a pixel aside", {101, 80}, 1.0F, {}, true},
+                                              {"no checker", {100, 80}, 1.0F, {}, false},
+                                              {"larger, panned", {640, 500}, 1.0F, {33, 71}, true},
+                                              {"zoomed in, panned", {320, 250}, 2.0F, {127, 49}, true},
+                                              {"zoomed in, smaller", {40, 20}, 3.0F, {}, true},
+                                              {"zoomed out", {400, 240}, 0.5F, {}, true},
+                                              {"wider only", {640, 60}, 1.0F, {55, 0}, true}});
+    }
     void geometry()
     {
         QFETCH(QSize, frame);
@@ -150,7 +210,7 @@ private Q_SLOTS:
         QFETCH(QPoint, pan);
         QFETCH(bool, checkerOn);
         m_picture->setGeometry(0, 0, 240, 180);
-        const auto shown = frame.isEmpty() ? nullptr : show(stored(GL_RGBA32F, GL_FLOAT, 4), frame);
+        const auto shown = frame.isEmpty() ? nullptr : show(flagged(), frame);
         PictureSetup setup{{}, QSize(240, 180) * m_picture->devicePixelRatioF(), zoom, pan};
         setup.look.checkerOn = checkerOn;
         compare(setup, shown.get());
@@ -158,7 +218,19 @@ private Q_SLOTS:
         QCOMPARE(m_picture->pan(), pan);
     }
 
-    void unusableFrames_data();
+    void unusableFrames_data()
+    {
+        addTable<Spoiling, std::size_t>(
+            {"spoil", "textures"},
+            {{"no planes", [](ImageFrame &frame) { frame.planes.clear(); }, 0},
+             {"no type", [](ImageFrame &frame) { frame.pixelType = 0; }, 0},
+             {"no format", [](ImageFrame &frame) { frame.internalFormat = 0; }, 0},
+             {"short planes", [](ImageFrame &frame) { frame.ownedPlanes.assign(4, {std::byte()}); }, 0},
+             {"negative size", [](ImageFrame &frame) { frame.planeSizes[0].width = -1; }, 0},
+             {"more planes than textures", [](ImageFrame &frame) { frame.textureCount = 3; }, 4},
+             {"more textures than planes", [](ImageFrame &frame) { frame.textureCount = 100000; }, 4},
+             {"a narrower plane", [](ImageFrame &frame) { frame.planeSizes[1].width = 8; }, 4}});
+    }
     void unusableFrames()
     {
         QFETCH(Spoiling, spoil);
@@ -170,7 +242,7 @@ private Q_SLOTS:
 
     void pictureIsGrabbedAtItsOwnPixels()
     {
-        const auto shown = show(flagged(false, false), QSize(90, 70));
+        const auto shown = show(flagged(), QSize(90, 70));
         m_picture->setZoomFactor(2.0F);
         m_picture->setPan(QPoint(30, 20));
         m_picture->setHudOn(true);
@@ -196,11 +268,26 @@ private Q_SLOTS:
         QCOMPARE(imageWidget::liveTextures(), 4);
     }
 
-    void changesAloneRepaint_data();
+    void changesAloneRepaint_data()
+    {
+        addTable<Change>(
+            {"change"},
+            {{"calibration", [](imageWidget &picture) { picture.setCalibration({.gamma = 2.0F}); }},
+             {"source gamma", [](imageWidget &picture) { picture.setSourceGamma(2.0F); }},
+             {"channel", [](imageWidget &picture) { picture.setChannelViewMode(2); }},
+             {"checker", [](imageWidget &picture) { picture.setCheckerOn(false); }},
+             {"alpha", [](imageWidget &picture) { picture.setAlphaOn(false); }},
+             {"HUD", [](imageWidget &picture) { picture.setHudOn(false); }},
+             {"HUD's colour", [](imageWidget &picture) { picture.setHudColor(Qt::cyan); }},
+             {"background", [](imageWidget &picture) { picture.setBackgroundColor(Qt::cyan); }},
+             {"zoom", [](imageWidget &picture) { picture.setZoomFactor(3.0F); }},
+             {"pan", [](imageWidget &picture) { picture.setPan(QPoint(5, 6)); }},
+             {"frame", [](imageWidget &picture) { picture.showFrame(nullptr); }}});
+    }
     void changesAloneRepaint()
     {
         QFETCH(Change, change);
-        const auto shown = show(stored(GL_RGBA32F, GL_FLOAT, 4), kLargePlace.size());
+        const auto shown = show(flagged(), kLargePlace.size());
         m_picture->setHudOn(true);
         Paints paints(m_picture);
         paintWhatIsOwed();
@@ -212,8 +299,70 @@ private Q_SLOTS:
         }
     }
 
-    void hudStandsWhereItsPathPutsIt();
-    void unchangedHudKeepsItsTexture();
+    void hudStandsWhereItsPathPutsIt()
+    {
+        m_picture->setGeometry(kLargePlace);
+        const auto shown = show(flagged(), QSize(500, 400));
+        m_picture->setChannelViewMode(-1);
+        m_picture->setCheckerOn(false);
+        QVERIFY(lineEnds(m_picture->grabFramebuffer()).isEmpty());
+        m_picture->setHudColor(Qt::white);
+        m_picture->setHudOn(true);
+        const QImage still = m_picture->grabFramebuffer();
+        const auto ends = lineEnds(still);
+        QCOMPARE(ends.size(), 7);
+        m_picture->setPan(QPoint(7, 5));
+        const QImage panned = m_picture->grabFramebuffer();
+        if (TAppState::instance().gl32Supported) {
+            QVERIFY(ends[0] > 25 && ends[0] < 33);
+            QCOMPARE(panned.copy(0, 0, 390, 290), still.copy(7, 5, 390, 290));
+            return;
+        }
+        // Lines without a descender end at their baselines.
+        QCOMPARE(QList({ends[0], ends[1], ends[6]}), QList({25, 47, 160}));
+        QCOMPARE(panned, still);
+        shown->frame.pixelType = 0;
+        QCOMPARE(hudLines(shown->frame).value(3), QStringLiteral("Pixel format: Unknown"));
+    }
+    void unchangedHudKeepsItsTexture()
+    {
+        m_picture->setGeometry(kLargePlace);
+        const auto shown = show(flagged(), QSize(500, 400));
+        const auto textures = [this] {
+            m_picture->makeCurrent();
+            QSet<GLuint> names;
+            for (GLuint name = 1; name < 100000; ++name) {
+                if (m_picture->context()->functions()->glIsTexture(name))
+                    names.insert(name);
+            }
+            return names;
+        };
+        m_picture->grabFramebuffer();
+        const QSet<GLuint> before = textures();
+        m_picture->setHudColor(Qt::white);
+        m_picture->setHudOn(true);
+        const QImage white = m_picture->grabFramebuffer();
+        if (!TAppState::instance().gl32Supported) {
+            QCOMPARE(imageWidget::liveTextures(), 1);
+            return;
+        }
+        const QSet<GLuint> made = textures() - before;
+        QCOMPARE(made.size(), 1);
+        QCOMPARE(imageWidget::liveTextures(), 2);
+
+        // What is put into the texture shows for as long as the HUD does not make another.
+        const std::uint32_t green = 0xff00ff00U;
+        QOpenGLFunctions *gl = m_picture->context()->functions();
+        gl->glBindTexture(GL_TEXTURE_2D, *made.begin());
+        gl->glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, 1, 1, 0, GL_RGBA, GL_UNSIGNED_BYTE, &green);
+        gl->glBindTexture(GL_TEXTURE_2D, 0);
+        QCOMPARE(m_picture->grabFramebuffer().pixelColor(16, 16), QColor(Qt::green));
+        m_picture->setHudColor(Qt::red);
+        QVERIFY(m_picture->grabFramebuffer().pixelColor(16, 16) != QColor(Qt::green));
+        m_picture->setHudColor(Qt::white);
+        QCOMPARE(m_picture->grabFramebuffer(), white);
+        QCOMPARE(imageWidget::liveTextures(), 2);
+    }
 
 private:
     std::unique_ptr<PictureFrame> show(ImageFrame form, QSize size, const Spoiling &spoil = {})
@@ -250,224 +399,10 @@ private:
         QTRY_COMPARE(paints.count, 1);
     }
 
-    GLenum glError() const
-    {
-        m_picture->makeCurrent();
-        return m_picture->context()->functions()->glGetError();
-    }
-
     std::unique_ptr<QWidget> m_window;
     QWidget *m_beside = nullptr;
     imageWidget *m_picture = nullptr;
 };
 
-void PictureTest::pipeline_data()
-{
-    QTest::addColumn<PictureLook>("look");
-    QTest::addColumn<ImageFrame>("form");
-    const ImageFrame plain = flagged(false, false);
-
-    struct Slider {
-        const char *name;
-        float Calibration::*value;
-        std::vector<float> settings;
-    };
-    const Slider sliders[] = {
-        {"gamma", &Calibration::gamma, {0.0F, 0.45F, 1.0F, 2.2F, 4.0F}},
-        {"brightness", &Calibration::brightness, {0.0F, 0.7F, 1.3F, 2.0F}},
-        {"saturation", &Calibration::saturation, {0.0F, 0.5F, 1.5F, 2.0F}},
-        {"contrast", &Calibration::contrast, {-1.0F, 0.0F, 0.6F, 1.4F, 2.0F}},
-        {"level input min", &Calibration::levelInputMin, {-1.0F, -0.3F, 0.3F, 1.0F}},
-        // Nothing is defined for 0, which divides.
-        {"level input max", &Calibration::levelInputMax, {-1.0F, -0.4F, 0.1F, 0.6F}},
-        {"level output min", &Calibration::levelOutputMin, {-1.0F, -0.3F, 0.3F, 1.0F}},
-        {"level output max", &Calibration::levelOutputMax, {-1.0F, 0.0F, 0.6F}},
-        {"soft clip", &Calibration::softClip, {0.0F, 0.2F, 0.7F, 1.5F, 2.0F}},
-    };
-    for (const Slider &slider : sliders) {
-        for (const float setting : slider.settings) {
-            PictureLook look;
-            look.calibration.*slider.value = setting;
-            QTest::addRow("%s %g", slider.name, double(setting)) << look << plain;
-        }
-    }
-    for (const float gamma : {0.1F, 1.8F, 2.2F, 4.0F}) // nor for 0 here
-        QTest::addRow("source gamma %g", double(gamma))
-            << PictureLook{.calibration = {}, .sourceGamma = gamma} << plain;
-    for (const int mode : {-1, 1, 2, 3, 4, 5, 6, 1000}) {
-        for (const bool alphaOn : {false, true})
-            QTest::addRow("mode %d, alpha %d", mode, alphaOn)
-                << PictureLook{.calibration = {}, .channelViewMode = mode, .alphaOn = alphaOn} << plain;
-    }
-    const Calibration all{0.6F, 1.1F, 1.4F, 0.8F, 0.1F, 0.9F, 0.05F, 0.95F, 0.3F};
-    for (const bool alphaOn : {false, true}) {
-        for (int flags = 0; flags < 8; ++flags)
-            QTest::addRow("all at once, alpha %d, flags %d", alphaOn, flags)
-                << PictureLook{.calibration = all, .sourceGamma = 2.2F, .alphaOn = alphaOn}
-                << flagged(flags & 1, flags & 2, flags & 4);
-    }
-
-    struct Format {
-        const char *name;
-        GLenum pixelType;
-        GLenum single[3]; // of 1, 3 and 4 samples
-        GLenum multiple;
-    };
-    const Format formats[] = {
-        {"8 bit", GL_UNSIGNED_BYTE, {GL_LUMINANCE, GL_RGB, GL_RGBA}, GL_R8},
-        {"16 bit", GL_UNSIGNED_SHORT, {0, 0, GL_RGBA16}, GL_R16F},
-        {"half", GL_HALF_FLOAT, {GL_R16F, GL_RGB16F, GL_RGBA16F}, GL_R16F},
-        {"float", GL_FLOAT, {GL_R32F, GL_RGB32F, GL_RGBA32F}, GL_R32F},
-    };
-    for (const auto &[name, pixelType, single, multiple] : formats) {
-        for (const int count : {1, 2, 3, 4}) {
-            const GLenum packed = count == 2 ? 0 : single[count == 1 ? 0 : count - 2];
-            if (packed != 0)
-                QTest::addRow("%s, %d samples", name, count)
-                    << PictureLook() << stored(packed, pixelType, count);
-            if (count > 1)
-                QTest::addRow("%s, %d textures", name, count)
-                    << PictureLook() << stored(multiple, pixelType, 1, count);
-        }
-    }
-}
-
-void PictureTest::geometry_data()
-{
-    QTest::addColumn<QSize>("frame");
-    QTest::addColumn<float>("zoom");
-    QTest::addColumn<QPoint>("pan");
-    QTest::addColumn<bool>("checkerOn");
-    QTest::newRow("no frame, larger") << QSize() << 4.0F << QPoint(37, 81) << true;
-    QTest::newRow("no frame, smaller") << QSize() << 0.25F << QPoint() << true;
-    QTest::newRow("in the middle") << QSize(100, 80) << 1.0F << QPoint() << true;
-    QTest::newRow("half a pixel aside") << QSize(101, 80) << 1.0F << QPoint() << true;
-    QTest::newRow("no checker") << QSize(100, 80) << 1.0F << QPoint() << false;
-    QTest::newRow("larger, at its corner") << QSize(640, 500) << 1.0F << QPoint() << true;
-    QTest::newRow("larger, panned") << QSize(640, 500) << 1.0F << QPoint(33, 71) << true;
-    QTest::newRow("zoomed in") << QSize(40, 20) << 3.0F << QPoint() << true;
-    QTest::newRow("zoomed in, panned") << QSize(320, 250) << 2.0F << QPoint(127, 49) << true;
-    QTest::newRow("zoomed out") << QSize(400, 240) << 0.5F << QPoint() << true;
-    QTest::newRow("wider only") << QSize(640, 60) << 1.0F << QPoint(55, 0) << true;
-}
-
-void PictureTest::unusableFrames_data()
-{
-    QTest::addColumn<Spoiling>("spoil");
-    QTest::addColumn<std::size_t>("textures");
-    const std::tuple<const char *, std::size_t, Spoiling> rows[] = {
-        {"no planes", 0, [](ImageFrame &frame) { frame.planes.clear(); }},
-        {"no type", 0, [](ImageFrame &frame) { frame.pixelType = 0; }},
-        {"no format", 0, [](ImageFrame &frame) { frame.internalFormat = 0; }},
-        {"short planes", 0,
-         [](ImageFrame &frame) { frame.ownedPlanes.assign(4, std::vector<std::byte>(1)); }},
-        {"negative size", 0, [](ImageFrame &frame) { frame.planeSizes.front().width = -1; }},
-        {"more planes than textures", 4, [](ImageFrame &frame) { frame.textureCount = 3; }},
-        {"more textures than planes", 4, [](ImageFrame &frame) { frame.textureCount = 100000; }},
-        {"smaller planes", 4,
-         [](ImageFrame &frame) {
-             frame.planeSizes[1] = frame.planeSizes[2] = {8, 5};
-         }},
-    };
-    for (const auto &[name, textures, spoil] : rows)
-        QTest::newRow(name) << spoil << textures;
-}
-
-void PictureTest::changesAloneRepaint_data()
-{
-    QTest::addColumn<Change>("change");
-    const std::pair<const char *, Change> rows[] = {
-        {"calibration", [](imageWidget &picture) { picture.setCalibration({.gamma = 2.0F}); }},
-        {"source gamma", [](imageWidget &picture) { picture.setSourceGamma(2.0F); }},
-        {"channel", [](imageWidget &picture) { picture.setChannelViewMode(2); }},
-        {"checker", [](imageWidget &picture) { picture.setCheckerOn(false); }},
-        {"alpha", [](imageWidget &picture) { picture.setAlphaOn(false); }},
-        {"HUD", [](imageWidget &picture) { picture.setHudOn(false); }},
-        {"HUD's colour", [](imageWidget &picture) { picture.setHudColor(Qt::cyan); }},
-        {"background", [](imageWidget &picture) { picture.setBackgroundColor(Qt::cyan); }},
-        {"zoom", [](imageWidget &picture) { picture.setZoomFactor(3.0F); }},
-        {"pan", [](imageWidget &picture) { picture.setPan(QPoint(5, 6)); }},
-        {"frame", [](imageWidget &picture) { picture.showFrame(nullptr); }},
-    };
-    for (const auto &[name, change] : rows)
-        QTest::newRow(name) << change;
-}
-
-void PictureTest::hudStandsWhereItsPathPutsIt()
-{
-    m_picture->setGeometry(kLargePlace);
-    const auto shown = show(stored(GL_RGBA32F, GL_FLOAT, 4), QSize(500, 400));
-    m_picture->setChannelViewMode(-1);
-    m_picture->setCheckerOn(false);
-    QVERIFY(textLines(m_picture->grabFramebuffer()).isEmpty());
-    m_picture->setHudColor(Qt::white);
-    m_picture->setHudOn(true);
-    const QImage still = m_picture->grabFramebuffer();
-    const auto lines = textLines(still);
-    QCOMPARE(lines.size(), 7);
-    m_picture->setPan(QPoint(7, 5));
-    const QImage panned = m_picture->grabFramebuffer();
-    if (TAppState::instance().gl32Supported) {
-        QVERIFY(lines.first().first >= 15 && lines.first().first < 22);
-        QCOMPARE(panned.copy(0, 0, 390, 290), still.copy(7, 5, 390, 290));
-        return;
-    }
-    // Lines without a descender end at their baselines.
-    QCOMPARE(lines[0].second + 1, 25);
-    QCOMPARE(lines[1].second + 1, 47);
-    QCOMPARE(lines[6].second + 1, 160);
-    QCOMPARE(panned, still);
-
-    shown->frame.pixelType = 0;
-    QCOMPARE(hudLines(shown->frame).value(3), QStringLiteral("Pixel format: Unknown"));
-}
-
-void PictureTest::unchangedHudKeepsItsTexture()
-{
-    m_picture->setGeometry(kLargePlace);
-    const auto shown = show(stored(GL_RGBA32F, GL_FLOAT, 4), QSize(500, 400));
-    const auto textures = [this] {
-        m_picture->makeCurrent();
-        QSet<GLuint> names;
-        for (GLuint name = 1; name < 100000; ++name) {
-            if (m_picture->context()->functions()->glIsTexture(name))
-                names.insert(name);
-        }
-        return names;
-    };
-    m_picture->grabFramebuffer();
-    const QSet<GLuint> before = textures();
-    m_picture->setHudColor(Qt::white);
-    m_picture->setHudOn(true);
-    const QImage white = m_picture->grabFramebuffer();
-    if (!TAppState::instance().gl32Supported) {
-        QCOMPARE(imageWidget::liveTextures(), 1);
-        return;
-    }
-    const QSet<GLuint> made = textures() - before;
-    QCOMPARE(made.size(), 1);
-    QCOMPARE(imageWidget::liveTextures(), 2);
-
-    // What is put into the texture shows for as long as the HUD does not make another.
-    const std::uint32_t green = 0xff00ff00U;
-    QOpenGLFunctions *gl = m_picture->context()->functions();
-    gl->glBindTexture(GL_TEXTURE_2D, *made.begin());
-    gl->glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, 1, 1, 0, GL_RGBA, GL_UNSIGNED_BYTE, &green);
-    gl->glBindTexture(GL_TEXTURE_2D, 0);
-    QCOMPARE(m_picture->grabFramebuffer().pixelColor(16, 16), QColor(Qt::green));
-    m_picture->setHudColor(Qt::red);
-    QVERIFY(m_picture->grabFramebuffer().pixelColor(16, 16) != QColor(Qt::green));
-    m_picture->setHudColor(Qt::white);
-    QCOMPARE(m_picture->grabFramebuffer(), white);
-    QCOMPARE(imageWidget::liveTextures(), 2);
-}
-
-int main(int argc, char **argv)
-{
-    chooseGlPath();
-    const QApplication application(argc, argv);
-    PictureTest test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_MAIN(PictureTest)
 #include "tst_picture.moc"
