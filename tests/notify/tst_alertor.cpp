@@ -1,6 +1,7 @@
 #include "farmpackets.h"
 #include "glpath.h"
 #include "loopbackpeer.h"
+#include "modals.h"
 
 #include <alertor.h>
 #include <eventsview.h>
@@ -13,8 +14,6 @@
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QContextMenuEvent>
-#include <QtTest/QSignalSpy>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -24,6 +23,8 @@
 #include <QtWidgets/QScrollBar>
 
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -39,18 +40,20 @@ struct Farm {
         alertor.setCommandLineOverrides(overrides);
         alertor.loadSettings();
         alertor.checkLocalConnection();
+        QTRY_VERIFY(!peer.received().isEmpty());
     }
     void send(const NotificationPacket &packet) { peer.send(farm::frame(packet)); }
     /// One event of each of these job statuses.
     void sendJobs(const QList<int> &statuses)
     {
+        const qsizetype before = alertor.events().size();
         for (const int status : statuses) {
             const TClientLib::TJob job = farm::job(status);
             send(farm::notification(1, &job));
         }
+        QTRY_COMPARE(alertor.events().size(), before + statuses.size());
     }
-    bool up() const { return !peer.received().isEmpty(); }
-    EventsView *list() const { return alertor.findChild<EventsView *>(QStringLiteral("treeWidget")); }
+    EventsView *list() const { return alertor.findChild<EventsView *>(u"treeWidget"_s); }
     QMenu *menu(const char *name) const { return alertor.findChild<QMenu *>(QLatin1String(name)); }
     void show()
     {
@@ -64,28 +67,30 @@ struct Farm {
     }
 };
 
-QStringList textsOf(const QMenu &menu)
+/// All entries, or those that can be chosen.
+QString textsOf(const QMenu *menu, bool enabled = false)
 {
     QStringList texts;
-    for (const QAction *action : menu.actions())
-        texts += action->isSeparator() ? QStringLiteral("-") : action->text();
-    return texts;
-}
-
-QStringList enabledIn(const QMenu &menu)
-{
-    QStringList texts;
-    for (const QAction *action : menu.actions()) {
-        if (!action->isSeparator() && action->isEnabled())
-            texts += action->text();
+    for (const QAction *action : menu->actions()) {
+        if (!enabled || (action->isEnabled() && !action->isSeparator()))
+            texts += action->isSeparator() ? u"-"_s : action->text();
     }
-    return texts;
+    return texts.join(u'|');
 }
 
 } // namespace
 
 class TestAlertor final : public QObject {
     Q_OBJECT
+
+public:
+    static void initMain()
+    {
+        chooseGlPath();
+        QCoreApplication::setOrganizationName(product::kOrganisation);
+        QCoreApplication::setApplicationName(product::kApplicationName);
+        QApplication::setQuitOnLastWindowClosed(false);
+    }
 
 private Q_SLOTS:
     void slotsStandInOrder()
@@ -94,52 +99,50 @@ private Q_SLOTS:
         QByteArrayList names;
         for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
             names += meta.method(i).name();
-        QCOMPARE(
-            names.join(' '),
-            "checkLocalConnection socketStateChanged socketError socketConnected socketDisconnected "
-            "socketMessage "
-            "openConnection closeConnection updateIcon processCommand actAckEvents actRemoveSelected "
-            "actRemoveAll "
-            "actAckSelection actOpenOutput actOpenFrame actOpenFrameExternally onQuit actIsSilent popupMenu "
-            "minimize restore openImageViewer CreateImageViewer iconActivated handleMessage configure "
-            "timerEvent");
+        QCOMPARE(names.join(' '),
+                 "checkLocalConnection socketStateChanged socketError socketConnected socketDisconnected "
+                 "socketMessage openConnection closeConnection updateIcon processCommand actAckEvents "
+                 "actRemoveSelected actRemoveAll actAckSelection actOpenOutput actOpenFrame "
+                 "actOpenFrameExternally onQuit actIsSilent popupMenu minimize restore openImageViewer "
+                 "CreateImageViewer iconActivated handleMessage configure timerEvent");
     }
 
-    void theWindowIsAsDrawn()
+    void theWindowIsAsDrawnAndManaged()
     {
         Farm farm;
-        QCOMPARE(farm.alertor.objectName(), QStringLiteral("AlertorClass"));
-        QCOMPARE(farm.alertor.windowTitle(), QStringLiteral("Tarrow Alertor"));
+        QCOMPARE(farm.alertor.objectName(), u"AlertorClass"_s);
+        QCOMPARE(farm.alertor.windowTitle(), u"Tarrow Alertor"_s);
         QCOMPARE(farm.alertor.size(), QSize(600, 400));
         QCOMPARE(farm.list()->header()->sectionSize(EventsModel::Acknowledged), 30);
         QCOMPARE(int(farm.alertor.windowFlags() & 0x40400), 0x40400);
-        QCOMPARE(textsOf(*farm.menu("trayMenu")).join(QLatin1Char('|')),
-                 QStringLiteral("&Restore|-|&Acknowledge pending events|&Silent|-|&Open images "
-                                "viewer|-|&Configure|&Quit"));
-        QCOMPARE(textsOf(*farm.menu("listMenu")).join(QLatin1Char('|')),
-                 QStringLiteral("&Acknowledge selection|-|&Open output folder|-|Open &frame(s)|Open frame(s) "
-                                "exter&nally|-|&Remove selection\tDEL|Remove all"));
+        QCOMPARE(
+            textsOf(farm.menu("trayMenu")),
+            u"&Restore|-|&Acknowledge pending events|&Silent|-|&Open images viewer|-|&Configure|&Quit"_s);
+        QCOMPARE(textsOf(farm.menu("listMenu")),
+                 u"&Acknowledge selection|-|&Open output folder|-|Open &frame(s)|Open frame(s) exter&nally|-|"
+                 "&Remove selection\tDEL|Remove all"_s);
+        farm.show();
+        farm.alertor.activateWindow();
+        QTRY_VERIFY(farm.alertor.isActiveWindow());
+        QVERIFY(farm.alertor.frameGeometry().height() > farm.alertor.height()); // the window manager's frame
     }
 
     void eventsComeInAndFiltersHold()
     {
-        QSettings().setValue(QStringLiteral("behaviours/filterServiceActivities"), false);
+        QSettings().setValue(u"behaviours/filterServiceActivities"_s, false);
         Farm farm;
         QSettings().clear();
-        QTRY_VERIFY(farm.up());
         farm.send(farm::notification(512)); // dropped
         farm.peer.send(encodeFrame(FrameHeader::Plain, CMD_IGNORED, "x")
                        + encodeFrame(FrameHeader::Plain, 999, "x")
                        + encodeFrame(FrameHeader::Plain, CMD_NOTIFICATION, "m\n1\n2\nu\n\n"));
         farm.sendJobs({1024, 1});
-        QTRY_COMPARE(farm.alertor.events().size(), 2);
         QCOMPARE(farm.alertor.events().pendingLevel(), SuccessPending);
     }
 
     void refusalShowsOneBoxAndStops()
     {
         Farm farm;
-        QTRY_VERIFY(farm.up());
         const QByteArray refusal = encodeFrame(FrameHeader::Plain, CMD_LOGIN_DENIED, {});
         farm.peer.send(refusal + refusal + farm::frame(farm::notification(512)));
         QTRY_VERIFY(QApplication::activeModalWidget());
@@ -147,8 +150,8 @@ private Q_SLOTS:
         QVERIFY(box);
         QCOMPARE(box->windowTitle(), product::kProductTitle);
         QCOMPARE(box->text(),
-                 QStringLiteral("Dispatcher denied Alertor connection. Please double check the login and "
-                                "password in the Alertor applet configuration dialog!"));
+                 u"Dispatcher denied Alertor connection. Please double check the login and password in the "
+                 "Alertor applet configuration dialog!"_s);
         QCOMPARE(farm.alertor.events().size(), 1); // the rest of the drain was not held up
         QTest::keyClick(box, Qt::Key_Return);
         QTRY_VERIFY(!QApplication::activeModalWidget());
@@ -164,7 +167,6 @@ private Q_SLOTS:
         farm.alertor.setCustomMessageHandler([&](int id, const QByteArray &message) {
             received.append({id, message});
         });
-        QTRY_VERIFY(farm.up());
         farm.peer.send(
             encodeFrame(FrameHeader::Plain, CMD_CUSTOM_MESSAGE, "12")
             + encodeFrame(FrameHeader::Plain, CMD_CUSTOM_MESSAGE, encodeCustomMessage({12, "hello"})));
@@ -178,7 +180,6 @@ private Q_SLOTS:
     void listMenuFollowsTheSelection()
     {
         Farm farm;
-        QTRY_VERIFY(farm.up());
         farm.show();
         QTRY_VERIFY(farm.alertor.isActiveWindow());
         TClientLib::TJob job = farm::job();
@@ -190,27 +191,26 @@ private Q_SLOTS:
             row < 0 ? farm.list()->clearSelection() : farm.click(row);
             QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, QCursor::pos());
             QApplication::sendEvent(farm.list()->viewport(), &event);
-            const QStringList enabled = enabledIn(*farm.menu("listMenu"));
+            const QString enabled = textsOf(farm.menu("listMenu"), true);
             QTest::keyClick(farm.menu("listMenu"), Qt::Key_Escape);
-            return enabled.join(QLatin1Char('|'));
+            return enabled;
         };
-        QCOMPARE(openedOn(-1), QStringLiteral("Remove all"));
-        QCOMPARE(openedOn(1), QStringLiteral("&Acknowledge selection|&Remove selection\tDEL|Remove all"));
-        QCOMPARE(openedOn(0),
-                 QStringLiteral("&Acknowledge selection|&Open output folder|Open &frame(s)|Open frame(s) "
-                                "exter&nally|&Remove selection\tDEL|Remove all"));
+        QCOMPARE(openedOn(-1), u"Remove all"_s);
+        QCOMPARE(openedOn(1), u"&Acknowledge selection|&Remove selection\tDEL|Remove all"_s);
+        QCOMPARE(
+            openedOn(0),
+            u"&Acknowledge selection|&Open output folder|Open &frame(s)|Open frame(s) exter&nally|&Remove "
+            "selection\tDEL|Remove all"_s);
         farm.menu("listMenu")->actions().first()->trigger();
         QVERIFY(farm.alertor.events().at(0).acknowledged);
-        QVERIFY(openedOn(0).startsWith(QStringLiteral("&Open output folder")));
+        QVERIFY(openedOn(0).startsWith(u"&Open output folder"_s));
     }
 
     void deleteKeyRemovesWhatIsSelected()
     {
         Farm farm;
-        QTRY_VERIFY(farm.up());
         farm.show();
         farm.sendJobs({1024, 2048, 4096, 1024});
-        QTRY_COMPARE(farm.alertor.events().size(), 4);
         farm.click(1);
         farm.click(2, Qt::ControlModifier);
         QTest::keyClick(farm.list(), Qt::Key_Delete);
@@ -227,9 +227,7 @@ private Q_SLOTS:
     {
         Farm farm;
         farm.show();
-        QTRY_VERIFY(farm.up());
         farm.sendJobs(QList<int>(200, 1024));
-        QTRY_COMPARE(farm.alertor.events().size(), 200);
         EventsView *list = farm.list();
         QScrollBar *bar = list->verticalScrollBar();
         QTRY_VERIFY(bar->maximum() > 0);
@@ -237,7 +235,6 @@ private Q_SLOTS:
         list->scrollTo(list->model()->index(100, 0), QAbstractItemView::PositionAtTop);
         farm.click(102);
         farm.sendJobs({1024});
-        QTRY_COMPARE(farm.alertor.events().size(), 201);
         QCOMPARE(list->indexAt({0, 0}).data(Qt::UserRole).toULongLong(), 101U); // but not against the user
         const_cast<EventsList &>(farm.alertor.events()).removeEvents({1, 2, 3, 150});
         QCOMPARE(list->selectedIds(), QList<quint64>{103});
@@ -249,10 +246,8 @@ private Q_SLOTS:
     {
         Farm farm;
         QTRY_VERIFY(QSystemTrayIcon::isSystemTrayAvailable());
-        QTRY_VERIFY(farm.up());
         farm.show();
         farm.sendJobs({4096});
-        QTRY_COMPARE(farm.alertor.events().size(), 1);
         QVERIFY(!farm.alertor.close());
         QVERIFY(!farm.alertor.isVisible());
         farm.show();
@@ -265,42 +260,38 @@ private Q_SLOTS:
         QTRY_VERIFY(farm.alertor.isVisible());
         QCOMPARE(farm.alertor.events().pendingLevel(), NothingPending);
         farm.menu("trayMenu")->popup({10, 10});
-        QCOMPARE(enabledIn(*farm.menu("trayMenu")).join(QLatin1Char('|')),
-                 QStringLiteral("&Silent|&Open images viewer|&Configure|&Quit"));
+        QCOMPARE(textsOf(farm.menu("trayMenu"), true), u"&Silent|&Open images viewer|&Configure|&Quit"_s);
         QTest::keyClick(farm.menu("trayMenu"), Qt::Key_Escape);
     }
 
     void theIconFlashesOneTickInFour()
     {
         Farm farm;
-        QTRY_VERIFY(farm.up());
-        const QString calm = QStringLiteral(":/icons/mainIcon");
+        const QString calm = u":/icons/mainIcon"_s;
         farm.sendJobs({4096});
-        QTRY_COMPARE(farm.alertor.events().size(), 1);
         QStringList shown;
         for (int tick = 0; tick < 8; ++tick) {
             QMetaObject::invokeMethod(&farm.alertor, "timerEvent");
             shown += farm.alertor.tray().shownIcon();
         }
         QCOMPARE(shown.count(calm), 6);
-        QCOMPARE(shown.count(QStringLiteral(":/icons/itemError")), 2);
+        QCOMPARE(shown.count(u":/icons/itemError"_s), 2);
         farm.alertor.actAckEvents();
         for (int tick = 0; tick < 4; ++tick) {
             QMetaObject::invokeMethod(&farm.alertor, "timerEvent");
             QCOMPARE(farm.alertor.tray().shownIcon(), calm);
         }
         farm.peer.dropLink();
-        QTRY_COMPARE(farm.alertor.tray().shownIcon(), QStringLiteral(":/icons/unconnectedIcon"));
+        QTRY_COMPARE(farm.alertor.tray().shownIcon(), u":/icons/unconnectedIcon"_s);
     }
 
     void quittingAsks()
     {
         Farm farm;
         const auto quitAnswering = [&farm](QMessageBox::StandardButton answer) {
-            QTimer::singleShot(0, &farm.alertor, [answer] {
-                QTRY_VERIFY(QApplication::activeModalWidget());
-                auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-                QCOMPARE(box->text(), QStringLiteral("Are you sure you want to close the Alertor?"));
+            whenModalOpens([answer](QWidget *modal) {
+                auto *box = qobject_cast<QMessageBox *>(modal);
+                QCOMPARE(box->text(), u"Are you sure you want to close the Alertor?"_s);
                 QTest::mouseClick(box->button(answer), Qt::LeftButton);
             });
             farm.alertor.onQuit();
@@ -309,22 +300,19 @@ private Q_SLOTS:
         QTimer::singleShot(0, &farm.alertor, [&] {
             quitAnswering(QMessageBox::No);
             QTimer::singleShot(0, &farm.alertor, [&] {
-                steps += QStringLiteral("still running");
+                steps += u"still running"_s;
                 quitAnswering(QMessageBox::Yes);
             });
         });
         QCOMPARE(QCoreApplication::exec(), 0); // left by the quit alone
-        QCOMPARE(steps, QStringList{QStringLiteral("still running")});
+        QCOMPARE(steps, QStringList{u"still running"_s});
     }
 
     void preferencesReconnectWhereTheLinkChanged()
     {
         Farm farm;
-        QTRY_VERIFY(farm.up());
         const auto editAndAccept = [&farm](const char *field, const char *text) {
-            QTimer::singleShot(0, &farm.alertor, [=] {
-                QTRY_VERIFY(QApplication::activeModalWidget());
-                QWidget *dialog = QApplication::activeModalWidget();
+            whenModalOpens([=](QWidget *dialog) {
                 auto *edit = dialog->findChild<QLineEdit *>(QLatin1String(field));
                 QVERIFY(edit);
                 edit->selectAll();
@@ -334,11 +322,11 @@ private Q_SLOTS:
             farm.menu("trayMenu")->actions().at(7)->trigger();
         };
         editAndAccept("errorSoundPath", "/sounds/error.wav");
-        QCOMPARE(farm.alertor.settings().errorSound, QStringLiteral("/sounds/error.wav"));
+        QCOMPARE(farm.alertor.settings().errorSound, u"/sounds/error.wav"_s);
         editAndAccept("authenticationPassword", "secret");
         QTRY_COMPARE(farm.peer.connections(), 2);
         QTRY_COMPARE(farm.peer.received().size(), 2);
-        QCOMPARE(decodeLogin(farm.peer.received()[1].payload)->password, QStringLiteral("secret"));
+        QCOMPARE(decodeLogin(farm.peer.received()[1].payload)->password, u"secret"_s);
         QCOMPARE(loadSettings(), farm.alertor.settings());
         QSettings().clear();
     }
@@ -346,17 +334,15 @@ private Q_SLOTS:
     void resultsOpenOutsideOrSayWhyNot()
     {
         QTemporaryDir folder;
-        const QString viewer = folder.filePath(QStringLiteral("viewer"));
-        const QString opened = viewer + QStringLiteral(".opened");
+        const QString viewer = folder.filePath(u"viewer"_s);
         QFile script(viewer);
         QVERIFY(script.open(QIODevice::WriteOnly));
         script.write("#!/bin/sh\nprintf '%s|%s' \"$#\" \"$1\" > \"$0.new\" && mv \"$0.new\" \"$0.opened\"\n");
         script.close();
         script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-        QSettings().setValue(QStringLiteral("imageViewer/imageViewer"), viewer);
+        QSettings().setValue(u"imageViewer/imageViewer"_s, viewer);
         Farm farm;
         QSettings().clear();
-        QTRY_VERIFY(farm.up());
         farm.show();
         TClientLib::TJob job = farm::job();
         job.attributeSetString("frames_mask", "/no where/$(touch x)/a.####.exr");
@@ -364,22 +350,20 @@ private Q_SLOTS:
         farm.send(farm::notification(1, &job));
         QTRY_COMPARE(farm.alertor.events().size(), 1);
         farm.click(0);
+        const auto opened = [viewer] {
+            QFile arguments(viewer + u".opened"_s);
+            const auto remove = qScopeGuard([&arguments] { arguments.remove(); });
+            return QTest::qWaitFor([&] { return arguments.open(QIODevice::ReadOnly); }) ? arguments.readAll()
+                                                                                        : QByteArray();
+        };
         farm.alertor.actOpenFrameExternally();
-        QTRY_VERIFY(QFile::exists(opened));
-        QFile arguments(opened);
-        QVERIFY(arguments.open(QIODevice::ReadOnly));
-        QCOMPARE(arguments.readAll(), "1|/no where/$(touch x)/a.0005.exr");
-        QVERIFY(arguments.remove());
-        QVERIFY(ResultOpener::startExternalViewer(viewer, QStringLiteral("--exec.####.exr")));
-        QTRY_VERIFY(QFile::exists(opened));
-        QVERIFY(arguments.open(QIODevice::ReadOnly));
-        QCOMPARE(arguments.readAll(), "1|./--exec.####.exr");
+        QCOMPARE(opened(), "1|/no where/$(touch x)/a.0005.exr");
+        QVERIFY(ResultOpener::startExternalViewer(viewer, u"--exec.####.exr"_s));
+        QCOMPARE(opened(), "1|./--exec.####.exr");
 
         const auto saidBy = [&farm](void (Alertor::*act)()) {
             QString said;
-            QTimer::singleShot(0, &farm.alertor, [&said] {
-                QTRY_VERIFY(QApplication::activeModalWidget());
-                QWidget *box = QApplication::activeModalWidget();
+            whenModalOpens([&said](QWidget *box) {
                 for (const QLabel *label : box->findChildren<QLabel *>())
                     said += label->text();
                 QTest::keyClick(box->focusWidget(), Qt::Key_Return);
@@ -387,11 +371,9 @@ private Q_SLOTS:
             (farm.alertor.*act)();
             return said;
         };
-        QVERIFY(
-            saidBy(&Alertor::actOpenFrame)
-                .contains(QStringLiteral("OpenGL not supported by your GPU! Image viewer cannot be used!")));
-        QCOMPARE(saidBy(&Alertor::actOpenOutput),
-                 QStringLiteral("Cannot open output folder /no where/$(touch x)"));
+        QVERIFY(saidBy(&Alertor::actOpenFrame)
+                    .contains(u"OpenGL not supported by your GPU! Image viewer cannot be used!"_s));
+        QCOMPARE(saidBy(&Alertor::actOpenOutput), u"Cannot open output folder /no where/$(touch x)"_s);
     }
 
     void framesOpenInAViewerEach()
@@ -400,19 +382,17 @@ private Q_SLOTS:
         const auto restore = qScopeGuard([] { TAppState::instance() = {}; });
         QTemporaryDir folder;
         TClientLib::TJob job = farm::job();
-        job.attributeSetString("frames_mask", folder.filePath(QStringLiteral("a.####.exr")).toStdString());
+        job.attributeSetString("frames_mask", folder.filePath(u"a.####.exr"_s).toStdString());
         job.setFrameRanges({{5, 9, 1}});
         TClientLib::TJob still = farm::job();
         still.setPacketType(2);
         still.setTasksMask(2);
-        still.attributeSetString("final_filename",
-                                 folder.filePath(QStringLiteral("still.exr")).toStdString());
+        still.attributeSetString("final_filename", folder.filePath(u"still.exr"_s).toStdString());
         TClientLib::TChunk chunk = farm::chunk();
         chunk.setFrames(5, 6, 1);
-        QSettings().setValue(QStringLiteral("imageViewer/launchImageViewer"), true);
+        QSettings().setValue(u"imageViewer/launchImageViewer"_s, true);
         Farm farm;
         QSettings().clear();
-        QTRY_VERIFY(farm.up());
         farm.show();
         const auto viewers = [&farm] { return farm.alertor.findChildren<ImageViewer *>(); };
 
@@ -432,19 +412,9 @@ private Q_SLOTS:
             farm.send(farm::notification(1, &still));
         QTRY_COMPARE(farm.alertor.events().size(), 27);
         QTRY_COMPARE(viewers().size(), 20); // and no more by themselves
-        QVERIFY(QString::fromStdString(viewers().last()->sequence().framesPath)
-                    .endsWith(QStringLiteral("still.exr")));
+        QVERIFY(QString::fromStdString(viewers().last()->sequence().framesPath).endsWith(u"still.exr"_s));
         farm.alertor.openImageViewer();
         QVERIFY(viewers().last()->sequence().framesPath.empty());
-    }
-
-    void theWindowIsManagedAndTakesKeys()
-    {
-        Farm farm;
-        farm.show();
-        farm.alertor.activateWindow();
-        QTRY_VERIFY(farm.alertor.isActiveWindow());
-        QVERIFY(farm.alertor.frameGeometry().height() > farm.alertor.height()); // the window manager's frame
     }
 
 private:
@@ -452,15 +422,5 @@ private:
     const TAppState m_openGl = std::exchange(TAppState::instance(), {});
 };
 
-int main(int argc, char *argv[])
-{
-    chooseGlPath();
-    QApplication application(argc, argv);
-    QCoreApplication::setOrganizationName(product::kOrganisation);
-    QCoreApplication::setApplicationName(product::kApplicationName);
-    QApplication::setQuitOnLastWindowClosed(false);
-    TestAlertor test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_MAIN(TestAlertor)
 #include "tst_alertor.moc"
