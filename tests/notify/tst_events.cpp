@@ -1,4 +1,5 @@
 #include "farmpackets.h"
+#include "table.h"
 
 #include <eventbuilder.h>
 #include <eventkind.h>
@@ -14,6 +15,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::unique_ptr<NotifyEvent> makeEvent(quint64 id, qint64 type, std::optional<int> jobStatus = {},
@@ -25,13 +28,6 @@ std::unique_ptr<NotifyEvent> makeEvent(quint64 id, qint64 type, std::optional<in
                       id);
 }
 
-constexpr int kNone = -1; // no record attached
-
-std::optional<int> statusOf(int column)
-{
-    return column == kNone ? std::nullopt : std::optional(column);
-}
-
 } // namespace
 
 class TestEvents final : public QObject {
@@ -40,27 +36,16 @@ class TestEvents final : public QObject {
 private Q_SLOTS:
     void framesOfAJob_data()
     {
-        QTest::addColumn<QByteArray>("attributes"); // name=value, separated by blanks
-        QTest::addColumn<uint>("tasksMask");
-        QTest::addColumn<int>("rangeStart"); // -1: no range
-        QTest::addColumn<QString>("framesPath");
-        QTest::addColumn<QString>("framesMask");
-        QTest::addColumn<QString>("framesFilePath");
-        const QString none;
-        QTest::newRow("output folder") << QByteArray("output_folder=/out job_project=/project") << 0U << -1
-                                       << QStringLiteral("/out") << none << none;
-        QTest::newRow("project folder")
-            << QByteArray("job_project=/project") << 0U << -1 << QStringLiteral("/project") << none << none;
-        QTest::newRow("mask wins over the folder")
-            << QByteArray("output_folder=/out frames_mask=/f/a.####.exr;/g/b.##.exr") << 1U << 12
-            << QStringLiteral("/f") << QStringLiteral("/f/a.####.exr") << QStringLiteral("/f/a.0012.exr");
-        QTest::newRow("mask without ranges")
-            << QByteArray("frames_mask=/f/a.####.exr") << 0U << -1 << QStringLiteral("/f")
-            << QStringLiteral("/f/a.####.exr") << none;
-        QTest::newRow("final file") << QByteArray("final_filename=/m/film.mov frames_mask=/f/a.####.exr")
-                                    << 3U << 12 << QStringLiteral("/m") << QStringLiteral("/m/film.mov")
-                                    << none;
-        QTest::newRow("nothing known") << QByteArray() << 0U << 5 << none << none << none;
+        // Attributes are name=value, separated by blanks; a range starts at -1 where there is none.
+        addTable<QByteArray, uint, int, QString, QString, QString>(
+            {"attributes", "tasksMask", "rangeStart", "path", "mask", "file"},
+            {{"output folder", "output_folder=/out job_project=/project", 0, -1, u"/out"_s, {}, {}},
+             {"project folder", "job_project=/project", 0, -1, u"/project"_s, {}, {}},
+             {"mask wins over the folder", "output_folder=/out frames_mask=/f/a.####.exr;/g/b.##.exr", 1, 12,
+              u"/f"_s, u"/f/a.####.exr"_s, u"/f/a.0012.exr"_s},
+             {"mask without ranges", "frames_mask=/f/a.####.exr", 0, -1, u"/f"_s, u"/f/a.####.exr"_s, {}},
+             {"film", "final_filename=/m/a.mov frames_mask=/f/a.#.exr", 3, 12, u"/m"_s, u"/m/a.mov"_s, {}},
+             {"nothing known", "x=y", 0, 5, {}, {}, {}}});
     }
 
     void framesOfAJob()
@@ -68,23 +53,20 @@ private Q_SLOTS:
         QFETCH(const QByteArray, attributes);
         QFETCH(const uint, tasksMask);
         QFETCH(const int, rangeStart);
-        QFETCH(const QString, framesPath);
-        QFETCH(const QString, framesMask);
-        QFETCH(const QString, framesFilePath);
         TClientLib::TJob job = farm::job();
         job.setTasksMask(tasksMask);
         job.setPacketType(2);
         if (rangeStart >= 0)
             job.setFrameRanges({{rangeStart, rangeStart + 8, 2}, {0, 1, 1}});
-        for (const QByteArray &attribute : attributes.isEmpty() ? QByteArrayList() : attributes.split(' '))
+        for (const QByteArray &attribute : attributes.split(' '))
             job.attributeSetString(attribute.split('=')[0].toStdString(),
                                    attribute.split('=')[1].toStdString());
         const auto event = buildEvent(farm::notification(1, &job), 9);
-        QCOMPARE(event->text(EventKey::kFramesPath), framesPath);
-        QCOMPARE(event->text(EventKey::kFramesMask), framesMask);
-        QCOMPARE(event->text(EventKey::kFramesFilePath), framesFilePath);
-        QCOMPARE(event->text(EventKey::kSubmitter), QStringLiteral("ann"));
-        QCOMPARE(event->text(EventKey::kPacketType), QStringLiteral("2"));
+        QTEST(event->text(EventKey::kFramesPath), "path");
+        QTEST(event->text(EventKey::kFramesMask), "mask");
+        QTEST(event->text(EventKey::kFramesFilePath), "file");
+        QCOMPARE(event->text(EventKey::kSubmitter), u"ann"_s);
+        QCOMPARE(event->text(EventKey::kPacketType), u"2"_s);
         QCOMPARE(event->text(EventKey::kTasksMask), QString::number(tasksMask));
         QCOMPARE(event->eventId, 9U);
     }
@@ -104,81 +86,55 @@ private Q_SLOTS:
         packet.chunk = "not base64 at all!";
         const auto event = buildEvent(packet, 1);
         QVERIFY(event->job && event->chunk);
-        QCOMPARE(lookOf(*event).typeText, QStringLiteral("Success"));
+        QCOMPARE(lookOf(*event).typeText, u"Success"_s);
         QVERIFY(event->text(EventKey::kFramesFilePath).isEmpty());
     }
 
     void kinds_data()
     {
-        QTest::addColumn<qint64>("type");
-        QTest::addColumn<int>("jobStatus");
-        QTest::addColumn<int>("chunkStatus");
-        QTest::addColumn<QString>("filter"); // name of the filter that drops it; empty: none does
-        QTest::addColumn<QString>("sound");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("level");
-        const auto row = [](const char *name, qint64 type, int job, int chunk, const char *filter,
-                            const char *sound, const char *text, int level) {
-            QTest::newRow(name) << type << job << chunk << QString::fromLatin1(filter)
-                                << QString::fromLatin1(sound) << QString::fromLatin1(text) << level;
-        };
-        row("job success", 1, 1024, kNone, "jobSuccess", "success", "Success", 3);
-        row("job warnings", 1, 2048, kNone, "jobWarnings", "warning", "Warning", 4);
-        row("job errors", 1, 4096, kNone, "jobErrors", "error", "Error", 5);
-        row("job other status", 1, 1, kNone, "", "", "", 0);
-        row("job completed without job", 1, kNone, kNone, "service", "service", "", 0);
-        row("chunk success", 2, 0, 4, "chunkSuccess", "success", "Success", 3);
-        row("chunk warnings", 2, 0, 8, "chunkWarnings", "warning", "Warning", 4);
-        row("chunk errors", 2, 0, 16, "chunkErrors", "error", "Error", 5);
-        row("chunk other status", 2, 1024, 1, "", "", "", 0);
-        row("chunk without its job", 2, kNone, 16, "chunkErrors", "error", "", 5);
-        row("chunk completed without chunk", 2, 1024, kNone, "service", "service", "", 0);
-        row("job start", 4, 0, kNone, "jobStart", "start", "Start", 0);
-        row("chunk start", 8, 0, 4, "chunkStart", "start", "Start", 0);
-        row("start without job", 4, kNone, kNone, "service", "service", "Start", 0);
-        row("service", 512, kNone, kNone, "service", "service", "Service", 1);
-        row("alert", 1024, kNone, kNone, "service", "service", "Alert", 1);
-        row("second service", 2048, 0, kNone, "service", "service", "Service", 1);
-        row("second alert", 4096, kNone, kNone, "service", "service", "Alert", 1);
-        row("unknown with job", 77, 1024, kNone, "service", "service", "", 0);
-        row("unknown without job", -3, kNone, kNone, "service", "service", "", 0);
+        using S = Settings;
+        constexpr auto service = &S::filterServiceActivities;
+        using Filter = bool S::*;
+        using Sound = QString S::*;
+        using Status = std::optional<int>;
+        addTable<qint64, Status, Status, Filter, Sound, QByteArray, int>(
+            {"type", "job", "chunk", "filter", "sound", "text", "level"},
+            {{"success", 1, 1024, {}, &S::filterJobCompletedWithSuccess, &S::successSound, "Success", 3},
+             {"warnings", 1, 2048, {}, &S::filterJobCompletedWithWarnings, &S::warningSound, "Warning", 4},
+             {"errors", 1, 4096, {}, &S::filterJobCompletedWithErrors, &S::errorSound, "Error", 5},
+             {"job other status", 1, 1, {}, nullptr, nullptr, "", 0},
+             {"job completed without job", 1, {}, {}, service, &S::serviceSound, "", 0},
+             {"chunk success", 2, 0, 4, &S::filterChunkCompletedWithSuccess, &S::successSound, "Success", 3},
+             {"chunk warning", 2, 0, 8, &S::filterChunkCompletedWithWarnings, &S::warningSound, "Warning", 4},
+             {"chunk errors", 2, 0, 16, &S::filterChunkCompletedWithErrors, &S::errorSound, "Error", 5},
+             {"chunk other status", 2, 1024, 1, nullptr, nullptr, "", 0},
+             {"chunk without its job", 2, {}, 16, &S::filterChunkCompletedWithErrors, &S::errorSound, "", 5},
+             {"chunk completed without chunk", 2, 1024, {}, service, &S::serviceSound, "", 0},
+             {"job start", 4, 0, {}, &S::filterJobStart, &S::startSound, "Start", 0},
+             {"chunk start", 8, 0, 4, &S::filterChunkStart, &S::startSound, "Start", 0},
+             {"start without job", 4, {}, {}, service, &S::serviceSound, "Start", 0},
+             {"service", 512, {}, {}, service, &S::serviceSound, "Service", 1},
+             {"alert", 1024, {}, {}, service, &S::serviceSound, "Alert", 1},
+             {"second service", 2048, 0, {}, service, &S::serviceSound, "Service", 1},
+             {"second alert", 4096, 0, {}, service, &S::serviceSound, "Alert", 1},
+             {"unknown with job", 77, 1024, {}, service, &S::serviceSound, "", 0},
+             {"unknown without job", -3, {}, {}, service, &S::serviceSound, "", 0}});
     }
 
     void kinds()
     {
-        const QHash<QString, bool Settings::*> filters{
-            {QStringLiteral("jobSuccess"), &Settings::filterJobCompletedWithSuccess},
-            {QStringLiteral("jobWarnings"), &Settings::filterJobCompletedWithWarnings},
-            {QStringLiteral("jobErrors"), &Settings::filterJobCompletedWithErrors},
-            {QStringLiteral("chunkSuccess"), &Settings::filterChunkCompletedWithSuccess},
-            {QStringLiteral("chunkWarnings"), &Settings::filterChunkCompletedWithWarnings},
-            {QStringLiteral("chunkErrors"), &Settings::filterChunkCompletedWithErrors},
-            {QStringLiteral("jobStart"), &Settings::filterJobStart},
-            {QStringLiteral("chunkStart"), &Settings::filterChunkStart},
-            {QStringLiteral("service"), &Settings::filterServiceActivities},
-        };
-        const QHash<QString, QString Settings::*> sounds{
-            {QStringLiteral("success"), &Settings::successSound},
-            {QStringLiteral("warning"), &Settings::warningSound},
-            {QStringLiteral("error"), &Settings::errorSound},
-            {QStringLiteral("start"), &Settings::startSound},
-            {QStringLiteral("service"), &Settings::serviceSound},
-        };
         QFETCH(const qint64, type);
-        QFETCH(const int, jobStatus);
-        QFETCH(const int, chunkStatus);
-        QFETCH(const QString, filter);
-        QFETCH(const QString, sound);
-        QFETCH(const QString, text);
-        QFETCH(const int, level);
-        const auto event = makeEvent(1, type, statusOf(jobStatus), statusOf(chunkStatus));
+        QFETCH(const std::optional<int>, job);
+        QFETCH(const std::optional<int>, chunk);
+        QFETCH(const QByteArray, text);
+        const auto event = makeEvent(1, type, job, chunk);
         const EventHandling handling = handlingOf(*event);
-        QVERIFY(handling.filter == filters.value(filter, nullptr));
-        QVERIFY(handling.sound == sounds.value(sound, nullptr));
+        QTEST(handling.filter, "filter");
+        QTEST(handling.sound, "sound");
         QCOMPARE(handling.jobCompletion, type == 1 && !text.isEmpty());
-        QCOMPARE(lookOf(*event).typeText, text);
+        QCOMPARE(lookOf(*event).typeText.toLatin1(), text);
         QCOMPARE(lookOf(*event).iconPath.isEmpty(), text.isEmpty());
-        QCOMPARE(int(pendingLevelOf(*event)), level);
+        QTEST(int(pendingLevelOf(*event)), "level");
     }
 
     void pendingLevelFollowsTheList()
@@ -247,7 +203,7 @@ private Q_SLOTS:
         const TClientLib::TJob job = farm::job();
         const TClientLib::TChunk chunk = farm::chunk();
         NotificationPacket directory = farm::notification(2, &job, &chunk);
-        directory.user = QStringLiteral("a@directory@nn");
+        directory.user = u"a@directory@nn"_s;
         NotificationPacket service = farm::notification(512);
         service.user.clear();
         events.append(buildEvent(directory, 1));
@@ -256,22 +212,22 @@ private Q_SLOTS:
         const auto text = [&model](int row, int column) {
             return model.index(row, column).data().toString();
         };
-        QCOMPARE(text(0, EventsModel::Type), QStringLiteral("Success"));
+        QCOMPARE(text(0, EventsModel::Type), u"Success"_s);
         QCOMPARE(
             text(0, EventsModel::Time),
             QLocale::system().toString(QDateTime::fromSecsSinceEpoch(1'700'000'000), QLocale::ShortFormat));
-        QCOMPARE(text(0, EventsModel::User), QStringLiteral("ann(D)"));
-        QCOMPARE(text(0, EventsModel::Job), QStringLiteral("Shot010(1234)"));
-        QCOMPARE(text(0, EventsModel::Chunk), QStringLiteral("7"));
-        QCOMPARE(text(1, EventsModel::User), QStringLiteral("Service"));
+        QCOMPARE(text(0, EventsModel::User), u"ann(D)"_s);
+        QCOMPARE(text(0, EventsModel::Job), u"Shot010(1234)"_s);
+        QCOMPARE(text(0, EventsModel::Chunk), u"7"_s);
+        QCOMPARE(text(1, EventsModel::User), u"Service"_s);
         QCOMPARE(text(1, EventsModel::Job), QString());
         QCOMPARE(text(2, EventsModel::Chunk), QString()); // its job is not known
         QVERIFY(model.index(0, EventsModel::Acknowledged).data(Qt::DecorationRole).isNull());
         QCOMPARE(model.index(0, EventsModel::Acknowledged).data(Qt::AccessibleTextRole).toString(),
-                 QStringLiteral("Pending"));
+                 u"Pending"_s);
         events.ackEvent(1);
         QVERIFY(!model.index(0, EventsModel::Acknowledged).data(Qt::DecorationRole).isNull());
-        QCOMPARE(model.headerData(7, Qt::Horizontal).toString(), QStringLiteral("Output path"));
+        QCOMPARE(model.headerData(7, Qt::Horizontal).toString(), u"Output path"_s);
         QCOMPARE(model.headerData(1, Qt::Horizontal).toString(), QString());
     }
 };
