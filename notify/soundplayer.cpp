@@ -1,12 +1,16 @@
 #include "soundplayer.h"
 
-#include <QtCore/QFileInfo>
-#include <QtCore/QUrl>
-#include <QtMultimedia/QSoundEffect>
+#include "soundeffects.h"
+
+#include <tdesktop.h>
+
+#include <utility>
 
 SoundPlayer::SoundPlayer(QObject *parent)
     : QObject(parent)
 { }
+
+SoundPlayer::~SoundPlayer() = default;
 
 void SoundPlayer::play(const QString &path)
 {
@@ -20,21 +24,20 @@ void SoundPlayer::play(const QString &path)
 
 void SoundPlayer::startWaiting()
 {
-    for (const QString &path : std::exchange(m_waiting, {})) {
-        QSoundEffect *&effect = m_effects[path];
-        if (effect && effect->status() == QSoundEffect::Error)
-            delete std::exchange(effect, nullptr);
-        if (!effect && QFileInfo(path).isFile()) {
-            effect = new QSoundEffect(this);
-            effect->setSource(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
-        }
-        if (effect)
-            effect->play();
+    const QStringList waiting = std::exchange(m_waiting, {});
+    if (!std::exchange(m_asked, true)) {
+        using Entry = SoundEffects *();
+        void *const entry = TDesktop::ModuleFunction("tarrowsound", "tarrowSoundEffects");
+        m_effects.reset(entry ? reinterpret_cast<Entry *>(entry)() : nullptr);
+    }
+    for (const QString &path : waiting) {
+        if (m_effects)
+            m_effects->play(path);
     }
 }
 
 void SoundPlayer::clear()
 {
-    qDeleteAll(m_effects);
-    m_effects.clear();
+    if (m_effects)
+        m_effects->clear();
 }

@@ -1,17 +1,20 @@
 #pragma once
 
-#include <QtCore/QHash>
 #include <QtCore/QObject>
+#include <QtCore/QStringList>
 
-class QSoundEffect;
+#include <memory>
+
+class SoundEffects;
 
 /// Plays sound files, fire and forget; one that cannot be played is silently left out. A sound that is asked for again
-/// while it plays starts anew.
+/// while it plays starts anew. What it takes to play is loaded with the first sound.
 class SoundPlayer final : public QObject {
     Q_OBJECT
 
 public:
     explicit SoundPlayer(QObject *parent = nullptr);
+    ~SoundPlayer() override;
 
     /// Path of a ".wav" file; an empty one plays nothing.
     void play(const QString &path);
@@ -21,6 +24,7 @@ public:
 private:
     void startWaiting();
 
-    QHash<QString, QSoundEffect *> m_effects; // children, by path
+    std::unique_ptr<SoundEffects> m_effects; // null until the first sound, and where there are none to be had
+    bool m_asked = false;
     QStringList m_waiting; // to be started when control returns to the event loop
 };
