@@ -43,60 +43,58 @@ class StripsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void marks();
-    void cachedFrames();
-    void crowdedFrames();
-};
-
-void StripsTest::marks()
-{
-    imagesMarkerWidget strip;
-    strip.setFrames({2, 3, 4, 5, 7, 8, 9, 10});
-    strip.setRange(1, 12);
-    QCOMPARE(columns(strip, 12), QLatin1String("BbbbbBbbbbBB"));
-    // 1 to 2 marked, 3 to 5 shown for its state, 7 to 8 in another state, no chunk for 9, 10 to 11 marked by name only.
-    strip.setChunks({{2, {70, 1, 1}}, {5, {71, 3, 1}}, {8, {72, 7, 2}}, {11, {73, 10, 0}}});
-    strip.setMarkedChunks({{2, 70}, {11, 99}});
-    strip.setMarkedFrames({2, 7, 12});
-    QCOMPARE(columns(strip, 12), QLatin1String("OygggBybbbBB"));
-}
-
-void StripsTest::cachedFrames()
-{
-    CacheTotals totals;
-    totals.videoMemoryBudget = 1;
-    FakeDisplay display;
-    FrameCache cache(totals, display);
-    for (const char *path : {"/f.0003.exr", "/f.0004.exr", "/f.0006.exr"}) {
-        auto frame = std::make_unique<ImageFrame>();
-        frame->byteSize = 1;
-        cache.insert(std::move(frame), path);
+    void marks()
+    {
+        imagesMarkerWidget strip;
+        strip.setFrames({2, 3, 4, 5, 7, 8, 9, 10});
+        strip.setRange(1, 12);
+        QCOMPARE(columns(strip, 12), QLatin1String("BbbbbBbbbbBB"));
+        // 1 to 2 marked, 3 to 5 shown for its state, 7 to 8 in another state, no chunk for 9, 10 to 11 marked by name only.
+        strip.setChunks({{2, {70, 1, 1}}, {5, {71, 3, 1}}, {8, {72, 7, 2}}, {11, {73, 10, 0}}});
+        strip.setMarkedChunks({{2, 70}, {11, 99}});
+        strip.setMarkedFrames({2, 7, 12});
+        QCOMPARE(columns(strip, 12), QLatin1String("OygggBybbbBB"));
     }
-    imagesAllocationWidget strip;
-    strip.setFrames({2, 3, 4});
-    strip.setRange(2, 6);
-    strip.setFileMask("/f.####.exr");
-    QCOMPARE(columns(strip, 5), QLatin1String("bbbBB"));
-    strip.setCache(&cache);
-    QCOMPARE(columns(strip, 5), QLatin1String("bvyBY"));
-}
 
-void StripsTest::crowdedFrames()
-{
-    constexpr long kHuge = std::numeric_limits<int>::max();
-    imagesMarkerWidget strip;
-    strip.setFrames({-5, 1, 2, 50'000, kHuge});
-    strip.setChunks({{-5, {1, -5, 1}}, {2, {2, 9, 1}}, {int(kHuge), {3, -9, 0}}});
-    strip.setMarkedFrames({2, 50'000, 60'000});
-    const auto isYellow = [&strip](int x) { return strip.grab().toImage().pixel(x, 1) == qRgb(200, 200, 0); };
-    strip.resize(100, 20);
-    strip.setRange(1, 100'000);
-    QVERIFY(isYellow(0) && isYellow(49) && !isYellow(50) && !isYellow(59));
-    strip.setRange(-kHuge * 2, kHuge * 2);
-    QVERIFY(!isYellow(0) && isYellow(50));
-    strip.setRange(kHuge, -kHuge);
-    QVERIFY(!isYellow(0));
-}
+    void cachedFrames()
+    {
+        CacheTotals totals;
+        totals.videoMemoryBudget = 1;
+        FakeDisplay display;
+        FrameCache cache(totals, display);
+        for (const char *path : {"/f.0003.exr", "/f.0004.exr", "/f.0006.exr"}) {
+            auto frame = std::make_unique<ImageFrame>();
+            frame->byteSize = 1;
+            cache.insert(std::move(frame), path);
+        }
+        imagesAllocationWidget strip;
+        strip.setFrames({2, 3, 4});
+        strip.setRange(2, 6);
+        strip.setFileMask("/f.####.exr");
+        QCOMPARE(columns(strip, 5), QLatin1String("bbbBB"));
+        strip.setCache(&cache);
+        QCOMPARE(columns(strip, 5), QLatin1String("bvyBY"));
+    }
+
+    void crowdedFrames()
+    {
+        constexpr long kHuge = std::numeric_limits<int>::max();
+        imagesMarkerWidget strip;
+        strip.setFrames({-5, 1, 2, 50'000, kHuge});
+        strip.setChunks({{-5, {1, -5, 1}}, {2, {2, 9, 1}}, {int(kHuge), {3, -9, 0}}});
+        strip.setMarkedFrames({2, 50'000, 60'000});
+        const auto isYellow = [&strip](int x) {
+            return strip.grab().toImage().pixel(x, 1) == qRgb(200, 200, 0);
+        };
+        strip.resize(100, 20);
+        strip.setRange(1, 100'000);
+        QVERIFY(isYellow(0) && isYellow(49) && !isYellow(50) && !isYellow(59));
+        strip.setRange(-kHuge * 2, kHuge * 2);
+        QVERIFY(!isYellow(0) && isYellow(50));
+        strip.setRange(kHuge, -kHuge);
+        QVERIFY(!isYellow(0));
+    }
+};
 
 QTEST_MAIN(StripsTest)
 #include "tst_strips.moc"
