@@ -67,11 +67,9 @@ private Q_SLOTS:
     void moves()
     {
         const std::tuple<Frames, long, QList<long>, QList<long>> cases[] = {
-            {{1, 2, 3}, 1, {1, 2, 3, 3}, {3, 2, 1, 1}},
             {{1, 2, 3, 10}, 3, {1, 10, 10}, {10, 1, 1}}, // 7 and 4 are stepped on and passed
             {{1, 2, 3, 4, 9}, 2, {1, 3, 9}, {9, 3, 1}},
             {{-kHuge, kHuge}, kHuge, {-kHuge, kHuge}, {kHuge, -kHuge}},
-            {{-kHuge, kHuge}, 1, {-kHuge, kHuge}, {kHuge, -kHuge}},
             {{5, 6, 7}, 1, {-9, 5, 6}, {20, 7, 6, 5}},
             {{1, 2}, -4, {1, 2}, {2, 1}}, // no step is below 1
             {{}, 1, {3, 3}, {3, 3}},
