@@ -49,7 +49,7 @@ private Q_SLOTS:
         strip.setFrames({2, 3, 4, 5, 7, 8, 9, 10});
         strip.setRange(1, 12);
         QCOMPARE(columns(strip, 12), QLatin1String("BbbbbBbbbbBB"));
-        // 1 to 2 marked, 3 to 5 shown for its state, 7 to 8 in another state, no chunk for 9, 10 to 11 marked by name only.
+        // 1 to 2 marked, 3 to 5 and 7 to 8 shown for their states, 9 in no chunk, 10 to 11 marked by name only.
         strip.setChunks({{2, {70, 1, 1}}, {5, {71, 3, 1}}, {8, {72, 7, 2}}, {11, {73, 10, 0}}});
         strip.setMarkedChunks({{2, 70}, {11, 99}});
         strip.setMarkedFrames({2, 7, 12});
