@@ -140,8 +140,12 @@ void PictureView::refresh()
 
 void PictureView::refreshScrollBar(QScrollBar &bar, int displayed, int visible, int value)
 {
+    const int maximum = std::max(0, displayed - visible);
+    // A bar that is told its steps paints itself anew, whatever they were.
+    if (bar.maximum() == maximum && bar.pageStep() == visible && bar.value() == value)
+        return;
     const QSignalBlocker blocker(bar);
-    bar.setRange(0, std::max(0, displayed - visible));
+    bar.setRange(0, maximum);
     bar.setPageStep(visible);
     bar.setSingleStep(kScrollStep);
     bar.setValue(value);
