@@ -23,7 +23,7 @@ namespace {
 constexpr int kPatience = 120'000; // milliseconds
 constexpr int kBursts = 10;
 #ifdef __SANITIZE_ADDRESS__
-constexpr double kMostGrowth = 4; // the sanitizer keeps what was freed for a while
+constexpr double kMostGrowth = 7; // the sanitizer keeps what was freed for a while
 #else
 constexpr double kMostGrowth = 1.1;
 #endif
