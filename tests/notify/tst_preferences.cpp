@@ -256,7 +256,8 @@ private Q_SLOTS:
             m_dialog->show();
             QTest::mouseClick(child<QDialogButtonBox>(u"buttonBox"_s)->button(button), Qt::LeftButton);
         }
-        QCOMPARE(QList<QVariantList>(finished), (QList<QVariantList>{{1}, {0}, {1}, {0}}));
+        const QList<QVariantList> &results = finished;
+        QCOMPARE(results, (QList<QVariantList>{{1}, {0}, {1}, {0}}));
     }
 
     void pickersFillTheirField_data()
