@@ -17,13 +17,15 @@ function(tarrow_add_layer name)
   set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
 endfunction()
 
-# A part that brings many libraries along and is loaded when it is first needed, by TDesktop::ModuleFunction("<name>", …).
+# A part that brings libraries along and is loaded when it is first needed, by TDesktop::ModuleFunction("<name>", …). What is
+# installed with the program is the global property TARROW_MODULES.
 function(tarrow_add_module name)
   cmake_parse_arguments(PARSE_ARGV 1 MODULE "" "" "SOURCES;DEPENDS")
   add_library(${name} MODULE ${MODULE_SOURCES})
   target_link_libraries(${name} PRIVATE ${MODULE_DEPENDS})
   set_target_properties(${name} PROPERTIES CXX_VISIBILITY_PRESET hidden
     LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+  set_property(GLOBAL APPEND PROPERTY TARROW_MODULES ${name})
 endfunction()
 
 # Adds platform/<folder>, or, when the cache variable names a CMake package, takes the target from that package.

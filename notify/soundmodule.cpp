@@ -1,5 +1,7 @@
 #include "soundeffects.h"
 
+#include <moduleexport.h>
+
 #include <QtCore/QFileInfo>
 #include <QtCore/QUrl>
 #include <QtMultimedia/QSoundEffect>
@@ -33,7 +35,7 @@ private:
 } // namespace
 
 /// The caller owns what it gets.
-extern "C" Q_DECL_EXPORT SoundEffects *tarrowSoundEffects()
+TARROW_MODULE_FUNCTION SoundEffects *tarrowSoundEffects()
 {
     return new ToolkitEffects;
 }

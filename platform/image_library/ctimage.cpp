@@ -1,6 +1,6 @@
 #include "ctimage.h"
 
-#include "oiiogate.h"
+#include "imagemodules.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "iimagecore.h"
 
-#include "exrloader.h"
-#include "oiiogate.h"
+#include "imageloader.h"
+#include "imagemodules.h"
 
 #include <algorithm>
 #include <exception>
@@ -17,11 +17,12 @@ namespace {
 template <typename Ask>
 auto firstAnswer(const Ask &ask) -> decltype(ask(std::declval<const ImageLoader &>()))
 {
-    static const ExrLoader exr;
-    if (auto answer = ask(exr))
-        return answer;
-    const OiioModule *module = oiioModule();
-    return module ? ask(module->loader) : nullptr;
+    if (const ImageLoader *exr = exrModule()) {
+        if (auto answer = ask(*exr))
+            return answer;
+    }
+    const OiioModule *oiio = oiioModule();
+    return oiio ? ask(oiio->loader) : nullptr;
 }
 
 const ImageLoader *loaderOf(const char *format)

@@ -1,14 +1,10 @@
-#include "oiiogate.h"
+#include "imagemodules.h"
 #include "oiioloader.h"
 #include "resize.h"
 
-#ifdef _WIN32
-#define TARROW_EXPORT __declspec(dllexport)
-#else
-#define TARROW_EXPORT __attribute__((visibility("default")))
-#endif
+#include <moduleexport.h>
 
-extern "C" TARROW_EXPORT const TImageLibrary::OiioModule *tarrowOiioModule()
+TARROW_MODULE_FUNCTION const TImageLibrary::OiioModule *tarrowOiioModule()
 {
     static const TImageLibrary::OiioLoader loader;
     static const TImageLibrary::OiioModule module{loader, &TImageLibrary::resizeChannel};

@@ -1,7 +1,8 @@
 #include "hostmodule.h"
 
+#include "python.h"
+
 #include <sendentry.h>
-#include <tframework.h>
 
 #include <pybind11/pybind11.h>
 
@@ -18,9 +19,9 @@ namespace {
 
 constexpr char kSendHelp[] = "Sends one message to the Dispatcher. Returns False when there is no link.";
 
-bool send(std::uint32_t command, const py::bytes &payload, std::uint32_t param)
+bool send(const TFramework::TSendEntry *entry, std::uint32_t command, const py::bytes &payload,
+          std::uint32_t param)
 {
-    const auto *entry = static_cast<const TFramework::TSendEntry *>(TFramework::GetLibraryContext("Alertor"));
     if (!entry || !entry->send)
         return false;
     const std::string_view bytes = payload;
@@ -29,19 +30,19 @@ bool send(std::uint32_t command, const py::bytes &payload, std::uint32_t param)
 
 } // namespace
 
-void addHostModule(const std::string &name)
+void addHostModule(const PythonHost &host)
 {
     static py::module_::module_def definition;
-    auto module = py::module_::create_extension_module(name.c_str(), nullptr, &definition);
-    const auto sendFromHere = [owner = std::this_thread::get_id()](
+    auto module = py::module_::create_extension_module(host.name.c_str(), nullptr, &definition);
+    const auto sendFromHere = [owner = std::this_thread::get_id(), entry = host.sendEntry](
                                   std::uint32_t command, const py::bytes &payload, std::uint32_t param) {
         if (std::this_thread::get_id() != owner)
             throw std::runtime_error("send() works in the thread that calls the hooks only");
-        return send(command, payload, param);
+        return send(entry(), command, payload, param);
     };
     module.def("send", sendFromHere, py::arg("command"), py::arg("payload"), py::arg("param") = 0U,
                kSendHelp);
-    py::module_::import("sys").attr("modules")[name.c_str()] = module;
+    py::module_::import("sys").attr("modules")[host.name.c_str()] = module;
 }
 
 } // namespace TTemplateEngine

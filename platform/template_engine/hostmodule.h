@@ -1,11 +1,11 @@
 #pragma once
 
-#include <string>
-
 namespace TTemplateEngine {
 
-/// Makes the module through which templates reach the program importable under the program's name. Needs the lock;
+struct PythonHost;
+
+/// Makes the module through which templates reach the program importable under the host's name. Needs the lock;
 /// the module's functions refuse any other thread than this one.
-void addHostModule(const std::string &name);
+void addHostModule(const PythonHost &host);
 
 } // namespace TTemplateEngine

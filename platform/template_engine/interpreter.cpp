@@ -1,9 +1,11 @@
 #include "interpreter.h"
 
 #include "hostmodule.h"
+#include "pythonmodule.h"
 #include "support.h"
 
 #include <csignal>
+#include <cstdio>
 #include <stdexcept>
 
 namespace py = pybind11;
@@ -37,7 +39,7 @@ void initialize()
 
 } // namespace
 
-std::unique_ptr<Interpreter> Interpreter::start(const std::string &hostName, std::string &problem)
+std::unique_ptr<Interpreter> Interpreter::start(const PythonHost &host, std::string &problem)
 {
 #ifdef SIGPIPE
     // As a Python program expects: writing to a pipe without a reader is an error, not the end.
@@ -46,7 +48,7 @@ std::unique_ptr<Interpreter> Interpreter::start(const std::string &hostName, std
     try {
         initialize();
         std::unique_ptr<Interpreter> interpreter(new Interpreter);
-        interpreter->prepare(hostName);
+        interpreter->prepare(host);
         interpreter->unlock();
         return interpreter;
     } catch (const std::exception &error) {
@@ -55,9 +57,9 @@ std::unique_ptr<Interpreter> Interpreter::start(const std::string &hostName, std
     }
 }
 
-void Interpreter::prepare(const std::string &hostName)
+void Interpreter::prepare(const PythonHost &host)
 try {
-    addHostModule(hostName);
+    addHostModule(host);
     py::exec(kSupportSource, m_support);
     support("guard_streams")();
 } catch (const py::error_already_set &raised) {
@@ -66,10 +68,12 @@ try {
 }
 
 Interpreter::~Interpreter()
-{
+try {
     lock();
     m_support.release().dec_ref();
     py::finalize_interpreter();
+} catch (const std::exception &error) {
+    std::fprintf(stderr, "Python does not end in order: %s\n", error.what());
 }
 
 void Interpreter::lock()
@@ -85,6 +89,13 @@ void Interpreter::unlock()
     PyErr_Clear();
     if (--m_depth == 0)
         m_thread = PyEval_SaveThread();
+}
+
+std::unique_ptr<TemplateScript> Interpreter::load(const std::string &name, const std::string &path,
+                                                  const std::vector<std::string> &importable,
+                                                  std::string &problem)
+{
+    return PythonModule::load(*this, name, path, importable, problem);
 }
 
 py::object Interpreter::support(const char *function) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "python.h"
+
 #include <pybind11/embed.h>
 
 #include <memory>
@@ -8,19 +10,18 @@
 namespace TTemplateEngine {
 
 /// The embedded interpreter: the system's, deaf to the environment of the user who starts the program.
-/// Outside lock() and unlock() the lock is free for threads that templates have started.
-class Interpreter final {
+class Interpreter final : public Python {
 public:
     /// Null, with the problem in words, when Python does not start.
-    static std::unique_ptr<Interpreter> start(const std::string &hostName, std::string &problem);
-    ~Interpreter();
-    Interpreter(const Interpreter &) = delete;
-    Interpreter &operator=(const Interpreter &) = delete;
+    static std::unique_ptr<Interpreter> start(const PythonHost &host, std::string &problem);
+    ~Interpreter() override;
 
-    /// Calls nest: a hook may send, and the program may call the next hook meanwhile.
-    void lock();
-    /// Also drops an exception that is still pending.
-    void unlock();
+    void lock() override;
+    void unlock() override;
+    std::string takeException() override;
+    std::unique_ptr<TemplateScript> load(const std::string &name, const std::string &path,
+                                         const std::vector<std::string> &importable,
+                                         std::string &problem) override;
 
     /// A function of the Python code in support.cpp. Needs the lock.
     pybind11::object support(const char *function) const;
@@ -28,12 +29,10 @@ public:
     /// `path`, or "report" with the traceback. Needs the lock.
     std::string describe(const pybind11::error_already_set &raised, const char *function,
                          const pybind11::object &path) const;
-    /// The pending exception with its traceback; empty when there is none. Needs the lock.
-    std::string takeException();
 
 private:
     Interpreter() = default;
-    void prepare(const std::string &hostName);
+    void prepare(const PythonHost &host);
 
     pybind11::dict m_support;
     PyThreadState *m_thread = nullptr; ///< of the thread that started Python, while it does not hold the lock

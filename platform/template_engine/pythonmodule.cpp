@@ -34,8 +34,9 @@ std::unique_ptr<PythonModule> PythonModule::load(Interpreter &interpreter, const
             folders.append(fileSystemText(folder));
         const py::tuple loaded = interpreter.support("load")(fileSystemText(name), pythonPath, folders);
         auto result = std::make_unique<PythonModule>();
-        result->module = loaded[0];
-        result->hookName = py::reinterpret_steal<py::object>(PyUnicode_InternFromString(kCustomMessageHook));
+        result->m_module = loaded[0];
+        result->m_hookName =
+            py::reinterpret_steal<py::object>(PyUnicode_InternFromString(kCustomMessageHook));
         if (!loaded[1].is_none())
             result->id = loaded[1].cast<std::int32_t>();
         result->name = loaded[2].is_none() ? name : loaded[2].cast<std::string>();
@@ -50,9 +51,10 @@ std::unique_ptr<PythonModule> PythonModule::load(Interpreter &interpreter, const
 
 bool PythonModule::callHook(const char *message) const
 {
-    if (!module)
+    if (!m_module)
         return true;
-    const auto callable = py::reinterpret_steal<py::object>(PyObject_GetAttr(module.ptr(), hookName.ptr()));
+    const auto callable =
+        py::reinterpret_steal<py::object>(PyObject_GetAttr(m_module.ptr(), m_hookName.ptr()));
     if (!callable) {
         if (!PyErr_ExceptionMatches(PyExc_AttributeError))
             return false;
@@ -68,8 +70,8 @@ bool PythonModule::callHook(const char *message) const
 
 void PythonModule::forget()
 {
-    module = py::object();
-    hookName = py::object();
+    m_module = py::object();
+    m_hookName = py::object();
 }
 
 } // namespace TTemplateEngine

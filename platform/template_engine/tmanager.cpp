@@ -1,9 +1,10 @@
 #include "tmanager.h"
 
-#include "interpreter.h"
-#include "pythonmodule.h"
+#include "python.h"
 
 #include <filesystem.h>
+#include <tdesktop.h>
+#include <tframework.h>
 
 #include <cstdio>
 #include <filesystem>
@@ -14,7 +15,7 @@ namespace TTemplateEngine {
 namespace {
 
 constexpr int kInterfaceVersion = 1;
-constexpr std::uintmax_t kMaximumSourceBytes = 16U * 1024 * 1024;
+constexpr std::uintmax_t kMaximumSourceBytes = 16ULL * 1024 * 1024;
 #ifdef _WIN32
 constexpr char kPlatformPackages[] = "packages-windows";
 #else
@@ -38,6 +39,24 @@ std::string unfitFile(const std::string &path)
     return size > kMaximumSourceBytes ? "too large for a template" : std::string();
 }
 
+const TFramework::TSendEntry *sendEntry()
+{
+    return static_cast<const TFramework::TSendEntry *>(TFramework::GetLibraryContext("Alertor"));
+}
+
+/// Python lies in a module: a program without templates starts without it. Its library's functions are there for the
+/// compiled modules that a template imports, which do not name the library.
+Python *startModule(const std::string &hostName, std::string &problem)
+{
+    void *const start =
+        TDesktop::ModuleFunction("tarrowpython", "tarrowStartPython", TDesktop::Symbols::Shared);
+    if (!start) {
+        problem = "Python is not to be had";
+        return nullptr;
+    }
+    return reinterpret_cast<StartPython *>(start)({hostName, &sendEntry}, problem);
+}
+
 } // namespace
 
 TManager::TManager(std::string hostName)
@@ -46,13 +65,13 @@ TManager::TManager(std::string hostName)
 
 TManager::~TManager()
 {
-    if (!m_interpreter)
+    if (!m_python)
         return;
-    m_interpreter->lock();
+    m_python->lock();
     // A template still in somebody's hands stays: what it holds of Python must go.
     for (const auto &loaded : m_loaded)
-        loaded->m_module->forget();
-    m_interpreter->unlock();
+        loaded->m_script->forget();
+    m_python->unlock();
 }
 
 bool TManager::initializePythonPath(int version, const char *hostName)
@@ -97,26 +116,26 @@ void TManager::normalizeTemplatesDirectories(const std::string &folder,
     directories.packages = TFileSystem::JoinPath(folder, "packages");
 }
 
-bool TManager::startInterpreter(std::string &problem)
+bool TManager::startPython(std::string &problem)
 {
     // A start that failed is not tried again: what it left behind is not known.
-    if (!m_interpreter && m_startProblem.empty())
-        m_interpreter = Interpreter::start(m_hostName, m_startProblem);
+    if (!m_python && m_startProblem.empty())
+        m_python.reset(startModule(m_hostName, m_startProblem));
     problem = m_startProblem;
-    return m_interpreter != nullptr;
+    return m_python != nullptr;
 }
 
 bool TManager::loadTemplateFromFile(const std::string &folder, const std::string &fullPath,
                                     const std::string &name, const TTemplatesDirectories &directories)
 {
     std::string problem = unfitFile(fullPath);
-    if (problem.empty() && startInterpreter(problem)) {
+    if (problem.empty() && startPython(problem)) {
         const std::vector<std::string> importable{folder, directories.host, directories.modules,
                                                   directories.platformPackages, directories.packages};
-        m_interpreter->lock();
-        if (auto module = PythonModule::load(*m_interpreter, name, fullPath, importable, problem))
+        m_python->lock();
+        if (auto module = m_python->load(name, fullPath, importable, problem))
             m_loaded.emplace_back(new TTemplate(std::move(module)), &TTemplate::Release);
-        m_interpreter->unlock();
+        m_python->unlock();
     }
     if (!problem.empty())
         std::fprintf(stderr, "Failed to load template %s from %s: %s\n", name.c_str(), fullPath.c_str(),
@@ -128,7 +147,7 @@ void TManager::fillInternalHashesMap()
 {
     m_byId.clear();
     for (const auto &loaded : m_loaded) {
-        if (!loaded->m_module->id)
+        if (!loaded->m_script->id)
             continue;
         const auto [entry, added] = m_byId.emplace(loaded->getID(), loaded.get());
         if (!added)
@@ -139,19 +158,19 @@ void TManager::fillInternalHashesMap()
 
 void TManager::acquirePython()
 {
-    if (m_interpreter)
-        m_interpreter->lock();
+    if (m_python)
+        m_python->lock();
 }
 
 void TManager::releasePython()
 {
-    if (m_interpreter)
-        m_interpreter->unlock();
+    if (m_python)
+        m_python->unlock();
 }
 
 std::string TManager::getPyExceptionStr()
 {
-    return m_interpreter ? m_interpreter->takeException() : std::string();
+    return m_python ? m_python->takeException() : std::string();
 }
 
 } // namespace TTemplateEngine

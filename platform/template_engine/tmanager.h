@@ -10,7 +10,7 @@
 
 namespace TTemplateEngine {
 
-class Interpreter;
+class Python;
 
 /// Folders beside the templates from which they may import, in this order, after the templates folder itself.
 struct TTemplatesDirectories {
@@ -57,10 +57,10 @@ public:
 private:
     explicit TManager(std::string hostName);
     ~TManager();
-    bool startInterpreter(std::string &problem);
+    bool startPython(std::string &problem);
 
     std::string m_hostName;
-    std::unique_ptr<Interpreter> m_interpreter;
+    std::unique_ptr<Python> m_python;
     std::string m_startProblem;
     std::vector<std::unique_ptr<TTemplate, decltype(&TTemplate::Release)>> m_loaded;
     std::unordered_map<std::int32_t, TTemplate *> m_byId;

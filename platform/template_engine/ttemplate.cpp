@@ -1,11 +1,11 @@
 #include "ttemplate.h"
 
-#include "pythonmodule.h"
+#include "python.h"
 
 namespace TTemplateEngine {
 
-TTemplate::TTemplate(std::unique_ptr<PythonModule> module)
-    : m_module(std::move(module))
+TTemplate::TTemplate(std::unique_ptr<TemplateScript> script)
+    : m_script(std::move(script))
 { }
 
 TTemplate::~TTemplate() = default;
@@ -18,17 +18,17 @@ void TTemplate::Release(TTemplate *instance) noexcept
 
 const std::string &TTemplate::getName() const noexcept
 {
-    return m_module->name;
+    return m_script->name;
 }
 
 std::int32_t TTemplate::getID() const noexcept
 {
-    return m_module->id.value_or(0);
+    return m_script->id.value_or(0);
 }
 
 void TTemplate::onCustomDispatcherMessageToAlertor(const char *message)
 {
-    if (!m_module->callHook(message))
+    if (!m_script->callHook(message))
         throw THookFailure();
 }
 

@@ -7,7 +7,7 @@
 
 namespace TTemplateEngine {
 
-struct PythonModule;
+class TemplateScript;
 
 /// Thrown by a hook that raised. The Python exception stays pending until TManager::getPyExceptionStr() takes it or
 /// TManager::releasePython() drops it.
@@ -37,10 +37,10 @@ public:
 
 private:
     friend class TManager;
-    explicit TTemplate(std::unique_ptr<PythonModule> module);
+    explicit TTemplate(std::unique_ptr<TemplateScript> script);
     ~TTemplate();
 
-    std::unique_ptr<PythonModule> m_module;
+    std::unique_ptr<TemplateScript> m_script;
     int m_references = 1;
 };
 

@@ -27,7 +27,7 @@ QString instanceFile(const char *suffix)
         + QStringLiteral("/tarrow-alertor.") + QLatin1String(suffix);
 }
 
-CommandLine parsed(QByteArray arguments)
+CommandLine parsed(const QByteArray &arguments)
 {
     QList<QByteArray> words = ("program " + arguments).split(' ');
     std::vector<char *> pointers;

@@ -9,8 +9,6 @@
 
 #include <optional>
 
-extern "C" int Py_IsInitialized(void);
-
 namespace {
 
 /// Source of a template that sends the messages it gets under its own name.
@@ -50,7 +48,7 @@ private Q_SLOTS:
     {
         const auto loaded = [this](const QByteArray &message) {
             Templates templates;
-            const QStringList texts = load(templates);
+            QStringList texts = load(templates);
             templates.invokeCustomMessage(0, message);
             return texts;
         };
@@ -102,14 +100,14 @@ private Q_SLOTS:
             Templates templates;
             QCOMPARE(load(templates), QStringList());
             templates.invokeCustomMessage(12, "nobody");
-            QVERIFY(!Py_IsInitialized()); // for nothing
+            QVERIFY(!pythonRuns()); // for nothing
         }
         writeFile(userFile(u"x.py"_qs),
                   "import atexit\n" + recorder("x", "0") + "atexit.register(alertor.send, 1, b'end')\n");
         Templates templates;
         load(templates);
         templates.shutdown();
-        QVERIFY(!Py_IsInitialized());
+        QVERIFY(!pythonRuns());
         templates.invokeCustomMessage(0, "late");
         templates.shutdown();
         QCOMPARE(m_link->payloads(), QList<QByteArray>{"end"});

@@ -190,7 +190,7 @@ private Q_SLOTS:
             row < 0 ? farm.list()->clearSelection() : farm.click(row);
             QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, QCursor::pos());
             QApplication::sendEvent(farm.list()->viewport(), &event);
-            const QString enabled = textsOf(farm.menu("listMenu"), true);
+            QString enabled = textsOf(farm.menu("listMenu"), true);
             QTest::keyClick(farm.menu("listMenu"), Qt::Key_Escape);
             return enabled;
         };

@@ -15,8 +15,6 @@ using TTemplateEngine::THookFailure;
 using TTemplateEngine::TManager;
 using TTemplateEngine::TTemplate;
 
-extern "C" int Py_IsInitialized(void);
-
 namespace {
 
 /// A template's source: the hook with the given body, under the ID 12.
@@ -165,7 +163,7 @@ private Q_SLOTS:
             QCOMPARE(errors.take().count('\n'), 1);
         }
         // None of them was worth an interpreter.
-        QVERIFY(!Py_IsInitialized() && engine.load(u"empty.py"_qs, QByteArray()) && Py_IsInitialized());
+        QVERIFY(!pythonRuns() && engine.load(u"empty.py"_qs, QByteArray()) && pythonRuns());
     }
 
     void idsAndNames()
@@ -206,7 +204,7 @@ private Q_SLOTS:
         QVERIFY(engine.load(u"json.py"_qs, "raise_nothing = True")); // must not stand in for the library's
         QVERIFY(engine.load(u"x.py"_qs, R"(
 from __future__ import annotations
-import alertor, dataclasses, json, own0, own1, own2, own3, own4, shared0, shared1, shared2, shared3
+import alertor, ctypes, dataclasses, json, own0, own1, own2, own3, own4, shared0, shared1, shared2, shared3
 TEMPLATE_ID = 12
 @dataclasses.dataclass
 class Record:
@@ -353,7 +351,7 @@ def onCustomDispatcherMessageToAlertor(message):
             QVERIFY(engine.load(u"x.py"_qs, hook("raise ValueError")));
             kept = engine.manager->getTemplate(12);
         }
-        QVERIFY(!Py_IsInitialized());
+        QVERIFY(!pythonRuns());
         kept->onCustomDispatcherMessageToAlertor("too late");
         TTemplate::Release(kept);
         TTemplate::Release(nullptr);

@@ -12,6 +12,8 @@
 
 #include <functional>
 
+#include <dlfcn.h>
+
 /// Writes a file and the folders above it.
 inline void writeFile(const QString &path, const QByteArray &content)
 {
@@ -19,6 +21,13 @@ inline void writeFile(const QString &path, const QByteArray &content)
     if (!QDir().mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly)
         || file.write(content) != content.size())
         qFatal("cannot write %s", qPrintable(path));
+}
+
+/// Python lies in a module that the first template loads, with its symbols for the compiled modules that templates import.
+inline bool pythonRuns()
+{
+    void *const isInitialized = dlsym(RTLD_DEFAULT, "Py_IsInitialized");
+    return isInitialized && reinterpret_cast<int (*)()>(isInitialized)() != 0;
 }
 
 /// Stands for the program's link: keeps what templates send.

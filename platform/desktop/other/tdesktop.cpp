@@ -64,7 +64,7 @@ void TDesktop::OpenStandardStreams()
         close(opened);
 }
 
-void *TDesktop::ModuleFunction(const char *module, const char *function)
+void *TDesktop::ModuleFunction(const char *module, const char *function, Symbols symbols)
 {
     std::error_code error;
     const auto folder = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
@@ -73,7 +73,8 @@ void *TDesktop::ModuleFunction(const char *module, const char *function)
         const auto path = folder / place / name;
         if (!std::filesystem::exists(path, error))
             continue;
-        void *library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+        void *library =
+            dlopen(path.c_str(), RTLD_NOW | (symbols == Symbols::Shared ? RTLD_GLOBAL : RTLD_LOCAL));
         void *found = library ? dlsym(library, function) : nullptr;
         if (!found)
             std::fprintf(stderr, "%s\n", dlerror());

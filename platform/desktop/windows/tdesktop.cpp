@@ -54,7 +54,7 @@ int TDesktop::TerminationDescriptor()
 
 void TDesktop::OpenStandardStreams() { }
 
-void *TDesktop::ModuleFunction(const char *module, const char *function)
+void *TDesktop::ModuleFunction(const char *module, const char *function, Symbols /*symbols*/)
 {
     // The system looks in the program's own folder first.
     const HMODULE library = LoadLibraryA((std::string(module) + ".dll").c_str());
