@@ -4,27 +4,19 @@
 
 #include <tappstate.h>
 
-#include <QtCore/QCoreApplication>
 #include <QtGui/QOffscreenSurface>
 #include <QtGui/QOpenGLContext>
 #include <QtGui/QOpenGLFunctions>
 #include <QtGui/QSurfaceFormat>
 
 #include <cstdio>
-#include <memory>
 #include <utility>
-
-// Exported for modules that share contexts of their own making, and declared in no header that comes with the toolkit.
-QT_BEGIN_NAMESPACE
-Q_GUI_EXPORT void qt_gl_set_global_share_context(QOpenGLContext *context);
-QT_END_NAMESPACE
 
 namespace {
 
 using Version = std::pair<int, int>;
 
-// More than a screen has would send every window of the program to a fallback visual, with a warning each; the viewer's
-// picture is drawn into a buffer of its own whatever is asked for here.
+// More than a screen has would send every window of the program to a fallback visual, with a warning each.
 constexpr int kColourBits = 8;
 
 /// A current context of a format, for as long as it stands.
@@ -110,35 +102,6 @@ void logContext(const ProbedContext &context)
     }
 }
 
-void dropSharedContext()
-{
-    delete QOpenGLContext::globalShareContext();
-    qt_gl_set_global_share_context(nullptr);
-}
-
-/// Textures are to outlive the windows they were made in: a viewer that goes full screen keeps its frames. Asked before
-/// the application object, the toolkit would load the driver there, for longer than all else takes until the icon is
-/// in the tray, and in a format that was not probed. Asked here, it warns that it has not made the context itself.
-void shareContexts()
-{
-    auto context = std::make_unique<QOpenGLContext>();
-    if (!context->create())
-        return;
-    qt_gl_set_global_share_context(context.release());
-    qAddPostRoutine(&dropSharedContext);
-    const QtMessageHandler handler =
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    qInstallMessageHandler(handler);
-}
-
-void settle(const QSurfaceFormat &format)
-{
-    dropSharedContext();
-    QSurfaceFormat::setDefaultFormat(format);
-    shareContexts();
-}
-
 } // namespace
 
 void probeOpenGl(TAppState &state)
@@ -157,7 +120,7 @@ void probeOpenGl(TAppState &state)
     if (!state.gl21Supported)
         qCDebug(lcApp, "Supports 2.1 profile: No");
     if (state.gl32Supported) {
-        settle(core32());
+        QSurfaceFormat::setDefaultFormat(core32());
         return;
     }
     qCDebug(lcApp, "Supports 3.2 profile: No");
@@ -166,5 +129,5 @@ void probeOpenGl(TAppState &state)
         return;
     }
     qCDebug(lcApp, "Setting default openGL format to compatibility profile 2.1");
-    settle(compatibility21());
+    QSurfaceFormat::setDefaultFormat(compatibility21());
 }

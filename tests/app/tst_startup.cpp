@@ -7,7 +7,6 @@
 #include <tappstate.h>
 
 #include <QtCore/QStandardPaths>
-#include <QtGui/QOpenGLContext>
 #include <QtGui/QSurfaceFormat>
 #include <QtNetwork/QLocalSocket>
 #include <QtTest/QSignalSpy>
@@ -116,7 +115,6 @@ private Q_SLOTS:
                      forceGl2 ? QSurfaceFormat::CompatibilityProfile : QSurfaceFormat::CoreProfile);
             QCOMPARE(format.swapBehavior(), QSurfaceFormat::DoubleBuffer);
         }
-        QVERIFY(QOpenGLContext::globalShareContext());
     }
 
     void othersAreKeptOut()

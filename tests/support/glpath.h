@@ -2,11 +2,11 @@
 
 #include <tappstate.h>
 
-#include <QtCore/QCoreApplication>
+#include <QtCore/QByteArray>
 #include <QtGui/QSurfaceFormat>
 
 /// What the program's probe does, before the application object: the core path, or with TARROW_GL=2.1 in the environment
-/// the compatibility path. Textures are shared among windows.
+/// the compatibility path.
 inline void chooseGlPath()
 {
     const bool core = qgetenv("TARROW_GL") != "2.1";
@@ -17,5 +17,4 @@ inline void chooseGlPath()
     format.setVersion(core ? 3 : 2, core ? 2 : 1);
     format.setProfile(core ? QSurfaceFormat::CoreProfile : QSurfaceFormat::CompatibilityProfile);
     QSurfaceFormat::setDefaultFormat(format);
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
 }

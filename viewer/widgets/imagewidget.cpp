@@ -9,7 +9,6 @@
 #include <QtGui/QMouseEvent>
 #include <QtGui/QOpenGLContext>
 #include <QtGui/QWheelEvent>
-#include <QtOpenGL/QOpenGLFramebufferObject>
 #include <QtWidgets/QApplication>
 
 #include <cmath>
@@ -28,47 +27,17 @@ bool hasFloatTextures(const QOpenGLContext &context)
 
 } // namespace
 
-/// The widget's context, current for as long as this stands; brought up first when the widget was never shown.
-class imageWidget::Current {
-    Q_DISABLE_COPY_MOVE(Current)
-
-public:
-    explicit Current(imageWidget &widget)
-        : m_widget(widget)
-    {
-        // A grab is what initialises a widget that has not been shown.
-        if (!widget.m_renderer && !widget.isValid())
-            widget.grabFramebuffer();
-        m_entered = widget.m_renderer && QOpenGLContext::currentContext() != widget.context();
-        if (m_entered)
-            widget.makeCurrent();
-    }
-    ~Current()
-    {
-        if (m_entered)
-            m_widget.doneCurrent();
-    }
-
-    explicit operator bool() const
-    {
-        return m_widget.m_renderer && QOpenGLContext::currentContext() == m_widget.context();
-    }
-
-private:
-    imageWidget &m_widget;
-    bool m_entered = false;
-};
-
 imageWidget::imageWidget(QWidget *parent)
-    : QOpenGLWidget(parent)
+    : GlPane(parent)
 { }
 
 imageWidget::~imageWidget()
 {
     stopPanning();
-    // The base destroys the context when the members are gone.
-    disconnect(m_contextEnds);
-    releaseRenderer();
+    if (m_renderer)
+        makeCurrent();
+    m_renderer.reset();
+    endContext();
 }
 
 const ImageFrame *imageWidget::frame() const
@@ -86,11 +55,6 @@ QPoint imageWidget::pan() const
     return m_pan;
 }
 
-QSize imageWidget::viewSize() const
-{
-    return size() * devicePixelRatio();
-}
-
 QSize imageWidget::displayedSize() const
 {
     return viewGeometry().displayedSize();
@@ -103,24 +67,12 @@ bool imageWidget::floatTexturesUsable() const
 
 QImage imageWidget::grabPicture()
 {
-    const Current current(*this);
-    if (!current || !m_frame || m_frame->textureNames.empty())
-        return {};
-    const PlaneSize size = m_frame->planeSizes.front();
-    const QSize pixels(size.width, size.height);
-    QOpenGLFramebufferObject target(pixels);
-    if (!target.isValid() || !target.bind())
+    if (!m_frame || m_frame->textureNames.empty())
         return {};
     ViewGeometry whole;
-    whole.view = pixels;
-    whole.frame = pixels;
-    m_renderer->drawPicture({m_frame, whole, m_look});
-    // What shone through has been mixed in already.
-    glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_TRUE);
-    glClear(GL_COLOR_BUFFER_BIT);
-    glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
-    target.release();
-    return target.toImage().convertToFormat(QImage::Format_RGB32);
+    whole.frame = {m_frame->planeSizes.front().width, m_frame->planeSizes.front().height};
+    whole.view = whole.frame;
+    return drawn(whole.view, [&] { m_renderer->drawPicture({m_frame, whole, m_look}); });
 }
 
 QPoint imageWidget::setPan(QPoint wanted)
@@ -131,13 +83,13 @@ QPoint imageWidget::setPan(QPoint wanted)
 
 void imageWidget::uploadTextures(ImageFrame &frame)
 {
-    if (const Current current(*this); current)
+    if (makeCurrent())
         m_renderer->textures().upload(frame);
 }
 
 void imageWidget::deleteTextures(ImageFrame &frame)
 {
-    if (const Current current(*this); current)
+    if (makeCurrent())
         m_renderer->textures().remove(frame);
     frame.textureNames.clear();
 }
@@ -222,21 +174,11 @@ void imageWidget::initializeGL()
     m_floatTexturesUsable = core || hasFloatTextures(*context());
     QOpenGLFunctions &gl = *this;
     m_renderer = std::make_unique<PictureRenderer>(gl, core);
-    m_contextEnds =
-        connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &imageWidget::releaseRenderer);
     Q_EMIT initialized();
-}
-
-void imageWidget::resizeGL(int /*width*/, int /*height*/)
-{
-    // The viewport is set with each paint, from the same size in device pixels.
-    Q_EMIT resized();
 }
 
 void imageWidget::paintGL()
 {
-    if (!m_renderer)
-        return;
     const ViewGeometry view = viewGeometry();
     const PictureRenderer::Scene scene{m_frame, view, m_look};
     m_renderer->drawPicture(scene);
@@ -246,6 +188,12 @@ void imageWidget::paintGL()
     if (m_hudLines.isEmpty())
         m_hudLines = hudLines(*m_frame);
     m_renderer->drawHud(scene, m_hudLines, devicePixelRatio());
+}
+
+void imageWidget::resizeEvent(QResizeEvent *event)
+{
+    GlPane::resizeEvent(event);
+    Q_EMIT resized();
 }
 
 bool imageWidget::event(QEvent *event)
@@ -260,13 +208,13 @@ bool imageWidget::event(QEvent *event)
     default:
         break;
     }
-    return QOpenGLWidget::event(event);
+    return GlPane::event(event);
 }
 
 void imageWidget::mousePressEvent(QMouseEvent *event)
 {
     if (event->buttons() != Qt::MiddleButton || m_panning) {
-        QOpenGLWidget::mousePressEvent(event);
+        GlPane::mousePressEvent(event);
         return;
     }
     m_pressPosition = devicePosition(*event);
@@ -282,7 +230,7 @@ void imageWidget::mouseMoveEvent(QMouseEvent *event)
     if (m_panning && !(event->buttons() & Qt::MiddleButton))
         stopPanning();
     if (!m_panning) {
-        QOpenGLWidget::mouseMoveEvent(event);
+        GlPane::mouseMoveEvent(event);
         return;
     }
     const QPoint wanted = m_pressPan - (devicePosition(*event) - m_pressPosition);
@@ -293,7 +241,7 @@ void imageWidget::mouseMoveEvent(QMouseEvent *event)
 void imageWidget::mouseReleaseEvent(QMouseEvent *event)
 {
     if (!m_panning) {
-        QOpenGLWidget::mouseReleaseEvent(event);
+        GlPane::mouseReleaseEvent(event);
         return;
     }
     stopPanning();
@@ -347,12 +295,4 @@ void imageWidget::stopPanning()
         return;
     setMouseTracking(false);
     QApplication::restoreOverrideCursor();
-}
-
-void imageWidget::releaseRenderer()
-{
-    if (!m_renderer)
-        return;
-    const Current current(*this);
-    m_renderer.reset();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "glpane.h"
 #include "picturelook.h"
 #include "viewgeometry.h"
 
@@ -8,7 +9,6 @@
 #include <QtCore/QStringList>
 #include <QtGui/QImage>
 #include <QtGui/QOpenGLFunctions>
-#include <QtOpenGLWidgets/QOpenGLWidget>
 
 #include <memory>
 
@@ -17,7 +17,7 @@ class PictureRenderer;
 /// Shows one frame, calibrated and zoomed, over a checker; the middle button asks to pan, the wheel to zoom.
 /// All sizes and offsets here are device pixels: at zoom 1 a pixel of the frame is one of the screen.
 /// Without a usable context it shows nothing and says so in the log.
-class imageWidget final : public QOpenGLWidget, public FrameDisplay, private QOpenGLFunctions {
+class imageWidget final : public GlPane, public FrameDisplay, private QOpenGLFunctions {
     Q_OBJECT
 
 public:
@@ -27,8 +27,6 @@ public:
     const ImageFrame *frame() const;
     float zoomFactor() const;
     QPoint pan() const;
-    /// Of the widget's picture area.
-    QSize viewSize() const;
     /// The frame's size times the zoom; of 320 x 240 pixels without a frame.
     QSize displayedSize() const;
     /// Known once the context is initialised, see initialized().
@@ -67,13 +65,13 @@ Q_SIGNALS:
     void zoomOutRequested();
     /// The view has another size.
     void resized();
-    /// A context has come up; again after the widget has moved to another window.
+    /// The context has come up.
     void initialized();
 
 protected:
     void initializeGL() override;
-    void resizeGL(int width, int height) override;
     void paintGL() override;
+    void resizeEvent(QResizeEvent *event) override;
     bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -81,17 +79,13 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    class Current;
-
     template <typename T>
     void change(T &member, const T &value);
     ViewGeometry viewGeometry() const;
     QPoint devicePosition(const QMouseEvent &event) const;
     void stopPanning();
-    void releaseRenderer();
 
     std::unique_ptr<PictureRenderer> m_renderer; ///< while there is a context
-    QMetaObject::Connection m_contextEnds;
     ImageFrame *m_frame = nullptr;
     QStringList m_hudLines; ///< of the frame; empty until they are painted
     PictureLook m_look;

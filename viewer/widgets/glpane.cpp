@@ -1,0 +1,151 @@
+#include "glpane.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
+#include <QtGui/QOffscreenSurface>
+#include <QtGui/QOpenGLContext>
+#include <QtGui/QSurfaceFormat>
+#include <QtGui/QWindow>
+#include <QtOpenGL/QOpenGLFramebufferObject>
+
+namespace {
+
+const QEvent::Type kUpdate = QEvent::Type(QEvent::registerEventType());
+
+/// What lies below the picture is never seen through it.
+QSurfaceFormat opaqueFormat()
+{
+    QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+    format.setAlphaBufferSize(0);
+    return format;
+}
+
+} // namespace
+
+GlPane::GlPane(QWidget *parent)
+    : QWidget(parent)
+    , m_window(new QWindow)
+{
+    m_window->setSurfaceType(QSurface::OpenGLSurface);
+    m_window->setFormat(opaqueFormat());
+    m_window->setFlags(Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus);
+    m_window->installEventFilter(this);
+    m_holder = QWidget::createWindowContainer(m_window, this);
+    m_holder->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_holder->setFocusPolicy(Qt::NoFocus);
+}
+
+GlPane::~GlPane()
+{
+    endContext();
+}
+
+void GlPane::endContext()
+{
+    m_window->removeEventFilter(this);
+    m_failed = true;
+    m_context.reset();
+}
+
+bool GlPane::createContext()
+{
+    if (m_failed)
+        return false;
+    m_context = std::make_unique<QOpenGLContext>();
+    m_context->setFormat(opaqueFormat());
+    m_offscreen = std::make_unique<QOffscreenSurface>();
+    m_offscreen->setFormat(opaqueFormat());
+    m_offscreen->create();
+    m_failed = !m_context->create() || !m_context->makeCurrent(m_offscreen.get());
+    if (m_failed)
+        m_context.reset();
+    else
+        initializeGL();
+    return !m_failed;
+}
+
+bool GlPane::isCurrent() const
+{
+    return m_context && QOpenGLContext::currentContext() == m_context.get();
+}
+
+bool GlPane::makeCurrent()
+{
+    if (!m_context)
+        return createContext();
+    QSurface *surface = m_offscreen.get();
+    if (m_window->handle())
+        surface = m_window;
+    return (isCurrent() && m_context->surface() == surface) || m_context->makeCurrent(surface);
+}
+
+void GlPane::doneCurrent()
+{
+    if (m_context)
+        m_context->doneCurrent();
+}
+
+QSize GlPane::viewSize() const
+{
+    return size() * devicePixelRatio();
+}
+
+QImage GlPane::grabFramebuffer()
+{
+    return drawn(viewSize(), [this] { paintGL(); });
+}
+
+QImage GlPane::drawn(QSize pixels, const std::function<void()> &draw)
+{
+    if (!makeCurrent())
+        return {};
+    // Without alpha, as on the screen.
+    QOpenGLFramebufferObject target(pixels, QOpenGLFramebufferObject::NoAttachment, GL_TEXTURE_2D, GL_RGB8);
+    if (!target.isValid() || !target.bind())
+        return {};
+    draw();
+    target.release();
+    return target.toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+void GlPane::update()
+{
+    if (m_updatePosted)
+        return;
+    m_updatePosted = true;
+    QCoreApplication::postEvent(this, new QEvent(kUpdate), Qt::LowEventPriority);
+}
+
+void GlPane::present()
+{
+    if (!m_window->isExposed() || !makeCurrent())
+        return;
+    paintGL();
+    m_context->swapBuffers(m_window);
+    Q_EMIT frameSwapped();
+}
+
+bool GlPane::event(QEvent *event)
+{
+    if (event->type() != kUpdate)
+        return QWidget::event(event);
+    m_updatePosted = false;
+    present();
+    return true;
+}
+
+bool GlPane::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Expose) {
+        update();
+    } else if (event->type() == QEvent::PlatformSurface && isCurrent()) {
+        m_context->doneCurrent(); // before its window goes
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void GlPane::resizeEvent(QResizeEvent *event)
+{
+    m_holder->setGeometry(rect());
+    QWidget::resizeEvent(event);
+}
