@@ -308,6 +308,7 @@ void ImageViewer::showGlFullscreen()
     imageWidget &image = picture();
     if (image.isWindow())
         return;
+    content()->setFocus(); // or the next field would take the focus, and show it ever after
     image.setParent(this, Qt::Window);
     image.setWindowTitle(windowTitle());
     image.showFullScreen();

@@ -2,9 +2,11 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
+#include <QtGui/QMouseEvent>
 #include <QtGui/QOffscreenSurface>
 #include <QtGui/QOpenGLContext>
 #include <QtGui/QSurfaceFormat>
+#include <QtGui/QWheelEvent>
 #include <QtGui/QWindow>
 #include <QtOpenGL/QOpenGLFramebufferObject>
 
@@ -127,21 +129,55 @@ void GlPane::present()
 
 bool GlPane::event(QEvent *event)
 {
-    if (event->type() != kUpdate)
-        return QWidget::event(event);
-    m_updatePosted = false;
-    present();
-    return true;
+    if (event->type() == kUpdate) {
+        m_updatePosted = false;
+        present();
+        return true;
+    }
+    // A Wayland window does not follow to another parent: it is made anew there.
+    if (event->type() == QEvent::ParentAboutToChange)
+        m_window->destroy();
+    return QWidget::event(event);
 }
 
 bool GlPane::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Expose) {
+    switch (event->type()) {
+    case QEvent::Expose:
         update();
-    } else if (event->type() == QEvent::PlatformSurface && isCurrent()) {
-        m_context->doneCurrent(); // before its window goes
+        break;
+    case QEvent::PlatformSurface:
+        if (isCurrent())
+            m_context->doneCurrent(); // before its window goes
+        break;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+        passOn(static_cast<QSinglePointEvent &>(*event));
+        return true;
+    default:
+        break;
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void GlPane::passOn(const QSinglePointEvent &event)
+{
+    const QPointF position = event.position() + mapTo(window(), QPoint());
+    QWindow *receiver = window()->windowHandle();
+    if (event.type() != QEvent::Wheel) {
+        QMouseEvent mouse(event.type(), position, position, event.globalPosition(), event.button(),
+                          event.buttons(), event.modifiers(), event.pointingDevice());
+        QCoreApplication::sendEvent(receiver, &mouse);
+        return;
+    }
+    const auto &turned = static_cast<const QWheelEvent &>(event);
+    QWheelEvent wheel(position, event.globalPosition(), turned.pixelDelta(), turned.angleDelta(),
+                      event.buttons(), event.modifiers(), turned.phase(), turned.inverted(), turned.source(),
+                      event.pointingDevice());
+    QCoreApplication::sendEvent(receiver, &wheel);
 }
 
 void GlPane::resizeEvent(QResizeEvent *event)

@@ -8,6 +8,7 @@
 
 class QOffscreenSurface;
 class QOpenGLContext;
+class QSinglePointEvent;
 class QWindow;
 
 /// A widget that is drawn by OpenGL, in a context of its own, on a window of its own within the widget's: what else its
@@ -59,6 +60,8 @@ protected:
 private:
     bool createContext();
     void present();
+    /// To the widget's window, where the system gives its input to the window within.
+    void passOn(const QSinglePointEvent &event);
 
     QWindow *m_window = nullptr; // the holder's
     QWidget *m_holder = nullptr; // a child of this
