@@ -171,6 +171,8 @@ int main(int argc, char **argv)
             writeSample(sample);
             return true;
         });
+        // Brings in the module that decodes, which no single load is to answer for.
+        IImageCore::Probe(sample.path.c_str());
         printMemory(sample);
     }
     for (const ExrSample &sample : samples) {

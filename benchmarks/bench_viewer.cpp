@@ -147,12 +147,13 @@ void measurePlaying(const QTemporaryDir &folder)
     bare.picture.show();
     bare.load(file(1));
     bare.load(file(2));
-    const double beyond = measureSteps(*timeline, bare, viewer->picture().size(), file);
-    printPromise("playing cached frames, ms a frame beyond its paint, to the limit", beyond, kStepLimit, 1.0);
-    // The toolkit copies what it shows of a window that has OpenGL in it, so that the size counts.
-    viewer->resize(kLargeWindow);
-    settle();
-    measureSteps(*timeline, bare, viewer->picture().size(), file);
+    for (const char *name : {"playing cached frames, ms a frame beyond its paint, to the limit",
+                             "playing in a large window, ms a frame beyond its paint, to the limit"}) {
+        const double beyond = measureSteps(*timeline, bare, viewer->picture().size(), file);
+        printPromise(name, beyond, kStepLimit, 1.0);
+        viewer->resize(kLargeWindow);
+        settle();
+    }
 }
 
 void measureOpening(const QTemporaryDir &folder)

@@ -55,7 +55,7 @@ void writePart(Imf::MultiPartOutputFile &file, int part, const ExrSpec &spec)
             for (int x = data.min.x; x <= data.max.x; x += step)
                 planes[i].push_back(sampleBits(testValue(x, y, int(i)), type));
         }
-        const auto columns = std::size_t((data.max.x - data.min.x) / step + 1);
+        const auto columns = std::size_t(data.max.x - data.min.x) / std::size_t(step) + 1;
         buffer.insert(name, Imf::Slice::Make(type, planes[i].data(), data, 4, 4 * columns, step, step));
     }
     const int rows = spec.data.max.y - spec.data.min.y + 1;
@@ -70,7 +70,7 @@ void writePart(Imf::MultiPartOutputFile &file, int part, const ExrSpec &spec)
     }
 }
 
-constexpr int kDeepSize = 4;
+constexpr std::size_t kDeepSize = 4;
 
 void writeDeepPart(Imf::MultiPartOutputFile &file, int part)
 {
@@ -148,6 +148,7 @@ void writeExr(const std::string &path, const ExrSpec &spec)
 void writeExr(const std::string &path, const std::vector<ExrSpec> &parts)
 {
     std::vector<Imf::Header> headers;
+    headers.reserve(parts.size());
     for (const ExrSpec &part : parts)
         headers.push_back(headerOf(part));
     Imf::MultiPartOutputFile file(path.c_str(), headers.data(), int(headers.size()));

@@ -24,7 +24,7 @@ constexpr double k16Bits = 1e-4;
 const QByteArray kStraightWebp =
     "524946461e000000574542505650384c110000002f160004100750b22297a7808188e87f0000";
 
-OIIO::ImageSpec picture(int channels, TypeDesc type)
+OIIO::ImageSpec picture(int channels, const TypeDesc &type)
 {
     return OIIO::ImageSpec(kWidth, kHeight, channels, type);
 }

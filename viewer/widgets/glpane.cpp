@@ -73,18 +73,12 @@ bool GlPane::isCurrent() const
 
 bool GlPane::makeCurrent()
 {
-    if (!m_context)
-        return createContext();
+    if (!m_context && !createContext())
+        return false;
     QSurface *surface = m_offscreen.get();
     if (m_window->handle())
         surface = m_window;
     return (isCurrent() && m_context->surface() == surface) || m_context->makeCurrent(surface);
-}
-
-void GlPane::doneCurrent()
-{
-    if (m_context)
-        m_context->doneCurrent();
 }
 
 QSize GlPane::viewSize() const

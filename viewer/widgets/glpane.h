@@ -27,13 +27,13 @@ public:
     QOpenGLContext *context() const { return m_context.get(); }
     /// False without a usable context.
     bool makeCurrent();
-    void doneCurrent();
-    bool isCurrent() const;
 
     /// What is drawn, in device pixels; needs no window on the screen. Null without a usable context.
     QImage grabFramebuffer();
     /// In device pixels.
     QSize viewSize() const;
+    /// Draws viewSize() pixels into the framebuffer that is bound, in the current context.
+    virtual void paintGL() = 0;
 
 public Q_SLOTS:
     /// Draws soon, once for any number of calls.
@@ -46,8 +46,6 @@ Q_SIGNALS:
 protected:
     /// The context has come up and is current.
     virtual void initializeGL() = 0;
-    /// Draws viewSize() pixels into the framebuffer that is bound.
-    virtual void paintGL() = 0;
     /// What is drawn into a framebuffer of this size; null without a usable context.
     QImage drawn(QSize pixels, const std::function<void()> &draw);
     /// For the derived class's destructor, when it has let go of what it made: nothing is drawn from here on.
@@ -59,6 +57,7 @@ protected:
 
 private:
     bool createContext();
+    bool isCurrent() const;
     void present();
     /// To the widget's window, where the system gives its input to the window within.
     void passOn(const QSinglePointEvent &event);

@@ -34,6 +34,7 @@ public:
     /// The frame at its own pixels on the checker and the background, without border and HUD; needs no window on the
     /// screen. Null without a frame or a context.
     QImage grabPicture();
+    void paintGL() override;
 
     /// Keeps the wanted offset within the displayed picture; returns what it became.
     QPoint setPan(QPoint wanted);
@@ -70,7 +71,6 @@ Q_SIGNALS:
 
 protected:
     void initializeGL() override;
-    void paintGL() override;
     void resizeEvent(QResizeEvent *event) override;
     bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
