@@ -1,5 +1,7 @@
 #include "glpane.h"
 
+#include "viewerlog.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtGui/QMouseEvent>
@@ -32,6 +34,9 @@ GlPane::GlPane(QWidget *parent)
     m_window->setFormat(opaqueFormat());
     m_window->setFlags(Qt::WindowTransparentForInput | Qt::WindowDoesNotAcceptFocus);
     m_window->installEventFilter(this);
+    // The same size is another number of device pixels there. Queued: the widget hears of its screen later.
+    connect(m_window, &QWindow::screenChanged, this, &GlPane::resized, Qt::QueuedConnection);
+    connect(m_window, &QWindow::screenChanged, this, &GlPane::update);
     m_holder = QWidget::createWindowContainer(m_window, this);
     m_holder->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_holder->setFocusPolicy(Qt::NoFocus);
@@ -59,11 +64,13 @@ bool GlPane::createContext()
     m_offscreen->setFormat(opaqueFormat());
     m_offscreen->create();
     m_failed = !m_context->create() || !m_context->makeCurrent(m_offscreen.get());
-    if (m_failed)
+    if (m_failed) {
+        qCWarning(lcViewer, "No OpenGL context comes up: pictures are not shown");
         m_context.reset();
-    else
-        initializeGL();
-    return !m_failed;
+        return false;
+    }
+    initializeGL();
+    return true;
 }
 
 bool GlPane::isCurrent() const
@@ -178,4 +185,5 @@ void GlPane::resizeEvent(QResizeEvent *event)
 {
     m_holder->setGeometry(rect());
     QWidget::resizeEvent(event);
+    Q_EMIT resized();
 }

@@ -15,7 +15,7 @@ class QWindow;
 /// window shows is painted and brought to the screen without it. A QOpenGLWidget has its window composed by OpenGL, all of
 /// it whenever a part of it changes.
 /// The input goes to the widget. The context comes up when it is first needed and stays until the widget ends, whatever
-/// windows it moves to; without a usable one, nothing is drawn.
+/// windows it moves to; without a usable one, nothing is drawn and the log says so.
 class GlPane : public QWidget {
     Q_OBJECT
 
@@ -42,6 +42,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// What was drawn is on its way to the screen.
     void frameSwapped();
+    /// The view has another size.
+    void resized();
 
 protected:
     /// The context has come up and is current.

@@ -190,12 +190,6 @@ void imageWidget::paintGL()
     m_renderer->drawHud(scene, m_hudLines, devicePixelRatio());
 }
 
-void imageWidget::resizeEvent(QResizeEvent *event)
-{
-    GlPane::resizeEvent(event);
-    Q_EMIT resized();
-}
-
 bool imageWidget::event(QEvent *event)
 {
     switch (event->type()) {

@@ -64,14 +64,11 @@ Q_SIGNALS:
     void verticalScrollRequested(int value);
     void zoomInRequested();
     void zoomOutRequested();
-    /// The view has another size.
-    void resized();
     /// The context has come up.
     void initialized();
 
 protected:
     void initializeGL() override;
-    void resizeEvent(QResizeEvent *event) override;
     bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
