@@ -1,6 +1,6 @@
 #include "commandline.h"
 
-#include <product.h>
+#include <ui/product.h>
 
 #include <cstdlib>
 #include <string_view>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <settings.h>
+#include <notify/settings/settings.h>
 
 #include <QtCore/QString>
 

@@ -1,16 +1,16 @@
 #include "commandline.h"
-#include "glprobe.h"
-#include "look.h"
 #include "qtsingleapplication.h"
 #include "splash.h"
 #include "templates.h"
 
-#include <alertor.h>
-#include <language.h>
-#include <product.h>
-#include <tappstate.h>
-#include <tdesktop.h>
-#include <tframework.h>
+#include <framework/tframework.h>
+#include <notify/alertor.h>
+#include <system/tdesktop.h>
+#include <ui/glprobe.h>
+#include <ui/language.h>
+#include <ui/look.h>
+#include <ui/product.h>
+#include <ui/tappstate.h>
 
 #include <QtCore/QSocketNotifier>
 

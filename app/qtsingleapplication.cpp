@@ -1,6 +1,6 @@
 #include "qtsingleapplication.h"
 
-#include "applog.h"
+#include <ui/applog.h>
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>

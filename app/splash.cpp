@@ -1,7 +1,7 @@
 #include "splash.h"
 
-#include <product.h>
-#include <windowshadow.h>
+#include <ui/product.h>
+#include <ui/windowshadow.h>
 
 #include <QtWidgets/QLabel>
 

@@ -1,9 +1,9 @@
 #include "templates.h"
 
-#include <filesystem.h>
-#include <stringhelper.h>
-#include <tframework.h>
-#include <tmanager.h>
+#include <framework/filesystem.h>
+#include <framework/stringhelper.h>
+#include <framework/tframework.h>
+#include <template_engine/tmanager.h>
 
 #include <algorithm>
 #include <cstdio>

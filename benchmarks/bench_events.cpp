@@ -3,11 +3,11 @@
 
 #include "ratio.h"
 
-#include <alertor.h>
-#include <eventbuilder.h>
-#include <notifyevent.h>
-#include <packets.h>
-#include <stringhelper.h>
+#include <framework/stringhelper.h>
+#include <net/packets.h>
+#include <notify/alertor.h>
+#include <notify/events/eventbuilder.h>
+#include <notify/events/notifyevent.h>
 
 #include <QtWidgets/QApplication>
 

@@ -4,10 +4,10 @@
 #include "exrreaders.h"
 #include "ratio.h"
 
-#include <framecache.h>
-#include <framedisplay.h>
-#include <frameloader.h>
-#include <framesequence.h>
+#include <viewer/frames/framecache.h>
+#include <viewer/frames/framedisplay.h>
+#include <viewer/frames/frameloader.h>
+#include <viewer/frames/framesequence.h>
 
 #include <algorithm>
 #include <chrono>

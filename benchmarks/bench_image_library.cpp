@@ -4,7 +4,7 @@
 #include "exrreaders.h"
 #include "ratio.h"
 
-#include <iimagecore.h>
+#include <image_library/iimagecore.h>
 
 #include <benchmark/benchmark.h>
 

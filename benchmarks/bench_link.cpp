@@ -3,9 +3,9 @@
 
 #include "ratio.h"
 
-#include <frames.h>
-#include <packets.h>
-#include <qlwtcpsocket.h>
+#include <net/packets.h>
+#include <net/qlwtcpsocket.h>
+#include <net/wire.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>
@@ -20,14 +20,14 @@
 
 namespace {
 
-constexpr int kFrames = 200'000;
+constexpr int kMessages = 200'000;
 constexpr int kPayload = 150;
 constexpr double kPromise = 1.5;
 
 const QByteArray &wire()
 {
     static const QByteArray bytes =
-        encodeFrame(FrameHeader::Plain, CMD_NOTIFICATION, QByteArray(kPayload, 'x')).repeated(kFrames);
+        encodeMessage(MessageHeader::Plain, CMD_NOTIFICATION, QByteArray(kPayload, 'x')).repeated(kMessages);
     return bytes;
 }
 
@@ -67,7 +67,7 @@ double receiveMessages()
         uint command = 0;
         while (socket.getMessage(&command, &payload, nullptr))
             ++messages;
-        if (messages == kFrames)
+        if (messages == kMessages)
             loop.quit();
     });
     return receive(socket, loop);
@@ -92,7 +92,7 @@ void bench(benchmark::State &state, double (*work)())
 {
     for (auto _ : state)
         state.SetIterationTime(work() / 1000);
-    state.SetItemsProcessed(state.iterations() * kFrames);
+    state.SetItemsProcessed(state.iterations() * kMessages);
 }
 
 } // namespace
@@ -108,6 +108,6 @@ int main(int argc, char **argv)
         ->Unit(benchmark::kMillisecond);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    printRatio("link: ms for 200,000 frames, to a bare socket", &receiveMessages, &receiveBytes, kPromise);
+    printRatio("link: ms for 200,000 messages, to a bare socket", &receiveMessages, &receiveBytes, kPromise);
     return 0;
 }

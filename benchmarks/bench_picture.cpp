@@ -4,9 +4,9 @@
 
 #include "ratio.h"
 
-#include <imageframe.h>
-#include <imagewidget.h>
-#include <tappstate.h>
+#include <ui/tappstate.h>
+#include <viewer/frames/imageframe.h>
+#include <viewer/widgets/imagewidget.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QFloat16>

@@ -2,8 +2,8 @@
 
 #include "ratio.h"
 
-#include <templates.h>
-#include <tframework.h>
+#include <app/templates.h>
+#include <framework/tframework.h>
 
 #include <QtCore/QByteArray>
 #include <QtCore/QDir>

@@ -2,13 +2,13 @@
 
 #include "ratio.h"
 
-#include <cachetotals.h>
-#include <filesystem.h>
-#include <framecache.h>
-#include <framedisplay.h>
-#include <imagesallocationwidget.h>
-#include <imagesmarkerwidget.h>
-#include <imagetimeline.h>
+#include <framework/filesystem.h>
+#include <viewer/frames/cachetotals.h>
+#include <viewer/frames/framecache.h>
+#include <viewer/frames/framedisplay.h>
+#include <viewer/widgets/imagesallocationwidget.h>
+#include <viewer/widgets/imagesmarkerwidget.h>
+#include <viewer/widgets/imagetimeline.h>
 
 #include <QtGui/QPixmap>
 #include <QtWidgets/QApplication>

@@ -5,13 +5,13 @@
 
 #include "ratio.h"
 
-#include <cachetotals.h>
-#include <framecache.h>
-#include <frameloader.h>
-#include <imagetimeline.h>
-#include <imageviewer.h>
-#include <imagewidget.h>
-#include <tappstate.h>
+#include <ui/tappstate.h>
+#include <viewer/frames/cachetotals.h>
+#include <viewer/frames/framecache.h>
+#include <viewer/frames/frameloader.h>
+#include <viewer/imageviewer.h>
+#include <viewer/widgets/imagetimeline.h>
+#include <viewer/widgets/imagewidget.h>
 
 #include <ImfRgbaFile.h>
 

@@ -1,6 +1,6 @@
 #include "fuzzing.h"
 
-#include <settingscipher.h>
+#include <notify/settings/settingscipher.h>
 
 #include <QtCore/QLoggingCategory>
 

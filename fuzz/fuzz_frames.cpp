@@ -1,14 +1,14 @@
 #include "fuzzing.h"
 
-#include <framereader.h>
+#include <net/messagereader.h>
 
 #include <algorithm>
 
 namespace {
 
-/// The frames that a stream holds, one digest for all of them; `broken` tells how it ended.
+/// The messages that a stream holds, one digest for all of them; `broken` tells how it ended.
 struct Drained {
-    std::size_t frames = 0;
+    std::size_t messages = 0;
     std::size_t digest = 0;
     bool broken = false;
 
@@ -17,28 +17,30 @@ struct Drained {
 
 Drained drain(QByteArrayView stream, qsizetype piece)
 {
-    FrameReader reader;
-    RawFrame frame;
+    MessageReader reader;
+    RawMessage message;
     Drained result;
     qsizetype consumed = 0;
     for (qsizetype at = 0; at < stream.size() && !result.broken; at += piece) {
         const QByteArrayView bytes = stream.sliced(at, std::min(piece, stream.size() - at));
         reader.append(bytes);
-        while (reader.take(frame) == FrameReader::Next::Frame) {
-            ++result.frames;
-            consumed += FrameHeader::kSize + frame.payload.size();
-            require(frame.payload.size() == frame.header.length && frame.beyond.size() == reader.size());
-            result.digest = qHash(frame.payload, result.digest ^ frame.header.command ^ frame.header.type);
+        while (reader.take(message) == MessageReader::Next::Message) {
+            ++result.messages;
+            consumed += MessageHeader::kSize + message.payload.size();
+            require(message.payload.size() == message.header.length
+                    && message.beyond.size() == reader.size());
+            result.digest =
+                qHash(message.payload, result.digest ^ message.header.command ^ message.header.type);
         }
         require(consumed + reader.size() == at + bytes.size());
-        result.broken = reader.next() == FrameReader::Next::Broken;
+        result.broken = reader.next() == MessageReader::Next::Broken;
     }
     return result;
 }
 
 } // namespace
 
-/// The first byte says in what pieces the rest arrives: they make no difference to the frames.
+/// The first byte says in what pieces the rest arrives: they make no difference to the messages.
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     if (size < 1)

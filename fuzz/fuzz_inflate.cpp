@@ -1,6 +1,6 @@
 #include "fuzzing.h"
 
-#include <inflate.h>
+#include <notify/settings/inflate.h>
 
 #include <QtCore/QtEndian>
 

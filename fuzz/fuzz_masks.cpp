@@ -1,8 +1,8 @@
 #include "fuzzing.h"
 
-#include <filesystem.h>
-#include <framesequence.h>
-#include <stringhelper.h>
+#include <framework/filesystem.h>
+#include <framework/stringhelper.h>
+#include <viewer/frames/framesequence.h>
 
 #include <cstring>
 

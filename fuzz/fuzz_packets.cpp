@@ -1,8 +1,8 @@
 #include "fuzzing.h"
 
-#include <eventbuilder.h>
-#include <notifyevent.h>
-#include <packets.h>
+#include <net/packets.h>
+#include <notify/events/eventbuilder.h>
+#include <notify/events/notifyevent.h>
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "fuzzing.h"
 
-#include <stringhelper.h>
-#include <tchunk.h>
-#include <tjob.h>
+#include <client_lib/tchunk.h>
+#include <client_lib/tjob.h>
+#include <framework/stringhelper.h>
 
 using namespace TClientLib;
 

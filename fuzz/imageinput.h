@@ -2,7 +2,7 @@
 
 #include "fuzzing.h"
 
-#include <iimagecore.h>
+#include <image_library/iimagecore.h>
 
 #include <sanitizer/asan_interface.h>
 

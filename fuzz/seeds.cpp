@@ -1,6 +1,7 @@
+#include <notify/settings/settingscipher.h>
+
 #include <farmpackets.h>
 #include <imagefiles.h>
-#include <settingscipher.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QTextStream>
@@ -71,9 +72,9 @@ void writeLink(const QString &folder)
     Seeds inflate(folder, "inflate");
     QByteArray stream(1, '\6');
     for (const QByteArray &payload : {notification(), custom, QByteArray(5000, 'a')}) {
-        const QByteArray frame = encodeFrame(FrameHeader::Compressed, CMD_NOTIFICATION, payload, 1);
-        stream += frame + encodeFrame(FrameHeader::Plain, CMD_CUSTOM_MESSAGE, custom, 2);
-        inflate.add(frame.sliced(FrameHeader::kSize));
+        const QByteArray frame = encodeMessage(MessageHeader::Compressed, CMD_NOTIFICATION, payload, 1);
+        stream += frame + encodeMessage(MessageHeader::Plain, CMD_CUSTOM_MESSAGE, custom, 2);
+        inflate.add(frame.sliced(MessageHeader::kSize));
     }
     frames.add(stream);
 }

@@ -3,7 +3,7 @@
 #include "packets.h"
 #include "qlwtcpsocket.h"
 
-#include <tframework.h>
+#include <framework/tframework.h>
 
 DispatcherSession::DispatcherSession(QObject *parent)
     : QObject(parent)

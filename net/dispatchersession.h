@@ -1,24 +1,14 @@
 #pragma once
 
+#include <notify/settings/linksettings.h>
+
 #include <QtCore/QPointer>
-#include <QtCore/QString>
 #include <QtNetwork/QAbstractSocket>
 
 #include <functional>
 #include <optional>
 
 class QLWTCPSocket;
-
-/// Where the Dispatcher is and who logs in.
-struct LinkSettings {
-    QString address = QStringLiteral("127.0.0.1");
-    qint32 port = 9883; ///< only the low 16 bits are used
-    QString user = QStringLiteral("admin");
-    QString password;
-    bool skipDirectoryAuthentication = false;
-
-    bool operator==(const LinkSettings &) const = default;
-};
 
 /// The client's link to the Dispatcher: owns the socket, logs in as soon as the connection stands, and tries again
 /// when asked to check it. Faults show as a socket that is unconnected; the caller's timer does the retrying.

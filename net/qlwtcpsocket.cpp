@@ -1,7 +1,8 @@
 #include "qlwtcpsocket.h"
 
-#include "inflate.h"
 #include "netlog.h"
+
+#include <notify/settings/inflate.h>
 
 #include <QtCore/QPointer>
 #include <QtCore/QSettings>
@@ -15,7 +16,7 @@
 namespace {
 
 constexpr qint64 kBufferLimit = qint64(1024) * 1024;
-// Small reads keep what is read, cut into frames and copied out of them in the processor's nearest cache, and so does a
+// Small reads keep what is read, cut into messages and copied out of them in the processor's nearest cache, and so does a
 // limit on what the toolkit reads ahead; the limit also holds while a modal box keeps us from reading.
 constexpr qint64 kReadSize = 16384;
 constexpr qint64 kReadAhead = qint64(512) * 1024;
@@ -68,13 +69,13 @@ bool QLWTCPSocket::sendFirst(uint command, const QByteArray &payload, uint param
 
 bool QLWTCPSocket::queueMessage(qsizetype position, uint command, const QByteArray &payload, uint param)
 {
-    const qint64 frameSize = FrameHeader::kSize + payload.size();
-    if (m_maxSendSize != 0 && m_sendBuffer.size() + frameSize > m_maxSendSize) {
+    const qint64 messageSize = MessageHeader::kSize + payload.size();
+    if (m_maxSendSize != 0 && m_sendBuffer.size() + messageSize > m_maxSendSize) {
         Q_EMIT sendBufferOverflow();
         clearBuffers();
         return false;
     }
-    m_sendBuffer.insert(position, encodeFrame(command, payload, param));
+    m_sendBuffer.insert(position, encodeMessage(command, payload, param));
     Q_EMIT sendActivity();
     writeQueued();
     m_lastActivity = m_clock();
@@ -126,47 +127,47 @@ void QLWTCPSocket::readReady()
 
 bool QLWTCPSocket::getMessage(uint *command, QByteArray *data, uint *param)
 {
-    RawFrame frame;
-    const FrameReader::Next found = m_receiveBuffer.take(frame);
+    RawMessage message;
+    const MessageReader::Next found = m_receiveBuffer.take(message);
     if (param)
-        *param = frame.header.param;
-    if (found != FrameReader::Next::Frame) {
+        *param = message.header.param;
+    if (found != MessageReader::Next::Message) {
         data->resize(0);
-        if (found == FrameReader::Next::Broken)
-            breakStream("a frame of negative length");
+        if (found == MessageReader::Next::Broken)
+            breakStream("a message of negative length");
         return false;
     }
-    *command = frame.header.command;
-    if (frame.header.type == FrameHeader::Compressed)
-        return inflateMessage(frame, data);
-    const qsizetype size = frame.header.type == FrameHeader::NoPayload ? 0 : frame.payload.size() + 1;
+    *command = message.header.command;
+    if (message.header.type == MessageHeader::Compressed)
+        return inflateMessage(message, data);
+    const qsizetype size = message.header.type == MessageHeader::NoPayload ? 0 : message.payload.size() + 1;
     // The memory of the last message serves the next.
     if (data->size() != size)
         data->resize(size);
     if (size > 0) {
         char *to = data->data();
-        std::memcpy(to, frame.payload.data(), std::size_t(size - 1));
+        std::memcpy(to, message.payload.data(), std::size_t(size - 1));
         to[size - 1] = '\0';
     }
     return true;
 }
 
-bool QLWTCPSocket::inflateMessage(const RawFrame &frame, QByteArray *data)
+bool QLWTCPSocket::inflateMessage(const RawMessage &message, QByteArray *data)
 {
     data->clear();
     constexpr qsizetype kSizeField = 4;
     std::optional<QByteArray> inflated;
-    if (frame.header.length >= kSizeField) {
-        const auto announced = qFromLittleEndian<qint32>(frame.payload.data());
+    if (message.header.length >= kSizeField) {
+        const auto announced = qFromLittleEndian<qint32>(message.payload.data());
         if (announced < 0) {
             breakStream("a payload of negative size");
             return false;
         }
         // The stream is offered one byte less than the payload's length, counted from behind the size: it ends by
-        // itself, and up to three bytes behind the frame are offered with it.
+        // itself, and up to three bytes behind the message are offered with it.
         const qsizetype offered = std::min<qsizetype>(
-            frame.header.length - 1, frame.payload.size() - kSizeField + frame.beyond.size());
-        inflated = inflateStream(QByteArrayView{frame.payload.data() + kSizeField, offered}, announced);
+            message.header.length - 1, message.payload.size() - kSizeField + message.beyond.size());
+        inflated = inflateStream(QByteArrayView{message.payload.data() + kSizeField, offered}, announced);
     }
     if (!inflated) {
         Q_EMIT zDecompressError();

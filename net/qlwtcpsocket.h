@@ -1,6 +1,6 @@
 #pragma once
 
-#include "framereader.h"
+#include "messagereader.h"
 
 #include <QtCore/QDateTime>
 #include <QtNetwork/QTcpSocket>
@@ -25,14 +25,14 @@ public:
     explicit QLWTCPSocket(QObject *parent = nullptr);
     ~QLWTCPSocket() override;
 
-    bool hasMessage() const { return m_receiveBuffer.next() != FrameReader::Next::NeedMore; }
+    bool hasMessage() const { return m_receiveBuffer.next() != MessageReader::Next::NeedMore; }
 
-    /// Frames and queues a message and writes what the connection takes now. False when it was refused for overflow.
+    /// Messages and queues a message and writes what the connection takes now. False when it was refused for overflow.
     bool sendMessage(uint command, const QByteArray &payload, uint param);
     /// As sendMessage(), in front of all that waits: for the log-in, which must be the first on a connection.
     bool sendFirst(uint command, const QByteArray &payload, uint param);
-    /// Takes the first message out. `data` becomes the payload and a terminating zero byte, or empty for a frame that
-    /// delivers none; `param` may be null. False when no whole frame is buffered, inflating failed (both buffers are
+    /// Takes the first message out. `data` becomes the payload and a terminating zero byte, or empty for a message that
+    /// delivers none; `param` may be null. False when no whole message is buffered, inflating failed (both buffers are
     /// then empty) or the stream is broken (the connection is then aborted as well).
     bool getMessage(uint *command, QByteArray *data, uint *param);
 
@@ -62,13 +62,13 @@ public Q_SLOTS:
 private:
     bool queueMessage(qsizetype position, uint command, const QByteArray &payload, uint param);
     void writeQueued();
-    bool inflateMessage(const RawFrame &frame, QByteArray *data);
+    bool inflateMessage(const RawMessage &message, QByteArray *data);
     void breakStream(const char *why);
     void clearBuffers();
 
     qint64 m_maxReceiveSize;
     qint64 m_maxSendSize;
-    FrameReader m_receiveBuffer;
+    MessageReader m_receiveBuffer;
     QByteArray m_sendBuffer;
     QDateTime m_lastActivity;
     QTimer *m_heartbeatTimer = nullptr;

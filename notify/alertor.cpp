@@ -1,20 +1,20 @@
 #include "alertor.h"
 
-#include "eventbuilder.h"
 #include "menus.h"
-#include "notifyevent.h"
 #include "notifylog.h"
 #include "preferences.h"
 #include "resultopener.h"
 #include "ui_alertor.h"
 
-#include <imageviewer.h>
-#include <managedwindow.h>
-#include <packets.h>
-#include <product.h>
-#include <qskinnedmessagebox.h>
-#include <tappstate.h>
-#include <tdesktop.h>
+#include <net/packets.h>
+#include <notify/events/eventbuilder.h>
+#include <notify/events/notifyevent.h>
+#include <system/tdesktop.h>
+#include <ui/managedwindow.h>
+#include <ui/product.h>
+#include <ui/qskinnedmessagebox.h>
+#include <ui/tappstate.h>
+#include <viewer/imageviewer.h>
 
 #include <QtCore/QPointer>
 #include <QtGui/QCloseEvent>

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "eventslist.h"
 #include "eventsmodel.h"
-#include "settings.h"
 #include "soundplayer.h"
 #include "tray.h"
 #include "viewerwindows.h"
 
-#include <dispatchersession.h>
-#include <sendentry.h>
+#include <framework/sendentry.h>
+#include <net/dispatchersession.h>
+#include <notify/events/eventslist.h>
+#include <notify/settings/settings.h>
 
 #include <QtCore/QByteArray>
 #include <QtCore/QTimer>

@@ -1,10 +1,9 @@
 #include "eventsmodel.h"
 
-#include "eventkind.h"
-#include "eventslist.h"
-#include "notifyevent.h"
-
-#include <svgicon.h>
+#include <notify/events/eventkind.h>
+#include <notify/events/eventslist.h>
+#include <notify/events/notifyevent.h>
+#include <ui/svgicon.h>
 
 #include <QtCore/QDateTime>
 #include <QtCore/QLocale>

@@ -1,7 +1,8 @@
 #include "preferences.h"
 
-#include "settings.h"
 #include "ui_preferences.h"
+
+#include <notify/settings/settings.h>
 
 #include <QtCore/QPointer>
 #include <QtGui/QScreen>

@@ -1,6 +1,6 @@
 #include "resultopener.h"
 
-#include <tdesktop.h>
+#include <system/tdesktop.h>
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QProcess>

@@ -1,6 +1,6 @@
 #include "soundeffects.h"
 
-#include <moduleexport.h>
+#include <system/moduleexport.h>
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QUrl>

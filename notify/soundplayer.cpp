@@ -2,7 +2,7 @@
 
 #include "soundeffects.h"
 
-#include <tdesktop.h>
+#include <system/tdesktop.h>
 
 #include <utility>
 

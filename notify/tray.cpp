@@ -1,6 +1,6 @@
 #include "tray.h"
 
-#include <svgicon.h>
+#include <ui/svgicon.h>
 
 #include <chrono>
 

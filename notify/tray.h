@@ -1,6 +1,6 @@
 #pragma once
 
-#include "eventkind.h"
+#include <notify/events/eventkind.h>
 
 #include <QtGui/QIcon>
 #include <QtNetwork/QAbstractSocket>

@@ -1,10 +1,9 @@
 #include "viewerwindows.h"
 
-#include "eventslist.h"
-#include "notifyevent.h"
-#include "settings.h"
-
-#include <imageviewer.h>
+#include <notify/events/eventslist.h>
+#include <notify/events/notifyevent.h>
+#include <notify/settings/settings.h>
+#include <viewer/imageviewer.h>
 
 #include <algorithm>
 

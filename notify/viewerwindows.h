@@ -1,7 +1,7 @@
 #pragma once
 
-#include <cachetotals.h>
-#include <jobframes.h>
+#include <viewer/frames/cachetotals.h>
+#include <viewer/session/jobframes.h>
 
 #include <QtCore/QList>
 #include <QtCore/QPointer>

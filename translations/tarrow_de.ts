@@ -733,21 +733,6 @@
     </message>
 </context>
 <context>
-    <name>PictureView</name>
-    <message>
-        <source>Apply</source>
-        <translation>Anwenden</translation>
-    </message>
-    <message>
-        <source>Lock</source>
-        <translation>Sperren</translation>
-    </message>
-    <message>
-        <source>Unlock</source>
-        <translation>Entsperren</translation>
-    </message>
-</context>
-<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -877,6 +862,21 @@ Ein Rechtsklick auf dieses Symbol öffnet das Kontextmenü, ein Doppelklick holt
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>ZoomControl</name>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Sperren</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation>Entsperren</translation>
     </message>
 </context>
 <context>

@@ -733,21 +733,6 @@
     </message>
 </context>
 <context>
-    <name>PictureView</name>
-    <message>
-        <source>Apply</source>
-        <translation>Aplicar</translation>
-    </message>
-    <message>
-        <source>Lock</source>
-        <translation>Bloquear</translation>
-    </message>
-    <message>
-        <source>Unlock</source>
-        <translation>Desbloquear</translation>
-    </message>
-</context>
-<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -877,6 +862,21 @@ Haga clic derecho en este icono para abrir el menú o doble clic para mostrar la
     <message>
         <source>&amp;Quit</source>
         <translation>Sa&amp;lir</translation>
+    </message>
+</context>
+<context>
+    <name>ZoomControl</name>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Bloquear</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation>Desbloquear</translation>
     </message>
 </context>
 <context>

@@ -733,21 +733,6 @@
     </message>
 </context>
 <context>
-    <name>PictureView</name>
-    <message>
-        <source>Apply</source>
-        <translation>Appliquer</translation>
-    </message>
-    <message>
-        <source>Lock</source>
-        <translation>Verrouiller</translation>
-    </message>
-    <message>
-        <source>Unlock</source>
-        <translation>Déverrouiller</translation>
-    </message>
-</context>
-<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -877,6 +862,21 @@ Cliquez avec le bouton droit sur cette icône pour le menu contextuel ou double-
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>ZoomControl</name>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Verrouiller</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation>Déverrouiller</translation>
     </message>
 </context>
 <context>

@@ -733,21 +733,6 @@
     </message>
 </context>
 <context>
-    <name>PictureView</name>
-    <message>
-        <source>Apply</source>
-        <translation>Applica</translation>
-    </message>
-    <message>
-        <source>Lock</source>
-        <translation>Blocca</translation>
-    </message>
-    <message>
-        <source>Unlock</source>
-        <translation>Sblocca</translation>
-    </message>
-</context>
-<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -877,6 +862,21 @@ Fare clic destro su questa icona per il menu contestuale o doppio clic per mostr
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Esci</translation>
+    </message>
+</context>
+<context>
+    <name>ZoomControl</name>
+    <message>
+        <source>Apply</source>
+        <translation>Applica</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Blocca</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation>Sblocca</translation>
     </message>
 </context>
 <context>

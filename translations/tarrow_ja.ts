@@ -733,21 +733,6 @@
     </message>
 </context>
 <context>
-    <name>PictureView</name>
-    <message>
-        <source>Apply</source>
-        <translation>適用</translation>
-    </message>
-    <message>
-        <source>Lock</source>
-        <translation>ロック</translation>
-    </message>
-    <message>
-        <source>Unlock</source>
-        <translation>ロック解除</translation>
-    </message>
-</context>
-<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -877,6 +862,21 @@ Right-click on this icon to access the context menu or double click to raise the
     <message>
         <source>&amp;Quit</source>
         <translation>終了(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>ZoomControl</name>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>ロック</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation>ロック解除</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,6 @@
 #include "windowshadow.h"
 
-#include <tdesktop.h>
+#include <system/tdesktop.h>
 
 #include <QtWidgets/QWidget>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <calibration.h>
+#include <viewer/widgets/render/calibration.h>
 
 #include <QtCore/QObject>
 #include <QtCore/QString>

@@ -1,6 +1,6 @@
 #include "filepicker.h"
 
-#include <iimagecore.h>
+#include <image_library/iimagecore.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>

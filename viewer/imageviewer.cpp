@@ -1,13 +1,13 @@
 #include "imageviewer.h"
 
 #include "calibrationpanel.h"
-#include "pictureview.h"
 #include "ui_imageviewer.h"
+#include "zoomcontrol.h"
 
-#include <cachetotals.h>
-#include <framecache.h>
-#include <imageframe.h>
-#include <imagewidget.h>
+#include <viewer/frames/cachetotals.h>
+#include <viewer/frames/framecache.h>
+#include <viewer/frames/imageframe.h>
+#include <viewer/widgets/imagewidget.h>
 
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
@@ -40,7 +40,7 @@ public:
 
 } // namespace
 
-struct ImageViewer::Pictures {
+struct ImageViewer::StatusPictures {
     QPixmap missing = load("missingfile.png");
     QPixmap broken = load("brokenfile.png");
     QPixmap noFileInProgress = load("nofileinprogress.png");
@@ -57,7 +57,7 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     , m_ui(std::make_unique<Ui::ImageViewerClass>())
     , m_totals(totals)
     , m_settings(settings)
-    , m_pictures(std::make_unique<Pictures>())
+    , m_statusPictures(std::make_unique<StatusPictures>())
     , m_progress(&seconds)
     , m_backgroundColor(Qt::black)
     , m_hudColor(Qt::white)
@@ -69,7 +69,7 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     m_cache = std::make_unique<FrameCache>(totals, picture());
     m_loader = std::make_unique<FrameLoader>(*m_cache, picture());
     m_calibration = new CalibrationPanel(*m_ui->calibrationValues, this);
-    m_view = new PictureView({m_ui->image, m_ui->horizontalScrollBar, m_ui->verticalScrollBar,
+    m_view = new ZoomControl({m_ui->image, m_ui->horizontalScrollBar, m_ui->verticalScrollBar,
                               m_ui->fitPixelSize, m_ui->setPixelSize});
     connectPath();
     connectDisplay();
@@ -230,7 +230,7 @@ void ImageViewer::showLoadStatus()
     if (failed) {
         const bool missing = m_lastLoad.outcome == LoadOutcome::NotFound;
         const QString text = missing ? tr("File not found at path: %1") : tr("Corrupted file at path: %1");
-        m_ui->imageWarningLabel->setPixmap(missing ? m_pictures->missing : m_pictures->broken);
+        m_ui->imageWarningLabel->setPixmap(missing ? m_statusPictures->missing : m_statusPictures->broken);
         m_ui->imageWarningReason->setText(text.arg(file));
         m_watch.watch(file);
     } else {

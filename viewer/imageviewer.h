@@ -1,23 +1,23 @@
 #pragma once
 
-#include "framewatch.h"
-#include "jobframes.h"
-#include "marking.h"
-#include "playback.h"
-#include "playbackrange.h"
 #include "viewersettings.h"
 
-#include <compositelayers.h>
-#include <frameloader.h>
-#include <framesequence.h>
-#include <loadprogress.h>
-#include <qskinneddialog.h>
+#include <ui/qskinneddialog.h>
+#include <viewer/frames/compositelayers.h>
+#include <viewer/frames/frameloader.h>
+#include <viewer/frames/framesequence.h>
+#include <viewer/frames/loadprogress.h>
+#include <viewer/session/framewatch.h>
+#include <viewer/session/jobframes.h>
+#include <viewer/session/marking.h>
+#include <viewer/session/playback.h>
+#include <viewer/session/playbackrange.h>
 
 #include <memory>
 
 class CalibrationPanel;
 class FrameCache;
-class PictureView;
+class ZoomControl;
 class QToolButton;
 class imageWidget;
 struct CacheTotals;
@@ -121,15 +121,15 @@ private:
     long lastFrame() const { return m_sequence.frames.empty() ? 1 : *m_sequence.frames.rbegin(); }
     QList<QToolButton *> channelButtons() const;
 
-    struct Pictures;
+    struct StatusPictures;
 
     const std::unique_ptr<Ui::ImageViewerClass> m_ui;
     CacheTotals &m_totals;
     const ViewerSettings m_settings;
     std::unique_ptr<FrameCache> m_cache; // ends before the picture that shows its frames
     std::unique_ptr<FrameLoader> m_loader;
-    std::unique_ptr<Pictures> m_pictures;
-    PictureView *m_view = nullptr;
+    std::unique_ptr<StatusPictures> m_statusPictures;
+    ZoomControl *m_view = nullptr;
     CalibrationPanel *m_calibration = nullptr;
     JobFrames m_job;
     FrameSequence m_sequence;

@@ -3,12 +3,12 @@
 #include "calibrationpanel.h"
 #include "filepicker.h"
 #include "imageviewer.h"
-#include "pictureview.h"
 #include "ui_imageviewer.h"
+#include "zoomcontrol.h"
 
-#include <imagewidget.h>
-#include <product.h>
-#include <qskinnedmessagebox.h>
+#include <ui/product.h>
+#include <ui/qskinnedmessagebox.h>
+#include <viewer/widgets/imagewidget.h>
 
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
@@ -52,9 +52,9 @@ void ImageViewer::connectDisplay()
         connect(channels[mode], &QAbstractButton::clicked, this, [this, mode] { setChannelViewMode(mode); });
     connect(m_ui->layersSelector, &QComboBox::activated, this, &ImageViewer::onLayerChosen);
     connect(m_ui->resizeComboBox, &QComboBox::currentIndexChanged, this, &ImageViewer::loadAnew);
-    connect(m_ui->zoomIn, &QAbstractButton::clicked, m_view, &PictureView::zoomIn);
-    connect(m_ui->zoomOut, &QAbstractButton::clicked, m_view, &PictureView::zoomOut);
-    connect(m_view, &PictureView::zoomChanged, this, &ImageViewer::refreshZoom);
+    connect(m_ui->zoomIn, &QAbstractButton::clicked, m_view, &ZoomControl::zoomIn);
+    connect(m_ui->zoomOut, &QAbstractButton::clicked, m_view, &ZoomControl::zoomOut);
+    connect(m_view, &ZoomControl::zoomChanged, this, &ImageViewer::refreshZoom);
     connect(m_ui->calibrationButton, &QAbstractButton::toggled, m_ui->calibrationHolder,
             &QWidget::setVisible);
     connect(m_calibration, &CalibrationPanel::calibrationChanged, image, &imageWidget::setCalibration);

@@ -1,10 +1,11 @@
+#include <app/commandline.h>
+#include <app/qtsingleapplication.h>
+#include <ui/glprobe.h>
+#include <ui/look.h>
+#include <ui/tappstate.h>
+
 #include <capturedoutput.h>
-#include <commandline.h>
-#include <glprobe.h>
-#include <look.h>
-#include <qtsingleapplication.h>
 #include <table.h>
-#include <tappstate.h>
 
 #include <QtCore/QStandardPaths>
 #include <QtGui/QSurfaceFormat>

@@ -1,6 +1,7 @@
 #include "capturedoutput.h"
 #include "templatefolder.h"
-#include "templates.h"
+
+#include <app/templates.h>
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>

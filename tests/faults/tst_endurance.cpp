@@ -1,8 +1,8 @@
 #include "farmpackets.h"
 #include "loopbackpeer.h"
 
-#include <alertor.h>
-#include <product.h>
+#include <notify/alertor.h>
+#include <ui/product.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

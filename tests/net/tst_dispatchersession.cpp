@@ -1,9 +1,8 @@
 #include "loopbackpeer.h"
 
-#include <dispatchersession.h>
-#include <packets.h>
-
-#include <tframework.h>
+#include <framework/tframework.h>
+#include <net/dispatchersession.h>
+#include <net/packets.h>
 
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
@@ -140,9 +139,10 @@ private Q_SLOTS:
         });
         session.checkLocalConnection();
         QTRY_COMPARE(first.received().size(), 1);
-        first.send(encodeFrame(FrameHeader::Plain, 601, "one") + encodeFrame(FrameHeader::Plain, 601, "two"));
+        first.send(encodeMessage(MessageHeader::Plain, 601, "one")
+                   + encodeMessage(MessageHeader::Plain, 601, "two"));
         QTRY_COMPARE(second.received().size(), 1);
-        second.send(encodeFrame(FrameHeader::Plain, 601, "three"));
+        second.send(encodeMessage(MessageHeader::Plain, 601, "three"));
         QTRY_COMPARE(drained.size(), 2);
         QCOMPARE(drained[1], QByteArray("three", 6)); // the rest of the old link's drain is gone with it
     }

@@ -1,4 +1,4 @@
-#include <packets.h>
+#include <net/packets.h>
 
 #include <QtTest/QTest>
 

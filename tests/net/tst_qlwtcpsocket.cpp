@@ -1,6 +1,6 @@
 #include "loopbackpeer.h"
 
-#include <qlwtcpsocket.h>
+#include <net/qlwtcpsocket.h>
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSettings>
@@ -11,11 +11,11 @@ namespace {
 
 constexpr qsizetype kLimit = qsizetype(1024) * 1024;
 
-QByteArray compressedFrame(const QByteArray &plain, qint32 announced)
+QByteArray compressedMessage(const QByteArray &plain, qint32 announced)
 {
-    QByteArray wire = encodeFrame(FrameHeader::Compressed, 601, plain);
+    QByteArray wire = encodeMessage(MessageHeader::Compressed, 601, plain);
     for (int i = 0; i < 4; ++i)
-        wire[FrameHeader::kSize + i] = char(quint32(announced) >> (8 * i));
+        wire[MessageHeader::kSize + i] = char(quint32(announced) >> (8 * i));
     return wire;
 }
 
@@ -28,7 +28,7 @@ QByteArray ended(const QByteArray &text)
 QByteArray headerOf(quint8 type, qint32 length)
 {
     QByteArray bytes;
-    FrameHeader{type, length, 0, 601}.appendTo(bytes);
+    MessageHeader{type, length, 0, 601}.appendTo(bytes);
     return bytes;
 }
 
@@ -82,11 +82,11 @@ private Q_SLOTS:
     void payloadsByType()
     {
         Link link;
-        link.peer.send(encodeFrame(FrameHeader::Plain, 601, "plain") + encodeFrame(601, "not delivered")
-                       + encodeFrame(FrameHeader::Type(7), 601, "other")
-                       + encodeFrame(FrameHeader::Compressed, 601, "inflated")
-                       + compressedFrame("less than announced", 1000)
-                       + encodeFrame(FrameHeader::Plain, 601, ""));
+        link.peer.send(encodeMessage(MessageHeader::Plain, 601, "plain") + encodeMessage(601, "not delivered")
+                       + encodeMessage(MessageHeader::Type(7), 601, "other")
+                       + encodeMessage(MessageHeader::Compressed, 601, "inflated")
+                       + compressedMessage("less than announced", 1000)
+                       + encodeMessage(MessageHeader::Plain, 601, ""));
         QTRY_COMPARE(link.messages,
                      (QByteArrayList{ended("plain"), "", ended("other"), ended("inflated"),
                                      ended("less than announced"), ended("")}));
@@ -96,20 +96,20 @@ private Q_SLOTS:
     {
         Link link;
         link.peer.link()->setSocketOption(QAbstractSocket::LowDelayOption, 1);
-        for (const char byte : encodeFrame(FrameHeader::Plain, 601, "bit by bit"))
+        for (const char byte : encodeMessage(MessageHeader::Plain, 601, "bit by bit"))
             link.peer.send(QByteArray(1, byte));
         QTRY_COMPARE(link.messages, QByteArrayList{ended("bit by bit")});
     }
 
-    void limitOfOneFrame()
+    void limitOfOneMessage()
     {
         Link link;
         QSignalSpy overflow(&link.socket, &QLWTCPSocket::rcvBufferOverflow);
-        const QByteArray largest(kLimit - FrameHeader::kSize, 'x');
-        link.peer.send(encodeFrame(FrameHeader::Plain, 601, largest));
+        const QByteArray largest(kLimit - MessageHeader::kSize, 'x');
+        link.peer.send(encodeMessage(MessageHeader::Plain, 601, largest));
         QTRY_COMPARE(link.messages, QByteArrayList{ended(largest)});
         QCOMPARE(overflow.size(), 0);
-        link.peer.send(encodeFrame(FrameHeader::Plain, 601, largest + 'x'));
+        link.peer.send(encodeMessage(MessageHeader::Plain, 601, largest + 'x'));
         QTRY_COMPARE(overflow.size(), 1);
         QCOMPARE(link.messages.size(), 1);
         QVERIFY(link.up());
@@ -120,13 +120,13 @@ private Q_SLOTS:
     {
         Link link;
         QSignalSpy damaged(&link.socket, &QLWTCPSocket::zDecompressError);
-        link.peer.send(encodeFrame(FrameHeader::Plain, 601, "before") + headerOf(2, 8) + "garbage!");
+        link.peer.send(encodeMessage(MessageHeader::Plain, 601, "before") + headerOf(2, 8) + "garbage!");
         QTRY_COMPARE(damaged.size(), 1);
         link.peer.send(headerOf(2, 3) + "abc"); // too short for its size field
         QTRY_COMPARE(damaged.size(), 2);
-        link.peer.send(compressedFrame(QByteArray(100'000, 'b'), 99'999)); // holds more than announced
+        link.peer.send(compressedMessage(QByteArray(100'000, 'b'), 99'999)); // holds more than announced
         QTRY_COMPARE(damaged.size(), 3);
-        link.peer.send(encodeFrame(FrameHeader::Compressed, 601, "after"));
+        link.peer.send(encodeMessage(MessageHeader::Compressed, 601, "after"));
         QTRY_COMPARE(link.messages, (QByteArrayList{ended("before"), ended("after")}));
         QVERIFY(link.up());
     }
@@ -134,11 +134,11 @@ private Q_SLOTS:
     void brokenStreamsAreAborted()
     {
         for (const QByteArray &bytes : {headerOf(1, -1), headerOf(0, std::numeric_limits<qint32>::min()),
-                                        compressedFrame("text", -1)}) {
+                                        compressedMessage("text", -1)}) {
             Link link;
             QTest::ignoreMessage(QtWarningMsg,
                                  QRegularExpression(QStringLiteral("the connection is dropped")));
-            link.peer.send(bytes + encodeFrame(FrameHeader::Plain, 601, "never seen"));
+            link.peer.send(bytes + encodeMessage(MessageHeader::Plain, 601, "never seen"));
             QTRY_COMPARE(link.socket.state(), QAbstractSocket::UnconnectedState);
             QVERIFY(!link.socket.hasMessage() && link.messages.isEmpty());
         }
@@ -148,12 +148,12 @@ private Q_SLOTS:
     {
         Link link;
         QSignalSpy activity(&link.socket, &QLWTCPSocket::rcvActivity);
-        link.peer.send(encodeFrame(FrameHeader::Plain, 601, "half a frame").chopped(5));
+        link.peer.send(encodeMessage(MessageHeader::Plain, 601, "half a message").chopped(5));
         QTRY_COMPARE(activity.size(), 1);
         link.peer.dropLink();
         QTRY_COMPARE(link.socket.state(), QAbstractSocket::UnconnectedState);
         link.connect();
-        link.peer.send(encodeFrame(FrameHeader::Plain, 601, "whole"));
+        link.peer.send(encodeMessage(MessageHeader::Plain, 601, "whole"));
         QTRY_COMPARE(link.messages, QByteArrayList{ended("whole")});
     }
 
@@ -196,9 +196,9 @@ private Q_SLOTS:
     {
         QLWTCPSocket socket;
         QSignalSpy overflow(&socket, &QLWTCPSocket::sendBufferOverflow);
-        QVERIFY(socket.sendMessage(700, QByteArray(kLimit - FrameHeader::kSize, 'p'), 0));
+        QVERIFY(socket.sendMessage(700, QByteArray(kLimit - MessageHeader::kSize, 'p'), 0));
         QVERIFY(!socket.sendMessage(700, {}, 0));
-        QVERIFY(!socket.sendMessage(700, QByteArray(kLimit - FrameHeader::kSize + 1, 'p'), 0));
+        QVERIFY(!socket.sendMessage(700, QByteArray(kLimit - MessageHeader::kSize + 1, 'p'), 0));
         QCOMPARE(overflow.size(), 2);
     }
 
@@ -249,7 +249,8 @@ private Q_SLOTS:
         });
         socket->connectToHost(QStringLiteral("127.0.0.1"), peer.port());
         QTRY_VERIFY(peer.link());
-        peer.send(encodeFrame(FrameHeader::Plain, 601, "a") + encodeFrame(FrameHeader::Plain, 601, "b"));
+        peer.send(encodeMessage(MessageHeader::Plain, 601, "a")
+                  + encodeMessage(MessageHeader::Plain, 601, "b"));
         QTRY_VERIFY(!socket);
     }
 };

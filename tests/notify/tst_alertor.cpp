@@ -3,12 +3,12 @@
 #include "loopbackpeer.h"
 #include "modals.h"
 
-#include <alertor.h>
-#include <eventsview.h>
-#include <imageviewer.h>
-#include <notifyevent.h>
-#include <product.h>
-#include <resultopener.h>
+#include <notify/alertor.h>
+#include <notify/events/notifyevent.h>
+#include <notify/eventsview.h>
+#include <notify/resultopener.h>
+#include <ui/product.h>
+#include <viewer/imageviewer.h>
 
 #include <QtCore/QScopeGuard>
 #include <QtCore/QSettings>
@@ -134,9 +134,9 @@ private Q_SLOTS:
     {
         Farm farm(u"behaviours/filterServiceActivities"_s, false);
         farm.send(farm::notification(512)); // dropped
-        farm.peer.send(encodeFrame(FrameHeader::Plain, CMD_IGNORED, "x")
-                       + encodeFrame(FrameHeader::Plain, 999, "x")
-                       + encodeFrame(FrameHeader::Plain, CMD_NOTIFICATION, "m\n1\n2\nu\n\n"));
+        farm.peer.send(encodeMessage(MessageHeader::Plain, CMD_IGNORED, "x")
+                       + encodeMessage(MessageHeader::Plain, 999, "x")
+                       + encodeMessage(MessageHeader::Plain, CMD_NOTIFICATION, "m\n1\n2\nu\n\n"));
         farm.sendJobs({1024, 1});
         QCOMPARE(farm.alertor.events().pendingLevel(), SuccessPending);
     }
@@ -144,7 +144,7 @@ private Q_SLOTS:
     void refusalShowsOneBoxAndStops()
     {
         Farm farm;
-        const QByteArray refusal = encodeFrame(FrameHeader::Plain, CMD_LOGIN_DENIED, {});
+        const QByteArray refusal = encodeMessage(MessageHeader::Plain, CMD_LOGIN_DENIED, {});
         farm.peer.send(refusal + refusal + farm::frame(farm::notification(512)));
         QTRY_VERIFY(QApplication::activeModalWidget());
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
@@ -168,8 +168,8 @@ private Q_SLOTS:
         farm.alertor.setCustomMessageHandler(
             [&](int id, const QByteArray &message) { received += QByteArray::number(id) + message; });
         farm.peer.send(
-            encodeFrame(FrameHeader::Plain, CMD_CUSTOM_MESSAGE, "12")
-            + encodeFrame(FrameHeader::Plain, CMD_CUSTOM_MESSAGE, encodeCustomMessage({12, "hello"})));
+            encodeMessage(MessageHeader::Plain, CMD_CUSTOM_MESSAGE, "12")
+            + encodeMessage(MessageHeader::Plain, CMD_CUSTOM_MESSAGE, encodeCustomMessage({12, "hello"})));
         QTRY_COMPARE(received, QByteArrayList{"12hello"});
         const TFramework::TSendEntry &entry = *farm.alertor.sendEntry();
         QVERIFY(entry.send(entry.owner, 700, "back", 4, 1));

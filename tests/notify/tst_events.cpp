@@ -1,11 +1,11 @@
 #include "farmpackets.h"
 #include "table.h"
 
-#include <eventbuilder.h>
-#include <eventkind.h>
-#include <eventslist.h>
-#include <eventsmodel.h>
-#include <notifyevent.h>
+#include <notify/events/eventbuilder.h>
+#include <notify/events/eventkind.h>
+#include <notify/events/eventslist.h>
+#include <notify/events/notifyevent.h>
+#include <notify/eventsmodel.h>
 
 #include <QtCore/QDateTime>
 #include <QtCore/QLocale>

@@ -1,6 +1,7 @@
+#include <notify/preferences.h>
+#include <notify/settings/settings.h>
+
 #include <modals.h>
-#include <preferences.h>
-#include <settings.h>
 #include <table.h>
 
 #include <QtCore/QTemporaryDir>

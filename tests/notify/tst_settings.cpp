@@ -1,8 +1,8 @@
-#include <settings.h>
-#include <settingscipher.h>
-#include <table.h>
+#include <notify/settings/inflate.h>
+#include <notify/settings/settings.h>
+#include <notify/settings/settingscipher.h>
 
-#include <inflate.h>
+#include <table.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QLoggingCategory>
@@ -149,7 +149,7 @@ private Q_SLOTS:
 
     void refusesWhatIsNoCipherText()
     {
-        QLoggingCategory::setFilterRules(u"tarrow.notify.debug=true"_s);
+        QLoggingCategory::setFilterRules(u"tarrow.settings.debug=true"_s);
         const auto quiet = qScopeGuard([] { QLoggingCategory::setFilterRules(QString()); });
         for (const QString &text :
              {QString(), u"\u20ac%&/"_s, u"secret"_s, u"AgIokMOdxE4rFe4="_s, u"AwI="_s}) {

@@ -1,12 +1,11 @@
-#include <farmoptions.h>
-#include <garbage.h>
-#include <scenario.h>
-
-#include <framereader.h>
-#include <packets.h>
-#include <stringhelper.h>
-#include <tchunk.h>
-#include <tjob.h>
+#include <client_lib/tchunk.h>
+#include <client_lib/tjob.h>
+#include <demofarm/farmoptions.h>
+#include <demofarm/garbage.h>
+#include <demofarm/scenario.h>
+#include <framework/stringhelper.h>
+#include <net/messagereader.h>
+#include <net/packets.h>
 
 #include <QtTest/QTest>
 
@@ -139,12 +138,12 @@ private Q_SLOTS:
     {
         for (int turn = 0; turn < garbageKinds(); ++turn) {
             const Garbage piece = garbage(turn);
-            FrameReader reader;
+            MessageReader reader;
             reader.append(piece.bytes);
-            RawFrame frame;
+            RawMessage frame;
             // What is to be passed over must be a whole frame, or the events behind it would be lost with it.
             QVERIFY(piece.effect == Garbage::Effect::BreaksLink
-                    || (reader.take(frame) == FrameReader::Next::Frame && reader.size() == 0));
+                    || (reader.take(frame) == MessageReader::Next::Message && reader.size() == 0));
         }
     }
 

@@ -1,11 +1,11 @@
-#include <framestore.h>
-#include <scenario.h>
-#include <table.h>
+#include <client_lib/tchunk.h>
+#include <client_lib/tjob.h>
+#include <demofarm/framestore.h>
+#include <demofarm/scenario.h>
+#include <framework/stringhelper.h>
+#include <image_library/iimagecore.h>
 
-#include <iimagecore.h>
-#include <stringhelper.h>
-#include <tchunk.h>
-#include <tjob.h>
+#include <table.h>
 
 #include <QtCore/QDir>
 #include <QtTest/QTest>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <frames.h>
-#include <packets.h>
-#include <stringhelper.h>
-#include <tchunk.h>
-#include <tjob.h>
+#include <client_lib/tchunk.h>
+#include <client_lib/tjob.h>
+#include <framework/stringhelper.h>
+#include <net/packets.h>
+#include <net/wire.h>
 
 /// What a Dispatcher would send, with as little to say for each test as possible.
 namespace farm {
@@ -50,7 +50,7 @@ inline NotificationPacket notification(qint64 type, const TClientLib::TJob *job 
 
 inline QByteArray frame(const NotificationPacket &packet)
 {
-    return encodeFrame(FrameHeader::Plain, CMD_NOTIFICATION, encodeNotification(packet));
+    return encodeMessage(MessageHeader::Plain, CMD_NOTIFICATION, encodeNotification(packet));
 }
 
 } // namespace farm

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <tappstate.h>
+#include <ui/tappstate.h>
 
 #include <QtCore/QByteArray>
 #include <QtGui/QSurfaceFormat>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <framereader.h>
+#include <net/messagereader.h>
 
 #include <QtCore/QList>
 #include <QtCore/QTimer>
@@ -19,7 +19,7 @@ inline qsizetype heartbeatTimers(const QObject &owner)
 }
 
 /// The Dispatcher's end of a link over the loopback interface: takes one connection after the other, collects the
-/// frames it receives and sends what it is told to.
+/// messages it receives and sends what it is told to.
 class LoopbackPeer final : public QObject {
 public:
     struct Received {
@@ -68,14 +68,14 @@ private:
         const QByteArray bytes = m_link->readAll();
         m_bytesReceived += bytes.size();
         m_reader.append(bytes);
-        RawFrame frame;
-        while (m_reader.take(frame) == FrameReader::Next::Frame)
-            m_received.append({frame.header.command, frame.payload.toByteArray()});
+        RawMessage message;
+        while (m_reader.take(message) == MessageReader::Next::Message)
+            m_received.append({message.header.command, message.payload.toByteArray()});
     }
 
     QTcpServer m_server;
     QTcpSocket *m_link = nullptr;
-    FrameReader m_reader;
+    MessageReader m_reader;
     QList<Received> m_received;
     qint64 m_bytesReceived = 0;
     int m_connections = 0;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <sendentry.h>
-#include <tframework.h>
+#include <framework/sendentry.h>
+#include <framework/tframework.h>
 
 #include <QtCore/QByteArray>
 #include <QtCore/QDir>

@@ -1,11 +1,11 @@
 #include "table.h"
 
-#include <cachetotals.h>
-#include <imageviewer.h>
-#include <language.h>
-#include <look.h>
-#include <menus.h>
-#include <preferences.h>
+#include <notify/menus.h>
+#include <notify/preferences.h>
+#include <ui/language.h>
+#include <ui/look.h>
+#include <viewer/frames/cachetotals.h>
+#include <viewer/imageviewer.h>
 
 #include <QtCore/QTranslator>
 #include <QtGui/QScreen>

@@ -1,8 +1,9 @@
 #include "modals.h"
-#include "product.h"
-#include "qskinnedmessagebox.h"
 #include "table.h"
 #include "xuser.h"
+
+#include <ui/product.h>
+#include <ui/qskinnedmessagebox.h>
 
 #include <QtGui/QAccessible>
 #include <QtGui/QScreen>

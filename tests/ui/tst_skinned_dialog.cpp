@@ -1,10 +1,11 @@
 #include "modals.h"
-#include "product.h"
-#include "qheaderlabel.h"
-#include "qskinneddialog.h"
-#include "qskinneddialogborder.h"
 #include "table.h"
 #include "xuser.h"
+
+#include <ui/product.h>
+#include <ui/qheaderlabel.h>
+#include <ui/qskinneddialog.h>
+#include <ui/qskinneddialogborder.h>
 
 #include <QtCore/QSettings>
 #include <QtGui/QAccessible>

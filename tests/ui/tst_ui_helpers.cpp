@@ -1,6 +1,7 @@
-#include "svgicon.h"
 #include "table.h"
-#include "windowplacement.h"
+
+#include <ui/svgicon.h>
+#include <ui/windowplacement.h>
 
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QPainter>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framedisplay.h"
-#include "imageframe.h"
+#include <viewer/frames/framedisplay.h>
+#include <viewer/frames/imageframe.h>
 
 #include <QtCore/QByteArray>
 #include <QtCore/QList>

@@ -1,6 +1,6 @@
 #include "picturereference.h"
 
-#include <framedisplay.h>
+#include <viewer/frames/framedisplay.h>
 
 #include <QtCore/QFloat16>
 #include <QtGui/qopengl.h>

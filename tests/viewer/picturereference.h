@@ -1,7 +1,7 @@
 #pragma once
 
-#include <imageframe.h>
-#include <picturelook.h>
+#include <viewer/frames/imageframe.h>
+#include <viewer/widgets/render/picturelook.h>
 
 #include <QtCore/QPoint>
 #include <QtCore/QSize>

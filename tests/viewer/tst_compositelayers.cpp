@@ -1,4 +1,4 @@
-#include "compositelayers.h"
+#include <viewer/frames/compositelayers.h>
 
 #include <QtTest/QTest>
 

@@ -1,5 +1,6 @@
 #include "fakedisplay.h"
-#include "framecache.h"
+
+#include <viewer/frames/framecache.h>
 
 #include <QtGui/qopengl.h>
 #include <QtTest/QTest>

@@ -1,10 +1,11 @@
 #include "fakedisplay.h"
-#include "framebuilder.h"
-#include "framecache.h"
-#include "frameloader.h"
-#include "loadprogress.h"
-#include "sampleformat.h"
 #include "table.h"
+
+#include <viewer/frames/framebuilder.h>
+#include <viewer/frames/framecache.h>
+#include <viewer/frames/frameloader.h>
+#include <viewer/frames/loadprogress.h>
+#include <viewer/frames/sampleformat.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>

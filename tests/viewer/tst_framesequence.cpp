@@ -1,4 +1,4 @@
-#include "framesequence.h"
+#include <viewer/frames/framesequence.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

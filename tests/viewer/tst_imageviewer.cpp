@@ -1,12 +1,12 @@
 #include "glpath.h"
 #include "modals.h"
 
-#include <cachetotals.h>
-#include <calibrationpanel.h>
-#include <imageframe.h>
-#include <imageviewer.h>
-#include <imagewidget.h>
-#include <product.h>
+#include <ui/product.h>
+#include <viewer/calibrationpanel.h>
+#include <viewer/frames/cachetotals.h>
+#include <viewer/frames/imageframe.h>
+#include <viewer/imageviewer.h>
+#include <viewer/widgets/imagewidget.h>
 
 #include <ImfRgbaFile.h>
 

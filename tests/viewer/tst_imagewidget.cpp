@@ -1,6 +1,7 @@
-#include <imagewidget.h>
+#include <viewer/widgets/imagewidget.h>
+#include <viewer/widgets/render/viewgeometry.h>
+
 #include <table.h>
-#include <viewgeometry.h>
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWheelEvent>

@@ -2,9 +2,9 @@
 #include "picturereference.h"
 #include "table.h"
 
-#include <hud.h>
-#include <imagewidget.h>
-#include <tappstate.h>
+#include <ui/tappstate.h>
+#include <viewer/widgets/imagewidget.h>
+#include <viewer/widgets/render/hud.h>
 
 #include <QtGui/QOpenGLContext>
 #include <QtGui/QOpenGLFunctions>

@@ -1,8 +1,8 @@
 #include "fakedisplay.h"
 
-#include <framecache.h>
-#include <imagesallocationwidget.h>
-#include <imagesmarkerwidget.h>
+#include <viewer/frames/framecache.h>
+#include <viewer/widgets/imagesallocationwidget.h>
+#include <viewer/widgets/imagesmarkerwidget.h>
 
 #include <QtGui/QImage>
 #include <QtTest/QTest>

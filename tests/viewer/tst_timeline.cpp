@@ -1,4 +1,4 @@
-#include <imagetimeline.h>
+#include <viewer/widgets/imagetimeline.h>
 
 #include <QtGui/QPainter>
 #include <QtTest/QSignalSpy>

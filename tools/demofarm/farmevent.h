@@ -1,8 +1,7 @@
 #pragma once
 
-#include "packets.h"
-
-#include "tframesrange.h"
+#include <client_lib/tframesrange.h>
+#include <net/packets.h>
 
 #include <chrono>
 #include <cstdint>

@@ -2,8 +2,8 @@
 
 #include "farmevent.h"
 
-#include "tchunk.h"
-#include "tjob.h"
+#include <client_lib/tchunk.h>
+#include <client_lib/tjob.h>
 
 #include <QtCore/QString>
 

@@ -2,7 +2,7 @@
 
 #include "farmlog.h"
 
-#include "packets.h"
+#include <net/packets.h>
 
 #include <QtCore/QDebug>
 #include <QtCore/QTimer>
@@ -15,11 +15,11 @@ namespace {
 
 /// Unsent bytes above which a client counts as slow.
 constexpr qint64 kHighWater = 256LL * 1024;
-/// No client has a reason to send a larger frame.
+/// No client has a reason to send a larger message.
 constexpr qsizetype kMaxReceived = 1024LL * 1024;
 /// Longest piece of a message's text in the log, in bytes.
 constexpr qsizetype kMaxLogged = 200;
-/// How long a client may take to hang up on a broken frame.
+/// How long a client may take to hang up on a broken message.
 constexpr std::chrono::seconds kHangUpPatience{10};
 
 /// In double quotes, with what does not print written as escapes.
@@ -41,7 +41,7 @@ FarmLink::FarmLink(int number, QTcpSocket *socket, int fragmentSize, QObject *pa
 {
     m_socket->setParent(this);
     m_socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
-    connect(m_socket, &QTcpSocket::readyRead, this, &FarmLink::readFrames);
+    connect(m_socket, &QTcpSocket::readyRead, this, &FarmLink::readMessages);
     connect(m_socket, &QTcpSocket::bytesWritten, this, [this] {
         writeMore();
         Q_EMIT progressed();
@@ -72,10 +72,10 @@ void FarmLink::send(const QByteArray &bytes)
     writeMore();
 }
 
-void FarmLink::sendEvent(const QByteArray &frame)
+void FarmLink::sendEvent(const QByteArray &message)
 {
     ++m_events;
-    send(frame);
+    send(message);
 }
 
 void FarmLink::sendBroken(const QByteArray &bytes)
@@ -83,7 +83,7 @@ void FarmLink::sendBroken(const QByteArray &bytes)
     m_broken = true;
     send(bytes);
     QTimer::singleShot(kHangUpPatience, this, [this] {
-        log(QStringLiteral("did not hang up on a broken frame"));
+        log(QStringLiteral("did not hang up on a broken message"));
         m_socket->abort();
     });
 }
@@ -114,34 +114,34 @@ void FarmLink::writeMore()
     }
 }
 
-void FarmLink::readFrames()
+void FarmLink::readMessages()
 {
     m_reader.append(m_socket->readAll());
-    RawFrame frame;
-    FrameReader::Next next = m_reader.take(frame);
-    for (; next == FrameReader::Next::Frame; next = m_reader.take(frame))
-        logFrame(frame);
-    if (next == FrameReader::Next::Broken || m_reader.size() > kMaxReceived) {
-        log(QStringLiteral("sent a broken frame"));
+    RawMessage message;
+    MessageReader::Next next = m_reader.take(message);
+    for (; next == MessageReader::Next::Message; next = m_reader.take(message))
+        logMessage(message);
+    if (next == MessageReader::Next::Broken || m_reader.size() > kMaxReceived) {
+        log(QStringLiteral("sent a broken message"));
         m_reader.clear();
         m_socket->abort();
     }
 }
 
-void FarmLink::logFrame(const RawFrame &frame)
+void FarmLink::logMessage(const RawMessage &message)
 {
-    switch (frame.header.command) {
+    switch (message.header.command) {
     case CMD_LOGIN:
-        logIn(frame.payload);
+        logIn(message.payload);
         break;
     case CMD_HEARTBEAT:
         log(QStringLiteral("heartbeat"));
         break;
     default:
         log(QStringLiteral("message command=%1 param=%2 size=%3 text=%4")
-                .arg(QString::number(frame.header.command), QString::number(frame.header.param),
-                     QString::number(frame.payload.size()),
-                     quoted(frame.payload.first(qMin(kMaxLogged, frame.payload.size())).toByteArray())));
+                .arg(QString::number(message.header.command), QString::number(message.header.param),
+                     QString::number(message.payload.size()),
+                     quoted(message.payload.first(qMin(kMaxLogged, message.payload.size())).toByteArray())));
         break;
     }
 }

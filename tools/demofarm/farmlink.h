@@ -1,17 +1,17 @@
 #pragma once
 
-#include "framereader.h"
+#include <net/messagereader.h>
 
 #include <QtCore/QObject>
 
 class QTcpSocket;
 
-/// The farm's end of one client's connection: reads and logs what the client sends, and writes frames at the pace at
+/// The farm's end of one client's connection: reads and logs what the client sends, and writes messages at the pace at
 /// which the client takes them. Owns the socket. Emits gone() once, when the connection is closed.
 class FarmLink final : public QObject {
     Q_OBJECT
 public:
-    /// fragmentSize: bytes written at a time, 0 for whole frames.
+    /// fragmentSize: bytes written at a time, 0 for whole messages.
     FarmLink(int number, QTcpSocket *socket, int fragmentSize, QObject *parent);
 
     int number() const { return m_number; }
@@ -24,7 +24,7 @@ public:
 
     void admit() { m_listening = true; }
     void send(const QByteArray &bytes);
-    void sendEvent(const QByteArray &frame);
+    void sendEvent(const QByteArray &message);
     /// Sends bytes on which the client is to hang up; one that does not is hung up on after a while.
     void sendBroken(const QByteArray &bytes);
     /// Sends what is unsent, then closes.
@@ -37,8 +37,8 @@ Q_SIGNALS:
     void gone();
 
 private:
-    void readFrames();
-    void logFrame(const RawFrame &frame);
+    void readMessages();
+    void logMessage(const RawMessage &message);
     void logIn(QByteArrayView payload);
     void writeMore();
     void log(const QString &text) const;
@@ -46,7 +46,7 @@ private:
     const int m_number;
     QTcpSocket *const m_socket;
     const int m_fragmentSize;
-    FrameReader m_reader;
+    MessageReader m_reader;
     QByteArray m_unsent;
     qsizetype m_sent = 0; // bytes of m_unsent that are written
     int m_events = 0;

@@ -28,7 +28,7 @@ constexpr OptionRow kRows[] = {
      "Send this message to the client's template of that ID after each log-in; may be repeated."},
     {"deny-login", nullptr, "Refuse every log-in."},
     {"drop-after", "seconds", "Hang up so long after each log-in."},
-    {"garbage", nullptr, "Send broken frames between the events, a seventh as many."},
+    {"garbage", nullptr, "Send broken messages between the events, a seventh as many."},
     {"frames-in", "folder",
      "Make the folder of the run's frames in this one, in place of the user's temporary folder."},
     {"keep-frames", nullptr, "Leave that folder at the end."},

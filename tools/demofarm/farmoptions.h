@@ -2,7 +2,7 @@
 
 #include "scenario.h"
 
-#include <packets.h>
+#include <net/packets.h>
 
 #include <QtCore/QList>
 #include <QtCore/QString>

@@ -4,7 +4,7 @@
 #include "framestore.h"
 #include "garbage.h"
 
-#include "frames.h"
+#include <net/wire.h>
 
 #include <QtCore/QDateTime>
 #include <QtNetwork/QTcpSocket>
@@ -66,12 +66,12 @@ void FarmServer::addClient(QTcpSocket *socket)
 void FarmServer::greet(FarmLink *link)
 {
     if (m_options.denyLogin) {
-        link->send(encodeFrame(CMD_LOGIN_DENIED, {}));
+        link->send(encodeMessage(CMD_LOGIN_DENIED, {}));
         return;
     }
     link->admit();
     for (const CustomMessagePacket &message : m_options.customMessages)
-        link->send(encodeFrame(frameType(), CMD_CUSTOM_MESSAGE, encodeCustomMessage(message)));
+        link->send(encodeMessage(frameType(), CMD_CUSTOM_MESSAGE, encodeCustomMessage(message)));
     if (m_options.dropAfter)
         QTimer::singleShot(*m_options.dropAfter, link, &FarmLink::hangUp);
     // What the night missed while nobody listened is not made up for.
@@ -79,9 +79,9 @@ void FarmServer::greet(FarmLink *link)
     play();
 }
 
-FrameHeader::Type FarmServer::frameType() const
+MessageHeader::Type FarmServer::frameType() const
 {
-    return m_options.compress ? FrameHeader::Compressed : FrameHeader::Plain;
+    return m_options.compress ? MessageHeader::Compressed : MessageHeader::Plain;
 }
 
 void FarmServer::removeClient(FarmLink *link)
@@ -146,7 +146,7 @@ void FarmServer::deliverEvent()
     if (m_frames && m_next->render)
         m_frames->render(*m_next->render);
     m_next->packet.eventTime = QDateTime::currentSecsSinceEpoch();
-    const QByteArray frame = encodeFrame(frameType(), CMD_NOTIFICATION, encodeNotification(m_next->packet));
+    const QByteArray frame = encodeMessage(frameType(), CMD_NOTIFICATION, encodeNotification(m_next->packet));
     m_next.reset();
     ++m_sent;
     for (FarmLink *link : m_links) {

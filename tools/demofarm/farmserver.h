@@ -37,7 +37,7 @@ private:
     void acceptClients();
     void addClient(QTcpSocket *socket);
     void greet(FarmLink *link);
-    FrameHeader::Type frameType() const;
+    MessageHeader::Type frameType() const;
     void removeClient(FarmLink *link);
 
     bool mayPlay() const;

@@ -3,7 +3,7 @@
 #include "farmlog.h"
 #include "framewriter.h"
 
-#include <filesystem.h>
+#include <framework/filesystem.h>
 
 #include <QtCore/QDir>
 

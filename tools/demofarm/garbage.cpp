@@ -1,16 +1,16 @@
 #include "garbage.h"
 
-#include "frames.h"
-#include "packets.h"
+#include <net/packets.h>
+#include <net/wire.h>
 
 #include <iterator>
 
 namespace {
 
-QByteArray rawFrame(FrameHeader::Type type, qint32 length, quint32 command, const QByteArray &wire)
+QByteArray rawMessage(MessageHeader::Type type, qint32 length, quint32 command, const QByteArray &wire)
 {
     QByteArray bytes;
-    FrameHeader{type, length, 0, command}.appendTo(bytes);
+    MessageHeader{type, length, 0, command}.appendTo(bytes);
     return bytes + wire;
 }
 
@@ -19,27 +19,27 @@ Garbage notZlib()
     const QByteArray wire =
         QByteArray::fromHex("40000000") + QByteArrayLiteral("this is no compressed stream");
     return {QStringLiteral("payload that does not inflate"),
-            rawFrame(FrameHeader::Compressed, qint32(wire.size()), CMD_NOTIFICATION, wire),
+            rawMessage(MessageHeader::Compressed, qint32(wire.size()), CMD_NOTIFICATION, wire),
             Garbage::Effect::DropsBuffers};
 }
 
 Garbage unknownCommand()
 {
-    return {QStringLiteral("unknown command"), encodeFrame(FrameHeader::Plain, 999, "nobody knows this"),
+    return {QStringLiteral("unknown command"), encodeMessage(MessageHeader::Plain, 999, "nobody knows this"),
             Garbage::Effect::Ignored};
 }
 
 Garbage shortNotification()
 {
     return {QStringLiteral("notification of six fields"),
-            encodeFrame(FrameHeader::Plain, CMD_NOTIFICATION, "lost\n2\n0\nmara\n\n"),
+            encodeMessage(MessageHeader::Plain, CMD_NOTIFICATION, "lost\n2\n0\nmara\n\n"),
             Garbage::Effect::Ignored};
 }
 
 Garbage negativeLength()
 {
     return {QStringLiteral("header of negative length"),
-            rawFrame(FrameHeader::Plain, -13, CMD_NOTIFICATION, QByteArray(64, 'x')),
+            rawMessage(MessageHeader::Plain, -13, CMD_NOTIFICATION, QByteArray(64, 'x')),
             Garbage::Effect::BreaksLink};
 }
 
@@ -47,14 +47,14 @@ Garbage negativeInflatedSize()
 {
     const QByteArray wire = QByteArray::fromHex("ffffffff789c030000000001");
     return {QStringLiteral("payload of negative inflated size"),
-            rawFrame(FrameHeader::Compressed, qint32(wire.size()), CMD_NOTIFICATION, wire),
+            rawMessage(MessageHeader::Compressed, qint32(wire.size()), CMD_NOTIFICATION, wire),
             Garbage::Effect::BreaksLink};
 }
 
 Garbage noPayloadType()
 {
-    return {QStringLiteral("frame that says it has no payload and has one"),
-            encodeFrame(FrameHeader::NoPayload, CMD_NOTIFICATION, "a\n1\n2\nb\n\n\n"),
+    return {QStringLiteral("message that says it has no payload and has one"),
+            encodeMessage(MessageHeader::NoPayload, CMD_NOTIFICATION, "a\n1\n2\nb\n\n\n"),
             Garbage::Effect::Ignored};
 }
 

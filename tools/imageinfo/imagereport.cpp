@@ -1,6 +1,6 @@
 #include "imagereport.h"
 
-#include <iimagecore.h>
+#include <image_library/iimagecore.h>
 
 #include <QtCore/QFloat16>
 

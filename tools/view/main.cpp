@@ -5,18 +5,18 @@
 
 #include "viewoptions.h"
 
-#include <cachetotals.h>
-#include <calibrationpanel.h>
-#include <framesondisk.h>
-#include <glprobe.h>
-#include <imageviewer.h>
-#include <imagewidget.h>
-#include <language.h>
-#include <look.h>
-#include <product.h>
-#include <settings.h>
-#include <tappstate.h>
-#include <tframework.h>
+#include <framework/tframework.h>
+#include <notify/settings/settings.h>
+#include <ui/glprobe.h>
+#include <ui/language.h>
+#include <ui/look.h>
+#include <ui/product.h>
+#include <ui/tappstate.h>
+#include <viewer/calibrationpanel.h>
+#include <viewer/frames/cachetotals.h>
+#include <viewer/frames/framesondisk.h>
+#include <viewer/imageviewer.h>
+#include <viewer/widgets/imagewidget.h>
 
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QApplication>

@@ -1,6 +1,6 @@
 #include "viewoptions.h"
 
-#include <calibrationpanel.h>
+#include <viewer/calibrationpanel.h>
 
 #include <QtCore/QCommandLineParser>
 

@@ -3,7 +3,7 @@
 #include "compositelayers.h"
 #include "imageframe.h"
 
-#include <ctimage.h>
+#include <image_library/ctimage.h>
 
 #include <memory>
 #include <string>

@@ -4,7 +4,7 @@
 #include "framecache.h"
 #include "framedisplay.h"
 
-#include <filesystem.h>
+#include <framework/filesystem.h>
 
 #include <algorithm>
 #include <memory>

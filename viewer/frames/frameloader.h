@@ -2,7 +2,7 @@
 
 #include "compositelayers.h"
 
-#include <iimagecore.h>
+#include <image_library/iimagecore.h>
 
 #include <cstdint>
 #include <optional>

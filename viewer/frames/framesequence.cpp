@@ -2,8 +2,8 @@
 
 #include "framesondisk.h"
 
-#include <filesystem.h>
-#include <tframesrange.h>
+#include <client_lib/tframesrange.h>
+#include <framework/filesystem.h>
 
 #include <algorithm>
 #include <limits>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <tchunk.h>
-#include <tjob.h>
+#include <client_lib/tchunk.h>
+#include <client_lib/tjob.h>
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "framesondisk.h"
 
-#include <filesystem.h>
-#include <iimagecore.h>
+#include <framework/filesystem.h>
+#include <image_library/iimagecore.h>
 
 #include <algorithm>
 #include <set>

@@ -1,6 +1,6 @@
 #include "glpane.h"
 
-#include "viewerlog.h"
+#include <viewer/frames/viewerlog.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>

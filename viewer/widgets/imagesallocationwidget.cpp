@@ -1,7 +1,7 @@
 #include "imagesallocationwidget.h"
 
-#include <filesystem.h>
-#include <framecache.h>
+#include <framework/filesystem.h>
+#include <viewer/frames/framecache.h>
 
 #include <QtGui/QPainter>
 

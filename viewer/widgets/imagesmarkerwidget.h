@@ -1,7 +1,8 @@
 #pragma once
 
-#include "chunkmap.h"
 #include "framestrip.h"
+
+#include <viewer/frames/chunkmap.h>
 
 #include <cstdint>
 #include <vector>

@@ -1,10 +1,9 @@
 #include "imagewidget.h"
 
-#include "hud.h"
-#include "picturerenderer.h"
-
-#include <imageframe.h>
-#include <tappstate.h>
+#include <ui/tappstate.h>
+#include <viewer/frames/imageframe.h>
+#include <viewer/widgets/render/hud.h>
+#include <viewer/widgets/render/picturerenderer.h>
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QOpenGLContext>

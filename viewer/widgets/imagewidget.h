@@ -1,10 +1,10 @@
 #pragma once
 
 #include "glpane.h"
-#include "picturelook.h"
-#include "viewgeometry.h"
 
-#include <framedisplay.h>
+#include <viewer/frames/framedisplay.h>
+#include <viewer/widgets/render/picturelook.h>
+#include <viewer/widgets/render/viewgeometry.h>
 
 #include <QtCore/QStringList>
 #include <QtGui/QImage>

@@ -1,9 +1,0 @@
-#include "interpreter.h"
-
-#include <moduleexport.h>
-
-TARROW_MODULE_FUNCTION TTemplateEngine::Python *tarrowStartPython(const TTemplateEngine::PythonHost &host,
-                                                                  std::string &problem)
-{
-    return TTemplateEngine::Interpreter::start(host, problem).release();
-}

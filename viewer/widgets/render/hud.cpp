@@ -1,0 +1,137 @@
+#include "hud.h"
+
+#include "textures.h"
+
+#include <viewer/frames/imageframe.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtGui/QFontMetrics>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QImage>
+#include <QtGui/QPainter>
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace {
+
+constexpr int kFontSize = 15;
+constexpr std::array<int, 7> kBaselines = {25, 47, 70, 92, 115, 137, 160};
+// Longer than any path the system opens; names in files are as long as their writers please.
+constexpr std::size_t kLongestValue = 4096;
+
+struct Hud {
+    Q_DECLARE_TR_FUNCTIONS(Hud)
+};
+
+QFont hudFont()
+{
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(kFontSize);
+    font.setStyleStrategy(QFont::PreferAntialias);
+    return font;
+}
+
+/// A value stays on its line.
+QString value(const std::string &text)
+{
+    QString line =
+        QString::fromUtf8(text.data(), static_cast<qsizetype>(std::min(text.size(), kLongestValue)));
+    for (QChar &character : line) {
+        const QChar::Category category = character.category();
+        if (category == QChar::Other_Control || category == QChar::Separator_Line
+            || category == QChar::Separator_Paragraph)
+            character = u' ';
+    }
+    return line;
+}
+
+QString pixelFormatLine(GLenum pixelType)
+{
+    switch (pixelType) {
+    case GL_UNSIGNED_BYTE:
+        return Hud::tr("Pixel format: U8");
+    case GL_UNSIGNED_SHORT:
+        return Hud::tr("Pixel format: U16");
+    case GL_UNSIGNED_INT:
+        return Hud::tr("Pixel format: U32");
+    case GL_FLOAT:
+        return Hud::tr("Pixel format: F32");
+    case GL_HALF_FLOAT:
+        return Hud::tr("Pixel format: F16");
+    default:
+        return Hud::tr("Pixel format: Unknown");
+    }
+}
+
+QString bitFormatLine(GLenum internalFormat)
+{
+    switch (pixelDataFormat(internalFormat)) {
+    case GL_RGB:
+        return Hud::tr("Bit format: RGB");
+    case GL_RGBA:
+        return Hud::tr("Bit format: RGBA");
+    case GL_LUMINANCE:
+        return Hud::tr("Bit format: Luminance");
+    default:
+        return Hud::tr("Bit format: Unknown");
+    }
+}
+
+} // namespace
+
+QStringList hudLines(const ImageFrame &frame)
+{
+    const PlaneSize size = frame.planeSizes.empty() ? PlaneSize() : frame.planeSizes.front();
+    return {Hud::tr("File: %1").arg(value(frame.filePath)),
+            Hud::tr("File format: %1").arg(value(frame.formatName).toUpper()),
+            Hud::tr("Image size: %1x%2").arg(size.width).arg(size.height),
+            pixelFormatLine(frame.pixelType),
+            Hud::tr("Layers: %1").arg(value(frame.channelLayout)),
+            Hud::tr("Samples per channel: %1").arg(frame.components),
+            bitFormatLine(frame.internalFormat)};
+}
+
+QImage hudImage(const QStringList &lines, const QColor &color, qreal devicePixelRatio, int longestSide)
+{
+    const QString text = lines.join(u'\n') + u'\n';
+    const QFont font = hudFont();
+    const QSizeF logical = QFontMetricsF(font).size(0, text);
+    const QSize size = (logical * devicePixelRatio).toSize().boundedTo({longestSide, longestSide});
+    QImage image(size, QImage::Format_RGBA8888_Premultiplied);
+    if (image.isNull())
+        return image;
+    image.setDevicePixelRatio(devicePixelRatio);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.setFont(font);
+    painter.setPen(color);
+    painter.drawText(QRectF(QPointF(), logical), Qt::AlignLeft | Qt::TextDontClip, text);
+    return image;
+}
+
+void HudText::setLines(const QStringList &lines)
+{
+    if (m_lines == lines)
+        return;
+    m_lines = lines;
+    m_layouts.clear();
+    for (const QString &line : lines) {
+        const auto &layout = m_layouts.emplace_back(std::make_unique<QTextLayout>(line, hudFont()));
+        layout->setCacheEnabled(true);
+        layout->beginLayout();
+        layout->createLine();
+        layout->endLayout();
+    }
+}
+
+void HudText::paint(QPainter &painter, const QColor &color) const
+{
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.setPen(color);
+    const std::size_t count = std::min(m_layouts.size(), kBaselines.size());
+    for (std::size_t i = 0; i < count; ++i)
+        m_layouts[i]->draw(&painter, QPointF(kHudMargin, kBaselines[i] - m_layouts[i]->lineAt(0).ascent()));
+}

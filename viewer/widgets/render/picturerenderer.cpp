@@ -1,0 +1,135 @@
+#include "picturerenderer.h"
+
+#include <viewer/frames/imageframe.h>
+
+#include <QtGui/QOpenGLContext>
+#include <QtGui/QPainter>
+
+#include <algorithm>
+
+namespace {
+
+constexpr float kBorderWidth = 2.0F;
+
+} // namespace
+
+PictureRenderer::PictureRenderer(QOpenGLFunctions &gl, bool core)
+    : m_gl(gl)
+    , m_textures(gl, core)
+    , m_picture(core)
+    , m_border(core)
+    , m_checker(core)
+    , m_pictureVertices(gl, m_picture, kQuadCorners, core)
+    , m_checkerVertices(gl, m_checker, kQuadCorners, core)
+    , m_borderVertices(gl, m_border, kLoopCorners, core)
+    , m_wideLines(canWidenLines())
+{
+    if (!core)
+        return;
+    m_hud.emplace(gl, m_textures);
+    static_cast<void>(m_pictureVertices.createBuffers() && m_checkerVertices.createBuffers()
+                      && m_borderVertices.createBuffers() && m_hud->createBuffers());
+}
+
+void PictureRenderer::drawPicture(const Scene &scene)
+{
+    const ViewGeometry &geometry = scene.geometry;
+    m_gl.glViewport(0, 0, geometry.view.width(), geometry.view.height());
+    m_gl.glDisable(GL_BLEND);
+    m_gl.glClearColor(scene.look.background.redF(), scene.look.background.greenF(),
+                      scene.look.background.blueF(), 1.0F);
+    m_gl.glClear(GL_COLOR_BUFFER_BIT);
+
+    const QMatrix4x4 matrix = geometry.projection();
+    const QuadVertices quad = quadVertices(geometry.quad());
+    if (scene.look.checkerOn)
+        drawChecker(scene, matrix, quad);
+    if (scene.frame && !scene.frame->textureNames.empty())
+        drawFrame(scene, matrix, quad);
+}
+
+void PictureRenderer::drawBorder(const Scene &scene)
+{
+    if (!scene.frame || !m_border.bind())
+        return;
+    m_border.setMatrix(scene.geometry.projection());
+    const QRectF quad = scene.geometry.quad();
+    const auto drawLoop = [&](float outward) {
+        m_borderVertices.draw(GL_LINE_LOOP, loopVertices(quad, outward).data());
+    };
+    if (m_wideLines) {
+        m_gl.glLineWidth(kBorderWidth);
+        drawLoop(kBorderWidth);
+        m_gl.glLineWidth(1.0F);
+    } else {
+        // The same pixels, line by line.
+        drawLoop(kBorderWidth - 0.5F);
+        drawLoop(kBorderWidth + 0.5F);
+    }
+    m_border.release();
+}
+
+void PictureRenderer::drawHud(const Scene &scene, const QStringList &lines, qreal devicePixelRatio)
+{
+    if (m_hud) {
+        enableBlending();
+        m_hud->draw(scene.geometry.projection(), lines, scene.look.hud, devicePixelRatio);
+        m_gl.glDisable(GL_BLEND);
+        return;
+    }
+    m_hudText.setLines(lines);
+    m_view.setSize(scene.geometry.view);
+    m_view.setDevicePixelRatio(devicePixelRatio);
+    QPainter painter(&m_view);
+    m_hudText.paint(painter, scene.look.hud);
+}
+
+void PictureRenderer::drawChecker(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad)
+{
+    if (!m_checker.bind())
+        return;
+    m_checker.setMatrix(matrix);
+    m_checker.setUniforms(scene.geometry.checkerOffset(), scene.geometry.zoom);
+    m_checkerVertices.draw(GL_TRIANGLES, quad.data());
+    m_checker.release();
+}
+
+void PictureRenderer::drawFrame(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad)
+{
+    if (!m_picture.bind())
+        return;
+    if (scene.look.alphaOn)
+        enableBlending();
+    const auto bindTextures = [this, &names = scene.frame->textureNames](bool bound) {
+        // The first unit comes last and stays the active one.
+        for (std::size_t unit = names.size(); unit-- > 0;) {
+            m_gl.glActiveTexture(GL_TEXTURE0 + static_cast<GLenum>(unit));
+            m_gl.glBindTexture(GL_TEXTURE_2D, bound ? names[unit] : 0);
+        }
+    };
+    bindTextures(true);
+    m_picture.setMatrix(matrix);
+    m_picture.setUniforms(scene.look, *scene.frame);
+    m_pictureVertices.draw(GL_TRIANGLES, quad.data(), (scene.frame->yFlipped ? kTopDown : kBottomUp).data());
+    bindTextures(false);
+    m_gl.glDisable(GL_BLEND);
+    m_picture.release();
+}
+
+void PictureRenderer::enableBlending()
+{
+    m_gl.glEnable(GL_BLEND);
+    m_gl.glBlendEquation(GL_FUNC_ADD);
+    m_gl.glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+}
+
+/// A forward-compatible context takes no width above 1, whatever range it tells.
+bool PictureRenderer::canWidenLines()
+{
+    GLint flags = 0;
+    if (QOpenGLContext::currentContext()->format().version() >= std::pair(3, 0))
+        m_gl.glGetIntegerv(GL_CONTEXT_FLAGS, &flags);
+    std::array<GLfloat, 2> range{};
+    m_gl.glGetFloatv(GL_ALIASED_LINE_WIDTH_RANGE, range.data());
+    return !(flags & GL_CONTEXT_FLAG_FORWARD_COMPATIBLE_BIT) && range[1] >= kBorderWidth;
+}
