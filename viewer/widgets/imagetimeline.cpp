@@ -1,5 +1,7 @@
 #include "imagetimeline.h"
 
+#include <viewer/frames/framesteps.h>
+
 #include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
@@ -102,7 +104,8 @@ void imageTimeline::moveLast()
 
 bool imageTimeline::move(std::int64_t step)
 {
-    return !m_scale.frames().empty() && moveTo(stepped(step));
+    const std::optional<std::int64_t> frame = steppedFrame(m_scale.frames(), m_position, step);
+    return frame && moveTo(static_cast<std::int32_t>(*frame));
 }
 
 bool imageTimeline::moveTo(std::int32_t frame)
@@ -113,26 +116,6 @@ bool imageTimeline::moveTo(std::int32_t frame)
     show(frame);
     Q_EMIT frameChanged(frame, false, false, false, false);
     return true;
-}
-
-std::int32_t imageTimeline::stepped(std::int64_t step) const
-{
-    const auto &frames = m_scale.frames();
-    const std::int64_t next = m_position + step;
-    if (next > frames.back())
-        return frames.back();
-    if (next < frames.front())
-        return frames.front();
-    // From frame to frame and not from step to step: a gap may be a billion steps wide.
-    const auto reached = [this, step](std::int64_t frame) { return (frame - m_position) % step == 0; };
-    if (step > 0) {
-        const auto from = std::lower_bound(frames.begin(), frames.end(), next);
-        const auto found = std::find_if(from, frames.end(), reached);
-        return found != frames.end() ? *found : frames.back();
-    }
-    const auto from = std::make_reverse_iterator(std::upper_bound(frames.begin(), frames.end(), next));
-    const auto found = std::find_if(from, frames.rend(), reached);
-    return found != frames.rend() ? *found : frames.front();
 }
 
 std::int32_t imageTimeline::frameAt(const QMouseEvent &event) const

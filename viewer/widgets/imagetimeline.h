@@ -50,8 +50,6 @@ protected:
 
 private:
     std::int32_t frameAt(const QMouseEvent &event) const;
-    /// Where steps from the position end; there is at least one frame.
-    std::int32_t stepped(std::int64_t step) const;
     bool move(std::int64_t step);
     bool moveTo(std::int32_t frame);
     void dragTo(std::int32_t frame);
