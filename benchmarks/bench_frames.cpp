@@ -87,8 +87,8 @@ std::vector<std::string> makePaths(const std::filesystem::path &folder)
 
 void openSequence(const std::vector<std::string> &paths)
 {
-    const auto sequence = openFrames({}, {.path = paths[kFrames / 2]}, {});
-    if (!sequence || sequence->frames.size() != std::size_t(kFrames))
+    const auto opened = openFrames({.path = paths[kFrames / 2]}, {});
+    if (opened.sequence.frames.size() != std::size_t(kFrames))
         fail("the sequence is not found");
 }
 

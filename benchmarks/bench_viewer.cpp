@@ -10,6 +10,7 @@
 #include <viewer/frames/framecache.h>
 #include <viewer/frames/frameloader.h>
 #include <viewer/imageviewer.h>
+#include <viewer/session/viewersession.h>
 #include <viewer/widgets/imagetimeline.h>
 #include <viewer/widgets/imagewidget.h>
 
@@ -79,7 +80,7 @@ std::unique_ptr<ImageViewer> openViewer(CacheTotals &totals, const QString &path
     auto viewer = std::make_unique<ImageViewer>(totals, ViewerSettings{});
     viewer->setAttribute(Qt::WA_DeleteOnClose, false);
     viewer->show();
-    viewer->setFramesPath({path.toStdString(), true, FramesRequest::kNoFrame, true});
+    viewer->setFramesPath({.path = path.toStdString(), .force = true, .maskIsSequence = true});
     return viewer;
 }
 
@@ -172,7 +173,7 @@ void measureOpening(const QTemporaryDir &folder)
             timer.start();
             const auto viewer = openViewer(totals, file);
             const double time = paintedAt(viewer->picture(), timer);
-            if (!viewer->lastLoad().shown())
+            if (!viewer->session().lastLoad().shown())
                 fail("the frame does not open");
             return time;
         },

@@ -20,9 +20,9 @@ void asFrames(const std::string &path, std::int32_t frame)
     for (const bool maskIsSequence : {false, true}) {
         request.maskIsSequence = maskIsSequence;
         request.force = true;
-        const auto sequence = openFrames({}, request, {nullptr, &chunk});
-        require(sequence && !sequence->frames.empty() && sequence->frames.contains(sequence->currentFrame)
-                && sequence->byFrame >= 1 && (!sequence->isSequence || !sequence->currentFile().empty()));
+        const auto [sequence, frame] = openFrames(request, {nullptr, &chunk});
+        require(!sequence.frames.empty() && sequence.frames.contains(frame) && sequence.byFrame >= 1
+                && (!sequence.isSequence || !sequence.fileOf(frame).empty()));
     }
 }
 

@@ -3,6 +3,7 @@
 #include <notify/events/eventslist.h>
 #include <notify/events/notifyevent.h>
 #include <notify/settings/settings.h>
+#include <viewer/frames/framesequence.h>
 #include <viewer/imageviewer.h>
 
 #include <algorithm>
@@ -57,5 +58,6 @@ void ViewerWindows::show(ImageViewer &viewer, const EventFrames &frames, bool ma
     viewer.setJob(frames.job);
     viewer.show();
     viewer.raise();
-    viewer.setFramesPath({frames.mask.toStdString(), true, FramesRequest::kNoFrame, maskIsSequence});
+    viewer.setFramesPath(
+        {.path = frames.mask.toStdString(), .force = true, .maskIsSequence = maskIsSequence});
 }

@@ -55,6 +55,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayControls</name>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>HUD colour</source>
+        <translation>HUD-Farbe</translation>
+    </message>
+</context>
+<context>
     <name>EventKind</name>
     <message>
         <source>Success</source>
@@ -208,54 +219,6 @@
     <message>
         <source>Images viewer</source>
         <translation>Bildbetrachter</translation>
-    </message>
-    <message>
-        <source>File not found at path: %1</source>
-        <translation>Datei nicht gefunden: %1</translation>
-    </message>
-    <message>
-        <source>Corrupted file at path: %1</source>
-        <translation>Beschädigte Datei: %1</translation>
-    </message>
-    <message>
-        <source>S:(%1)</source>
-        <translation>S:(%1)</translation>
-    </message>
-    <message>
-        <source>E:(%1)</source>
-        <translation>E:(%1)</translation>
-    </message>
-    <message>
-        <source>%1 frame(s)</source>
-        <translation>%1 Frame(s)</translation>
-    </message>
-    <message>
-        <source>%1 chunk(s)</source>
-        <translation>%1 Chunk(s)</translation>
-    </message>
-    <message>
-        <source>Background</source>
-        <translation>Hintergrund</translation>
-    </message>
-    <message>
-        <source>HUD colour</source>
-        <translation>HUD-Farbe</translation>
-    </message>
-    <message>
-        <source>%1 fps</source>
-        <translation>%1 fps</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Anhalten</translation>
-    </message>
-    <message>
-        <source>Play</source>
-        <translation>Abspielen</translation>
-    </message>
-    <message>
-        <source>Are you sure you want to remove the current markings ?</source>
-        <translation>Möchten Sie die aktuellen Markierungen wirklich entfernen?</translation>
     </message>
 </context>
 <context>
@@ -733,6 +696,32 @@
     </message>
 </context>
 <context>
+    <name>LoadStatus</name>
+    <message>
+        <source>File not found at path: %1</source>
+        <translation>Datei nicht gefunden: %1</translation>
+    </message>
+    <message>
+        <source>Corrupted file at path: %1</source>
+        <translation>Beschädigte Datei: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MarkingControls</name>
+    <message>
+        <source>%1 frame(s)</source>
+        <translation>%1 Frame(s)</translation>
+    </message>
+    <message>
+        <source>%1 chunk(s)</source>
+        <translation>%1 Chunk(s)</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to remove the current markings ?</source>
+        <translation>Möchten Sie die aktuellen Markierungen wirklich entfernen?</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -814,6 +803,33 @@
     <message>
         <source>Loading template %1...</source>
         <translation>Vorlage %1 wird geladen …</translation>
+    </message>
+</context>
+<context>
+    <name>TransportControls</name>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 fps</translation>
+    </message>
+    <message>
+        <source>S:(%1)</source>
+        <translation>S:(%1)</translation>
+    </message>
+    <message>
+        <source>E:(%1)</source>
+        <translation>E:(%1)</translation>
+    </message>
+    <message>
+        <source>%1 frame(s)</source>
+        <translation>%1 Frame(s)</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
     </message>
 </context>
 <context>

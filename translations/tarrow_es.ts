@@ -55,6 +55,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayControls</name>
+    <message>
+        <source>Background</source>
+        <translation>Fondo</translation>
+    </message>
+    <message>
+        <source>HUD colour</source>
+        <translation>Color del HUD</translation>
+    </message>
+</context>
+<context>
     <name>EventKind</name>
     <message>
         <source>Success</source>
@@ -208,54 +219,6 @@
     <message>
         <source>Images viewer</source>
         <translation>Visor de imágenes</translation>
-    </message>
-    <message>
-        <source>File not found at path: %1</source>
-        <translation>No se encuentra el archivo: %1</translation>
-    </message>
-    <message>
-        <source>Corrupted file at path: %1</source>
-        <translation>Archivo dañado: %1</translation>
-    </message>
-    <message>
-        <source>S:(%1)</source>
-        <translation>I:(%1)</translation>
-    </message>
-    <message>
-        <source>E:(%1)</source>
-        <translation>F:(%1)</translation>
-    </message>
-    <message>
-        <source>%1 frame(s)</source>
-        <translation>%1 fotograma(s)</translation>
-    </message>
-    <message>
-        <source>%1 chunk(s)</source>
-        <translation>%1 chunk(s)</translation>
-    </message>
-    <message>
-        <source>Background</source>
-        <translation>Fondo</translation>
-    </message>
-    <message>
-        <source>HUD colour</source>
-        <translation>Color del HUD</translation>
-    </message>
-    <message>
-        <source>%1 fps</source>
-        <translation>%1 fps</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Detener</translation>
-    </message>
-    <message>
-        <source>Play</source>
-        <translation>Reproducir</translation>
-    </message>
-    <message>
-        <source>Are you sure you want to remove the current markings ?</source>
-        <translation>¿Seguro que desea quitar las marcas actuales?</translation>
     </message>
 </context>
 <context>
@@ -733,6 +696,32 @@
     </message>
 </context>
 <context>
+    <name>LoadStatus</name>
+    <message>
+        <source>File not found at path: %1</source>
+        <translation>No se encuentra el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Corrupted file at path: %1</source>
+        <translation>Archivo dañado: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MarkingControls</name>
+    <message>
+        <source>%1 frame(s)</source>
+        <translation>%1 fotograma(s)</translation>
+    </message>
+    <message>
+        <source>%1 chunk(s)</source>
+        <translation>%1 chunk(s)</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to remove the current markings ?</source>
+        <translation>¿Seguro que desea quitar las marcas actuales?</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -814,6 +803,33 @@
     <message>
         <source>Loading template %1...</source>
         <translation>Cargando plantilla %1...</translation>
+    </message>
+</context>
+<context>
+    <name>TransportControls</name>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 fps</translation>
+    </message>
+    <message>
+        <source>S:(%1)</source>
+        <translation>I:(%1)</translation>
+    </message>
+    <message>
+        <source>E:(%1)</source>
+        <translation>F:(%1)</translation>
+    </message>
+    <message>
+        <source>%1 frame(s)</source>
+        <translation>%1 fotograma(s)</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
     </message>
 </context>
 <context>

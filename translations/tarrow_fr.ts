@@ -55,6 +55,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayControls</name>
+    <message>
+        <source>Background</source>
+        <translation>Arrière-plan</translation>
+    </message>
+    <message>
+        <source>HUD colour</source>
+        <translation>Couleur du HUD</translation>
+    </message>
+</context>
+<context>
     <name>EventKind</name>
     <message>
         <source>Success</source>
@@ -208,54 +219,6 @@
     <message>
         <source>Images viewer</source>
         <translation>Visionneuse d&apos;images</translation>
-    </message>
-    <message>
-        <source>File not found at path: %1</source>
-        <translation>Fichier introuvable&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Corrupted file at path: %1</source>
-        <translation>Fichier endommagé&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>S:(%1)</source>
-        <translation>D:(%1)</translation>
-    </message>
-    <message>
-        <source>E:(%1)</source>
-        <translation>F:(%1)</translation>
-    </message>
-    <message>
-        <source>%1 frame(s)</source>
-        <translation>%1 image(s)</translation>
-    </message>
-    <message>
-        <source>%1 chunk(s)</source>
-        <translation>%1 chunk(s)</translation>
-    </message>
-    <message>
-        <source>Background</source>
-        <translation>Arrière-plan</translation>
-    </message>
-    <message>
-        <source>HUD colour</source>
-        <translation>Couleur du HUD</translation>
-    </message>
-    <message>
-        <source>%1 fps</source>
-        <translation>%1 i/s</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Arrêter</translation>
-    </message>
-    <message>
-        <source>Play</source>
-        <translation>Lire</translation>
-    </message>
-    <message>
-        <source>Are you sure you want to remove the current markings ?</source>
-        <translation>Voulez-vous vraiment supprimer les marques actuelles&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -733,6 +696,32 @@
     </message>
 </context>
 <context>
+    <name>LoadStatus</name>
+    <message>
+        <source>File not found at path: %1</source>
+        <translation>Fichier introuvable&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Corrupted file at path: %1</source>
+        <translation>Fichier endommagé&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MarkingControls</name>
+    <message>
+        <source>%1 frame(s)</source>
+        <translation>%1 image(s)</translation>
+    </message>
+    <message>
+        <source>%1 chunk(s)</source>
+        <translation>%1 chunk(s)</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to remove the current markings ?</source>
+        <translation>Voulez-vous vraiment supprimer les marques actuelles&#xa0;?</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -814,6 +803,33 @@
     <message>
         <source>Loading template %1...</source>
         <translation>Chargement du modèle %1...</translation>
+    </message>
+</context>
+<context>
+    <name>TransportControls</name>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 i/s</translation>
+    </message>
+    <message>
+        <source>S:(%1)</source>
+        <translation>D:(%1)</translation>
+    </message>
+    <message>
+        <source>E:(%1)</source>
+        <translation>F:(%1)</translation>
+    </message>
+    <message>
+        <source>%1 frame(s)</source>
+        <translation>%1 image(s)</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
     </message>
 </context>
 <context>

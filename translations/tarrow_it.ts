@@ -55,6 +55,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayControls</name>
+    <message>
+        <source>Background</source>
+        <translation>Sfondo</translation>
+    </message>
+    <message>
+        <source>HUD colour</source>
+        <translation>Colore HUD</translation>
+    </message>
+</context>
+<context>
     <name>EventKind</name>
     <message>
         <source>Success</source>
@@ -208,54 +219,6 @@
     <message>
         <source>Images viewer</source>
         <translation>Visualizzatore immagini</translation>
-    </message>
-    <message>
-        <source>File not found at path: %1</source>
-        <translation>File non trovato: %1</translation>
-    </message>
-    <message>
-        <source>Corrupted file at path: %1</source>
-        <translation>File danneggiato: %1</translation>
-    </message>
-    <message>
-        <source>S:(%1)</source>
-        <translation>I:(%1)</translation>
-    </message>
-    <message>
-        <source>E:(%1)</source>
-        <translation>F:(%1)</translation>
-    </message>
-    <message>
-        <source>%1 frame(s)</source>
-        <translation>%1 fotogramma/i</translation>
-    </message>
-    <message>
-        <source>%1 chunk(s)</source>
-        <translation>%1 chunk</translation>
-    </message>
-    <message>
-        <source>Background</source>
-        <translation>Sfondo</translation>
-    </message>
-    <message>
-        <source>HUD colour</source>
-        <translation>Colore HUD</translation>
-    </message>
-    <message>
-        <source>%1 fps</source>
-        <translation>%1 fps</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>Ferma</translation>
-    </message>
-    <message>
-        <source>Play</source>
-        <translation>Riproduci</translation>
-    </message>
-    <message>
-        <source>Are you sure you want to remove the current markings ?</source>
-        <translation>Rimuovere davvero i contrassegni attuali?</translation>
     </message>
 </context>
 <context>
@@ -733,6 +696,32 @@
     </message>
 </context>
 <context>
+    <name>LoadStatus</name>
+    <message>
+        <source>File not found at path: %1</source>
+        <translation>File non trovato: %1</translation>
+    </message>
+    <message>
+        <source>Corrupted file at path: %1</source>
+        <translation>File danneggiato: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MarkingControls</name>
+    <message>
+        <source>%1 frame(s)</source>
+        <translation>%1 fotogramma/i</translation>
+    </message>
+    <message>
+        <source>%1 chunk(s)</source>
+        <translation>%1 chunk</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to remove the current markings ?</source>
+        <translation>Rimuovere davvero i contrassegni attuali?</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -814,6 +803,33 @@
     <message>
         <source>Loading template %1...</source>
         <translation>Caricamento del modello %1...</translation>
+    </message>
+</context>
+<context>
+    <name>TransportControls</name>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 fps</translation>
+    </message>
+    <message>
+        <source>S:(%1)</source>
+        <translation>I:(%1)</translation>
+    </message>
+    <message>
+        <source>E:(%1)</source>
+        <translation>F:(%1)</translation>
+    </message>
+    <message>
+        <source>%1 frame(s)</source>
+        <translation>%1 fotogramma/i</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Riproduci</translation>
     </message>
 </context>
 <context>

@@ -55,6 +55,17 @@
     </message>
 </context>
 <context>
+    <name>DisplayControls</name>
+    <message>
+        <source>Background</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>HUD colour</source>
+        <translation>HUD の色</translation>
+    </message>
+</context>
+<context>
     <name>EventKind</name>
     <message>
         <source>Success</source>
@@ -208,54 +219,6 @@
     <message>
         <source>Images viewer</source>
         <translation>イメージビューア</translation>
-    </message>
-    <message>
-        <source>File not found at path: %1</source>
-        <translation>ファイルが見つかりません: %1</translation>
-    </message>
-    <message>
-        <source>Corrupted file at path: %1</source>
-        <translation>ファイルが破損しています: %1</translation>
-    </message>
-    <message>
-        <source>S:(%1)</source>
-        <translation>始:(%1)</translation>
-    </message>
-    <message>
-        <source>E:(%1)</source>
-        <translation>終:(%1)</translation>
-    </message>
-    <message>
-        <source>%1 frame(s)</source>
-        <translation>%1 フレーム</translation>
-    </message>
-    <message>
-        <source>%1 chunk(s)</source>
-        <translation>%1 チャンク</translation>
-    </message>
-    <message>
-        <source>Background</source>
-        <translation>背景</translation>
-    </message>
-    <message>
-        <source>HUD colour</source>
-        <translation>HUD の色</translation>
-    </message>
-    <message>
-        <source>%1 fps</source>
-        <translation>%1 fps</translation>
-    </message>
-    <message>
-        <source>Stop</source>
-        <translation>停止</translation>
-    </message>
-    <message>
-        <source>Play</source>
-        <translation>再生</translation>
-    </message>
-    <message>
-        <source>Are you sure you want to remove the current markings ?</source>
-        <translation>現在のマークを削除しますか?</translation>
     </message>
 </context>
 <context>
@@ -733,6 +696,32 @@
     </message>
 </context>
 <context>
+    <name>LoadStatus</name>
+    <message>
+        <source>File not found at path: %1</source>
+        <translation>ファイルが見つかりません: %1</translation>
+    </message>
+    <message>
+        <source>Corrupted file at path: %1</source>
+        <translation>ファイルが破損しています: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MarkingControls</name>
+    <message>
+        <source>%1 frame(s)</source>
+        <translation>%1 フレーム</translation>
+    </message>
+    <message>
+        <source>%1 chunk(s)</source>
+        <translation>%1 チャンク</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to remove the current markings ?</source>
+        <translation>現在のマークを削除しますか?</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -814,6 +803,33 @@
     <message>
         <source>Loading template %1...</source>
         <translation>テンプレート %1 を読み込んでいます...</translation>
+    </message>
+</context>
+<context>
+    <name>TransportControls</name>
+    <message>
+        <source>%1 fps</source>
+        <translation>%1 fps</translation>
+    </message>
+    <message>
+        <source>S:(%1)</source>
+        <translation>始:(%1)</translation>
+    </message>
+    <message>
+        <source>E:(%1)</source>
+        <translation>終:(%1)</translation>
+    </message>
+    <message>
+        <source>%1 frame(s)</source>
+        <translation>%1 フレーム</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>再生</translation>
     </message>
 </context>
 <context>

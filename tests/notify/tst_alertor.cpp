@@ -9,6 +9,7 @@
 #include <notify/resultopener.h>
 #include <ui/product.h>
 #include <viewer/imageviewer.h>
+#include <viewer/session/viewersession.h>
 
 #include <QtCore/QScopeGuard>
 #include <QtCore/QSettings>
@@ -397,18 +398,19 @@ private Q_SLOTS:
         farm.list()->selectAll();
         farm.alertor.actOpenFrame();
         QCOMPARE(viewers().size(), 2);
-        QCOMPARE(viewers()[0]->sequence().frames, (std::set<long>{5, 6, 7, 8, 9}));
-        QCOMPARE(viewers()[0]->marking().chunks().size(), 1U);
-        QCOMPARE(viewers()[1]->sequence().frames, (std::set<long>{5, 6}));
+        QCOMPARE(viewers()[0]->session().sequence().frames, (std::set<long>{5, 6, 7, 8, 9}));
+        QCOMPARE(viewers()[0]->session().marking().chunks().size(), 1U);
+        QCOMPARE(viewers()[1]->session().sequence().frames, (std::set<long>{5, 6}));
         qDeleteAll(viewers());
 
         for (int i = 0; i < 25; ++i)
             farm.send(farm::notification(1, &still));
         QTRY_COMPARE(farm.alertor.events().size(), 27);
         QTRY_COMPARE(viewers().size(), 20); // and no more by themselves
-        QVERIFY(QString::fromStdString(viewers().last()->sequence().framesPath).endsWith(u"still.exr"_s));
+        QVERIFY(QString::fromStdString(viewers().last()->session().sequence().framesPath)
+                    .endsWith(u"still.exr"_s));
         farm.alertor.openImageViewer();
-        QVERIFY(viewers().last()->sequence().framesPath.empty());
+        QVERIFY(viewers().last()->session().sequence().framesPath.empty());
     }
 
 private:

@@ -14,10 +14,12 @@ namespace {
 
 constexpr auto kLowest = std::numeric_limits<std::int64_t>::min();
 constexpr auto kHighest = std::numeric_limits<std::int64_t>::max();
+constexpr int kNone = std::numeric_limits<int>::max();
 
 /// "shot.##.exr: 3 4 5 @4", with "file " in front of a single file; more than ten frames as "first..last".
-QByteArray text(const FrameSequence &sequence)
+QByteArray text(const OpenedFrames &opened)
 {
+    const FrameSequence &sequence = opened.sequence;
     QByteArrayList frames;
     for (const long frame : sequence.frames)
         frames << QByteArray::number(qlonglong(frame));
@@ -25,7 +27,7 @@ QByteArray text(const FrameSequence &sequence)
         frames = {frames.first() + ".." + frames.last()};
     const QByteArray path = QByteArray::fromStdString(sequence.framesPath);
     return (sequence.isSequence ? "" : "file ") + path.mid(path.lastIndexOf('/') + 1) + ": "
-        + frames.join(' ') + " @" + QByteArray::number(sequence.currentFrame)
+        + frames.join(' ') + " @" + QByteArray::number(opened.frame)
         + (sequence.byFrame == 1 ? QByteArray() : " by " + QByteArray::number(sequence.byFrame));
 }
 
@@ -40,7 +42,6 @@ private Q_SLOTS:
     void paths();
     void records_data();
     void records();
-    void samePath();
 
 private:
     std::string path(const char *name) const { return m_folder.filePath(QLatin1String(name)).toStdString(); }
@@ -67,16 +68,17 @@ void FrameSequenceTest::paths_data()
     const auto row = [](const char *name, int preferred, bool isSequence, const char *expected) {
         QTest::addRow("%s|%d", name, preferred) << preferred << isSequence << QByteArray(expected);
     };
-    row("shot.04.exr", -1, false, "shot.##.exr: 3 4 5 @4");
+    row("shot.04.exr", kNone, false, "shot.##.exr: 3 4 5 @4");
     row("shot.08.exr", 3, false, "shot.##.exr: 7 8 @8");
-    row("n.000.exr", -1, false, "n.###.exr: -1 0 @0");
-    row("end.2147483647.exr", -1, false, "end.##########.exr: 2147483646 2147483647 @2147483647");
-    row("lone.0007.exr", -1, true, "file lone.0007.exr: 7 @7");
+    row("n.000.exr", kNone, false, "n.###.exr: -1 0 @0");
+    row("end.2147483647.exr", kNone, false, "end.##########.exr: 2147483646 2147483647 @2147483647");
+    row("lone.0007.exr", kNone, true, "file lone.0007.exr: 7 @7");
     row("logo.png", 5, true, "file logo.png: 1 @1");
     row("shot.%02d.exr", 4, true, "shot.%02d.exr: 3 4 5 @4");
+    row("n.###.exr", -1, true, "n.###.exr: -1 0 @-1");
     row("shot.##.exr", 4, false, "file shot.04.exr: 4 @4");
-    row("shot.##.exr", -1, true, "shot.##.exr: 3 4 5 @3");
-    row("none.##.exr", -1, true, "file none.00.exr: 0 @0");
+    row("shot.##.exr", kNone, true, "shot.##.exr: 3 4 5 @3");
+    row("none.##.exr", kNone, true, "file none.00.exr: 0 @0");
     row("lone.####.exr", 7, true, "file lone.0007.exr: 7 @7");
 }
 
@@ -85,9 +87,10 @@ void FrameSequenceTest::paths()
     QFETCH(const int, preferred);
     QFETCH(const bool, maskIsSequence);
     const QByteArray name = QByteArray(QTest::currentDataTag()).split('|').first();
-    FrameSequence before;
-    before.currentFrame = 3; // counts only when forced
-    QTEST(text(*openFrames(before, {path(name), false, preferred, maskIsSequence}, {})), "expected");
+    FramesRequest request{.path = path(name), .maskIsSequence = maskIsSequence};
+    if (preferred != kNone)
+        request.preferredFrame = preferred;
+    QTEST(text(openFrames(request, {})), "expected");
 }
 
 void FrameSequenceTest::records_data()
@@ -133,19 +136,9 @@ void FrameSequenceTest::records()
     TChunk chunk;
     if (isChunk)
         chunk.setFrames(all[0].start, all[0].end, all[0].step);
-    FrameSequence before;
-    before.currentFrame = current;
-    QTEST(text(*openFrames(before, {name.toStdString(), true, -1, true}, {&job, isChunk ? &chunk : nullptr})),
-          "expected");
-}
-
-void FrameSequenceTest::samePath()
-{
-    const auto sequence = openFrames({}, {path("shot.03.exr")}, {});
-    QCOMPARE(sequence->currentFile(), path("shot.03.exr"));
-    QVERIFY(!openFrames(*sequence, {path("shot.##.exr"), false, 8, true}, {}));
-    QCOMPARE(text(*openFrames(*sequence, {path("shot.##.exr"), true, 8, true}, {})),
-             QByteArray("shot.##.exr: 7 8 @8"));
+    const FramesRequest request{
+        .path = name.toStdString(), .preferredFrame = current, .maskIsSequence = true};
+    QTEST(text(openFrames(request, {&job, isChunk ? &chunk : nullptr})), "expected");
 }
 
 QTEST_APPLESS_MAIN(FrameSequenceTest)

@@ -16,6 +16,7 @@
 #include <viewer/frames/cachetotals.h>
 #include <viewer/frames/framesondisk.h>
 #include <viewer/imageviewer.h>
+#include <viewer/session/viewersession.h>
 #include <viewer/widgets/imagewidget.h>
 
 #include <QtCore/QFileInfo>
@@ -51,13 +52,15 @@ QString apply(const ViewOptions &options, ImageViewer &viewer)
     const std::string path = pathToOpen(options.path);
     if (path.empty())
         return QStringLiteral("%1: no image that can be shown").arg(options.path);
-    viewer.setFramesPath({path, true, options.frame.value_or(FramesRequest::kNoFrame), true});
-    if (options.frame && viewer.sequence().currentFrame != *options.frame)
-        viewer.setCurrentFrame(*options.frame);
-    if (!viewer.lastLoad().shown())
-        return QStringLiteral("%1: cannot be shown")
-            .arg(QString::fromStdString(viewer.sequence().currentFile()));
-    if (!options.layer.isEmpty() && !(viewer.setLayer(options.layer) && viewer.lastLoad().shown()))
+    ViewerSession &session = viewer.session();
+    viewer.setFramesPath(
+        {.path = path, .force = true, .preferredFrame = options.frame, .maskIsSequence = true});
+    if (options.frame)
+        session.setFrame(*options.frame);
+    if (!session.lastLoad().shown())
+        return QStringLiteral("%1: cannot be shown").arg(QString::fromStdString(session.file()));
+    if (!options.layer.isEmpty()
+        && !(session.setLayer(options.layer.toStdString()) && session.lastLoad().shown()))
         return QStringLiteral("%1: no layer %2 that can be shown").arg(options.path, options.layer);
     for (const auto &[name, value] : options.calibration)
         viewer.calibration().setValue(name, value);

@@ -11,6 +11,7 @@
 class FrameCache;
 class FrameDisplay;
 
+/// Asks for one frame.
 struct LoadRequest {
     std::string path;
     std::string layer; ///< the layer selector's entry; empty when there is none yet
@@ -30,6 +31,7 @@ enum class LoadOutcome {
     NothingShown, ///< the file is sound, but holds the layer in no form that can be shown
 };
 
+/// What a load came to.
 struct LoadResult {
     LoadOutcome outcome = LoadOutcome::NothingShown;
     std::optional<LayerList>
@@ -37,6 +39,8 @@ struct LoadResult {
     std::string layer; ///< the entry of `layers` that was loaded
 
     bool shown() const { return outcome == LoadOutcome::Shown; }
+    /// The file is missing or broken, which another look at it may find mended.
+    bool failed() const { return outcome == LoadOutcome::NotFound || outcome == LoadOutcome::Corrupted; }
 };
 
 /// Brings one frame on the display, from the cache or from its file through the image library; blocks meanwhile. A load

@@ -30,16 +30,18 @@ void setFrames(FrameSequence &sequence, const std::vector<TFramesRange> &ranges)
         sequence.frames = {1};
 }
 
-/// The frames of the record, the current one among them or the first.
-void takeRecord(FrameSequence &sequence, const FramesOrigin &origin, std::int32_t frame)
+/// The frames of the record, and the given one among them or the first.
+OpenedFrames framesOf(const FramesOrigin &origin, std::int32_t frame)
 {
+    OpenedFrames opened;
+    FrameSequence &sequence = opened.sequence;
     if (origin.chunk)
         setFrames(sequence, {{origin.chunk->getStart(), origin.chunk->getEnd(), origin.chunk->getStep()}});
     else
         setFrames(sequence, origin.job->GetFrameRanges());
-    const auto first = static_cast<std::int32_t>(*sequence.frames.begin());
-    const auto last = static_cast<std::int32_t>(*sequence.frames.rbegin());
-    sequence.currentFrame = frame < first || frame > last ? first : frame;
+    const bool isAmong = frame >= sequence.first() && frame <= sequence.last();
+    opened.frame = isAmong ? frame : static_cast<std::int32_t>(sequence.first());
+    return opened;
 }
 
 struct PathMask {
@@ -83,47 +85,40 @@ std::set<long> existingRun(const std::string &mask, std::int32_t start)
 
 } // namespace
 
-std::string FrameSequence::currentFile() const
+std::string FrameSequence::fileOf(std::int32_t frame) const
 {
-    return isSequence ? TFileSystem::GetFileFromMask(framesPath, currentFrame) : framesPath;
+    return isSequence ? TFileSystem::GetFileFromMask(framesPath, frame) : framesPath;
 }
 
-std::optional<FrameSequence> openFrames(const FrameSequence &shown, const FramesRequest &request,
-                                        const FramesOrigin &origin)
+OpenedFrames openFrames(const FramesRequest &request, const FramesOrigin &origin)
 {
-    if (request.path == shown.framesPath && !request.force)
-        return std::nullopt;
-
-    std::int32_t start = request.preferredFrame;
-    if (start == FramesRequest::kNoFrame)
-        start = request.force ? shown.currentFrame : 0;
-    FrameSequence sequence;
-    sequence.framesPath = request.path;
+    OpenedFrames opened;
+    FrameSequence &sequence = opened.sequence;
+    std::int32_t start = request.preferredFrame.value_or(0);
     const bool hasRecord = origin.job || origin.chunk;
     if (hasRecord) {
-        takeRecord(sequence, origin, start);
-        start = sequence.currentFrame;
-    } else {
-        sequence.frames = {1};
+        opened = framesOf(origin, start);
+        start = opened.frame;
     }
+    sequence.framesPath = request.path;
 
     const auto [mask, showsSequence] = maskOf(request, hasRecord, start);
     if (mask.empty()) {
         sequence.frames = {1};
-        sequence.currentFrame = 1;
-        return sequence;
+        opened.frame = 1;
+        return opened;
     }
     if (!hasRecord && showsSequence) {
         sequence.frames = existingRun(mask, start);
-        sequence.currentFrame = start;
+        opened.frame = start;
     }
     sequence.isSequence = showsSequence && sequence.frames.size() >= 2;
     if (sequence.isSequence) {
         sequence.framesPath = mask;
-        return sequence;
+        return opened;
     }
     sequence.frames = {start};
-    sequence.currentFrame = start;
     sequence.framesPath = TFileSystem::GetFileFromMask(mask, start);
-    return sequence;
+    opened.frame = start;
+    return opened;
 }

@@ -32,22 +32,23 @@ void Marking::setChunks(const std::vector<TClientLib::TChunk> &chunks)
     }
 }
 
+void Marking::apply(int frame, const MarkRequest &request)
+{
+    const auto chunk = keyOf(m_chunks, frame);
+    if (request.addChunk && chunk)
+        m_markedChunks.insert(*chunk);
+    if (request.addFrame)
+        m_markedFrames.insert(frame);
+    if (request.removeChunk && chunk)
+        m_markedChunks.remove(*chunk);
+    if (request.removeFrame)
+        m_markedFrames.remove(frame);
+}
+
 void Marking::toggleFrame(int frame)
 {
     if (!m_markedFrames.remove(frame))
         m_markedFrames.insert(frame);
-}
-
-void Marking::markChunkOf(int frame)
-{
-    if (const auto key = keyOf(m_chunks, frame))
-        m_markedChunks.insert(*key);
-}
-
-void Marking::unmarkChunkOf(int frame)
-{
-    if (const auto key = keyOf(m_chunks, frame))
-        m_markedChunks.remove(*key);
 }
 
 void Marking::toggleChunkOf(int frame)

@@ -5,6 +5,14 @@
 
 #include <vector>
 
+/// What a pick on the timeline asks for beside its frame.
+struct MarkRequest {
+    bool addChunk = false;
+    bool addFrame = false;
+    bool removeChunk = false;
+    bool removeFrame = false;
+};
+
 /// The bad frames and chunks that the user has marked in one viewer window.
 class Marking final {
 public:
@@ -15,12 +23,9 @@ public:
     /// Builds the chunk map anew, of several records of a chunk by the last; the marks stay.
     void setChunks(const std::vector<TClientLib::TChunk> &chunks);
 
-    void markFrame(int frame) { m_markedFrames.insert(frame); }
-    void unmarkFrame(int frame) { m_markedFrames.remove(frame); }
+    /// Adds and removes; never toggles. The chunk is the frame's, if it is of a known one.
+    void apply(int frame, const MarkRequest &request);
     void toggleFrame(int frame);
-    // A frame of no known chunk does nothing.
-    void markChunkOf(int frame);
-    void unmarkChunkOf(int frame);
     void toggleChunkOf(int frame);
     void clear();
 

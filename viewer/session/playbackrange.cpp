@@ -1,5 +1,7 @@
 #include "playbackrange.h"
 
+#include <viewer/frames/framesequence.h>
+
 namespace {
 
 /// A number past what an integer holds counts as 0 too.
@@ -10,15 +12,15 @@ long number(const QString &text)
 
 } // namespace
 
-RangeEdit correctedRange(const std::set<long> &frames, long byFrame, const QString &start, const QString &end,
+RangeEdit correctedRange(const FrameSequence &sequence, const QString &start, const QString &end,
                          const QString &step)
 {
-    const long first = frames.empty() ? 1 : *frames.begin();
-    const long last = frames.empty() ? 1 : *frames.rbegin();
+    const long first = sequence.first();
+    const long last = sequence.last();
     RangeEdit edit{{number(start), number(end), number(step)}, {}, {}, {}};
     PlaybackRange &range = edit.range;
     if (range.step < 1 || range.step > last - first + 1) {
-        range.step = byFrame;
+        range.step = sequence.byFrame;
         edit.step = QString::number(range.step);
     }
     if (range.start < first || range.start > last) {

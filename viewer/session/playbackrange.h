@@ -2,7 +2,7 @@
 
 #include <QtCore/QString>
 
-#include <set>
+struct FrameSequence;
 
 /// The frames that are played, each `step` from the next.
 struct PlaybackRange {
@@ -21,7 +21,7 @@ struct RangeEdit {
     QString step;
 };
 
-/// Brings the typed range within the frames of the set (frame 1 when that is empty). `byFrame` is the set's own step,
-/// taken for one that is none. What is no number counts as 0.
-RangeEdit correctedRange(const std::set<long> &frames, long byFrame, const QString &start, const QString &end,
+/// Brings the typed range within the sequence, whose own step stands in for one that is none. What is no number counts
+/// as 0.
+RangeEdit correctedRange(const FrameSequence &sequence, const QString &start, const QString &end,
                          const QString &step);

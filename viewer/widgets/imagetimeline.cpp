@@ -125,7 +125,7 @@ std::int32_t imageTimeline::frameAt(const QMouseEvent &event) const
 
 void imageTimeline::mousePressEvent(QMouseEvent *event)
 {
-    m_dragging = event->button() == Qt::LeftButton;
+    setDragging(event->button() == Qt::LeftButton);
     if (m_dragging)
         dragTo(frameAt(*event));
 }
@@ -139,7 +139,7 @@ void imageTimeline::mouseMoveEvent(QMouseEvent *event)
 void imageTimeline::mouseReleaseEvent(QMouseEvent *event)
 {
     const bool picks = m_dragging && event->button() == Qt::LeftButton;
-    m_dragging = false;
+    setDragging(false);
     if (!picks)
         return;
     const std::int32_t under = frameAt(*event);
@@ -155,8 +155,16 @@ void imageTimeline::mouseReleaseEvent(QMouseEvent *event)
 void imageTimeline::hideEvent(QHideEvent *event)
 {
     // The release will go elsewhere.
-    m_dragging = false;
+    setDragging(false);
     QWidget::hideEvent(event);
+}
+
+void imageTimeline::setDragging(bool dragging)
+{
+    if (dragging == m_dragging)
+        return;
+    m_dragging = dragging;
+    Q_EMIT held(dragging);
 }
 
 void imageTimeline::dragTo(std::int32_t frame)

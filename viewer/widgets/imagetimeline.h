@@ -40,6 +40,8 @@ Q_SIGNALS:
     void frameChanged(int frame, bool addChunk, bool addFrame, bool removeChunk, bool removeFrame);
     /// A drag has passed onto another existing frame.
     void frameScrubbed(int frame, bool addChunk, bool addFrame, bool removeChunk, bool removeFrame);
+    /// A drag has begun or ended.
+    void held(bool held);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -52,6 +54,7 @@ private:
     std::int32_t frameAt(const QMouseEvent &event) const;
     bool move(std::int64_t step);
     bool moveTo(std::int32_t frame);
+    void setDragging(bool dragging);
     void dragTo(std::int32_t frame);
     void show(std::int32_t frame);
     void drawTicks(QPainter &painter, const std::vector<FrameColumn> &columns, int bottom) const;

@@ -1,0 +1,263 @@
+#include "fakedisplay.h"
+
+#include <viewer/session/viewersession.h>
+
+#include <ImfRgbaFile.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+#include <memory>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+using TClientLib::TChunk;
+using TClientLib::TJob;
+
+namespace {
+
+void writeFrame(const QString &path, QSize size = {16, 8})
+{
+    Imf::RgbaOutputFile file(path.toLocal8Bit().constData(), size.width(), size.height(), Imf::WRITE_RGBA);
+    const std::vector<Imf::Rgba> pixels(std::size_t(size.width() * size.height()), {0.5F, 0.25F, 1, 1});
+    file.setFrameBuffer(pixels.data(), 1, std::size_t(size.width()));
+    file.writePixels(size.height());
+}
+
+TChunk chunkOf(int id, int first, int last)
+{
+    TChunk chunk;
+    chunk.setChunkId(id);
+    chunk.setFrames(first, last, 1);
+    return chunk;
+}
+
+} // namespace
+
+class ViewerSessionTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_totals = {};
+        m_session = std::make_unique<ViewerSession>(m_totals, m_display);
+        for (int i = 1; i <= 5; ++i)
+            writeFrame(file(i));
+    }
+
+    void cleanup()
+    {
+        m_session.reset();
+        QCOMPARE(m_display.textures, 0);
+        QCOMPARE(m_totals.videoMemoryUsed + m_totals.mainMemoryUsed, 0U);
+    }
+
+    void opensWhatIsAskedFor()
+    {
+        const QSignalSpy opened(m_session.get(), &ViewerSession::opened);
+        const QSignalSpy firstShown(m_session.get(), &ViewerSession::firstFrameShown);
+        open(u"shot.0003.exr"_s);
+        QVERIFY(m_session->lastLoad().shown());
+        QCOMPARE(shownFile(), file(3));
+        QCOMPARE(m_session->range(), (PlaybackRange{1, 5, 1}));
+        m_session->setFrame(99);
+        QCOMPARE(m_session->frame(), 5);
+        // The same path again does nothing, unless forced: then the frame stays, if the path names none.
+        const std::string mask = m_session->sequence().framesPath;
+        m_session->open({.path = mask, .preferredFrame = 2, .maskIsSequence = true});
+        QCOMPARE(m_session->frame(), 5);
+        m_session->open({.path = mask, .force = true, .maskIsSequence = true});
+        QCOMPARE(m_session->frame(), 5);
+        QCOMPARE(opened.count(), 2);
+        QCOMPARE(firstShown.count(), 2);
+        open(u"none.exr"_s);
+        QVERIFY(!m_session->canPlay());
+        QVERIFY(!m_display.shown);
+        QCOMPARE(firstShown.count(), 2);
+    }
+
+    void playsRoundItsRange()
+    {
+        open(u"shot.0004.exr"_s);
+        m_session->setRange({2, 5, 2});
+        QList<int> frames;
+        connect(m_session.get(), &ViewerSession::frameChanged, this,
+                [&frames](int frame) { frames += frame; });
+        m_session->playback().setFramesPerSecond(500);
+        m_session->togglePlaying();
+        QTRY_VERIFY(frames.size() >= 4);
+        m_session->setHeld(true); // a step that was on its way is not taken either
+        const int held = m_session->frame();
+        QSignalSpy steps(&m_session->playback(), &Playback::stepDue);
+        QTRY_VERIFY(steps.count() > 2);
+        QCOMPARE(m_session->frame(), held);
+        m_session->setHeld(false);
+        QTRY_VERIFY(m_session->frame() != held);
+        QCOMPARE(frames.first(4), (QList<int>{5, 2, 4, 5}));
+        m_session->togglePlaying();
+        QVERIFY(!m_session->playback().isPlaying());
+        open(u"shot.0001.exr"_s); // the run round it is the path that is shown
+        m_session->setRange({1, 5, 1});
+        m_session->togglePlaying();
+        open(u"none.exr"_s);
+        QVERIFY(!m_session->playback().isPlaying());
+    }
+
+    void keepsTheFrameInTheRange()
+    {
+        open(u"shot.0005.exr"_s);
+        const QSignalSpy loads(m_session.get(), &ViewerSession::loaded);
+        m_session->setRange({2, 3, 1});
+        QCOMPARE(shownFile(), file(3));
+        m_session->setRange({2, 4, 1});
+        QCOMPARE(loads.count(), 1); // the frame was within
+        QVERIFY(m_session->step());
+        QVERIFY(!m_session->step());
+        QCOMPARE(m_session->frame(), 4);
+    }
+
+    void typedRanges_data()
+    {
+        QTest::addColumn<QStringList>("typed");
+        QTest::addColumn<QStringList>("written"); // null where the field stays
+        QTest::addColumn<QList<int>>("range");
+        const auto row = [](const char *typed, const QStringList &written, const QList<int> &range) {
+            QTest::newRow(typed) << QString::fromLatin1(typed).split(u' ') << written << range;
+        };
+        row("10 20 2", {{}, {}, {}}, {10, 20, 2});
+        row("9 21 11", {u"10"_s, u"20"_s, {}}, {10, 20, 11});
+        row("21 20 12", {u"20"_s, {}, u"3"_s}, {20, 20, 3});
+        row("15 14 0", {{}, u"20"_s, u"3"_s}, {15, 15, 3});
+        row("x 99999999999 -1", {u"10"_s, u"20"_s, u"3"_s}, {10, 10, 3});
+    }
+
+    void typedRanges()
+    {
+        QFETCH(const QStringList, typed);
+        QFETCH(const QList<int>, range);
+        FrameSequence sequence;
+        sequence.frames = {10, 13, 20};
+        sequence.byFrame = 3;
+        const RangeEdit edit = correctedRange(sequence, typed[0], typed[1], typed[2]);
+        QTEST((QStringList{edit.start, edit.end, edit.step}), "written");
+        QCOMPARE(edit.range, (PlaybackRange{range[0], range[1], range[2]}));
+    }
+
+    void looksAgainForFramesThatAreMissingOrBroken()
+    {
+        QVERIFY(QFile::resize(file(5), 400));
+        TJob job;
+        job.setFrameRanges({{1, 6, 1}});
+        m_session->setJob({job, {}, {}});
+        open(u"shot.####.exr"_s);
+        m_session->setFrame(6);
+        QCOMPARE(m_session->lastLoad().outcome, LoadOutcome::NotFound);
+        QVERIFY(!m_display.shown);
+        // A renderer writes elsewhere and puts the whole file in its place.
+        writeFrame(m_folder->filePath(u"other"_s));
+        QVERIFY(QFile::rename(m_folder->filePath(u"other"_s), file(6)));
+        QTRY_COMPARE(shownFile(), file(6));
+
+        m_session->setFrame(5);
+        QCOMPARE(m_session->lastLoad().outcome, LoadOutcome::Corrupted);
+        writeFrame(file(5)); // in place
+        QTRY_COMPARE(shownFile(), file(5));
+
+        QVERIFY(QDir(m_folder->path()).removeRecursively());
+        m_session->reload();
+        QCOMPARE(m_session->lastLoad().outcome, LoadOutcome::NotFound);
+        QCOMPARE(m_totals.videoMemoryUsed, 0U);
+        QVERIFY(QDir().mkpath(m_folder->path()));
+        writeFrame(file(5), {32, 16});
+        QTRY_COMPARE(shownFile(), file(5));
+        QCOMPARE(m_display.shown->planeSizes.front(), (PlaneSize{32, 16}));
+    }
+
+    void framesComeAndGoWhilePlaying()
+    {
+        m_totals.videoMemoryBudget = m_totals.mainMemoryBudget = 0; // so that files are read again and again
+        open(u"shot.0001.exr"_s);
+        m_session->playback().setFramesPerSecond(1000);
+        m_session->togglePlaying();
+        for (int round = 0; round < 20; ++round) {
+            const QString changed = file(1 + round % 5);
+            QVERIFY(round % 2 == 0 ? QFile::remove(changed) : QFile::resize(changed, 300 + 20 * round));
+            QSignalSpy loads(m_session.get(), &ViewerSession::loaded);
+            QTRY_VERIFY(loads.count() >= 5); // once round
+            writeFrame(changed, QSize(16, 8) * (1 + round % 3));
+        }
+        m_session->togglePlaying();
+        m_session->reload();
+        QVERIFY(m_session->lastLoad().shown());
+    }
+
+    void layersAndSizes()
+    {
+        open(u"shot.0001.exr"_s);
+        QCOMPARE(m_session->layers().entries, (std::vector<std::string>{"RGBA"}));
+        QVERIFY(!m_session->setLayer("Z"));
+        const int uploads = m_display.uploads;
+        QVERIFY(m_session->setLayer("RGBA"));
+        QCOMPARE(m_display.uploads, uploads + 1);
+        m_session->setDownsampling(2);
+        QCOMPARE(m_display.shown->planeSizes.front(), (PlaneSize{4, 2}));
+        QVERIFY(m_display.shown->premultiplied);
+        m_session->setPremultiplied(false);
+        QVERIFY(!m_display.shown->premultiplied);
+    }
+
+    void marks()
+    {
+        QSignalSpy changed(m_session.get(), &ViewerSession::marksChanged);
+        m_session->mark(1, {.addFrame = true});
+        m_session->toggleFrameMark();
+        QCOMPARE(changed.count(), 0); // there is no job
+        m_session->setJob({TJob(), {}, {chunkOf(1, 1, 2), chunkOf(2, 3, 4), chunkOf(2, 4, 3)}});
+        QCOMPARE(m_session->marking().chunks().size(), 2U);
+        const Marking &marking = m_session->marking();
+        m_session->mark(2, {.addChunk = true});
+        m_session->mark(2, {.addChunk = true});
+        m_session->mark(5, {.addChunk = true}); // of no known chunk
+        m_session->mark(4, {.addFrame = true});
+        m_session->mark(1, {.addFrame = true});
+        QCOMPARE(marking.markedChunks(), (MarkedChunks{{2, 1}}));
+        QCOMPARE(marking.markedFrames(), (MarkedFrames{1, 4}));
+        m_session->mark(4, {.removeFrame = true});
+        m_session->mark(3, {.removeChunk = true});
+        m_session->toggleFrameMark(); // frame 1
+        QCOMPARE(marking.markedFrames(), MarkedFrames());
+        m_session->toggleChunkMark();
+        QCOMPARE(marking.markedChunks(), MarkedChunks());
+        m_session->toggleChunkMark();
+        m_session->setJob({});
+        QVERIFY(marking.markedChunks().isEmpty());
+    }
+
+private:
+    void open(const QString &name)
+    {
+        m_session->open({.path = m_folder->filePath(name).toStdString(), .maskIsSequence = true});
+    }
+    QString file(int frame) const
+    {
+        return m_folder->filePath(u"shot.%1.exr"_s.arg(frame, 4, 10, QLatin1Char('0')));
+    }
+    /// Empty when nothing is on the display.
+    QString shownFile() const
+    {
+        return m_display.shown ? QString::fromStdString(m_display.shown->filePath) : QString();
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    CacheTotals m_totals;
+    FakeDisplay m_display;
+    std::unique_ptr<ViewerSession> m_session;
+};
+
+QTEST_GUILESS_MAIN(ViewerSessionTest)
+#include "tst_viewersession.moc"

@@ -1,0 +1,112 @@
+#include "displaycontrols.h"
+
+#include "ui_imageviewer.h"
+
+#include <viewer/frames/imageframe.h>
+#include <viewer/session/viewersession.h>
+
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QColorDialog>
+
+#include <algorithm>
+
+DisplayControls::DisplayControls(const Ui::ImageViewerClass &form, ViewerSession &session)
+    : m_form(form)
+    , m_session(session)
+{
+    connectPicture();
+    connectSession();
+    m_form.image->setBackgroundColor(m_backgroundColor);
+    m_form.image->setHudColor(m_hudColor);
+    showLayers();
+    enableChannels();
+}
+
+void DisplayControls::connectPicture()
+{
+    imageWidget *image = m_form.image;
+    connect(m_form.checkerButton, &QAbstractButton::toggled, image, &imageWidget::setCheckerOn);
+    connect(m_form.compositeButton, &QAbstractButton::toggled, image, &imageWidget::setAlphaOn);
+    connect(m_form.hudButton, &QAbstractButton::toggled, image, &imageWidget::setHudOn);
+    connect(m_form.backgroundColorButton, &QAbstractButton::clicked, this,
+            [this] { pickColor(tr("Background"), &imageWidget::setBackgroundColor, m_backgroundColor); });
+    connect(m_form.hudColorButton, &QAbstractButton::clicked, this,
+            [this] { pickColor(tr("HUD colour"), &imageWidget::setHudColor, m_hudColor); });
+    connect(m_form.displaySaveAsDefault, &QAbstractButton::clicked, this, &DisplayControls::saveAsDefault);
+    const QList<QToolButton *> channels = channelButtons();
+    for (int mode = 0; mode < channels.size(); ++mode)
+        connect(channels[mode], &QAbstractButton::clicked, this, [this, mode] { setChannelViewMode(mode); });
+    connect(image, &imageWidget::initialized, this,
+            [this] { m_form.limitedFunctionalities->setVisible(!m_form.image->floatTexturesUsable()); });
+}
+
+void DisplayControls::connectSession()
+{
+    connect(m_form.premultipliedButton, &QAbstractButton::toggled, &m_session,
+            &ViewerSession::setPremultiplied);
+    connect(m_form.resizeComboBox, &QComboBox::currentIndexChanged, &m_session,
+            &ViewerSession::setDownsampling);
+    connect(m_form.layersSelector, &QComboBox::textActivated, &m_session,
+            [this](const QString &entry) { m_session.setLayer(entry.toStdString()); });
+    connect(&m_session, &ViewerSession::opened, this, [this] { setChannelViewMode(0); });
+    connect(&m_session, &ViewerSession::loaded, this, [this] {
+        if (m_session.lastLoad().layers)
+            showLayers();
+        enableChannels();
+    });
+}
+
+void DisplayControls::pickColor(const QString &title, void (imageWidget::*set)(const QColor &), QColor &color)
+{
+    auto *dialog = new QColorDialog(color, m_form.image->window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(title);
+    imageWidget *image = m_form.image;
+    const QColor before = color;
+    connect(dialog, &QColorDialog::currentColorChanged, image, set);
+    connect(dialog, &QDialog::rejected, image, [image, set, before] { (image->*set)(before); });
+    connect(dialog, &QColorDialog::colorSelected, this, [&color](const QColor &chosen) { color = chosen; });
+    dialog->open();
+}
+
+// Kept for the button that is there: what a display looks like is not remembered.
+void DisplayControls::saveAsDefault() { }
+
+QList<QToolButton *> DisplayControls::channelButtons() const
+{
+    return {m_form.rgbaChannelButton, m_form.redChannelButton,   m_form.greenChannelButton,
+            m_form.blueChannelButton, m_form.alphaChannelButton, m_form.luminanceButton};
+}
+
+void DisplayControls::setChannelViewMode(int mode)
+{
+    const QList<QToolButton *> channels = channelButtons();
+    for (int i = 0; i < channels.size(); ++i)
+        channels[i]->setChecked(i == mode);
+    m_form.image->setChannelViewMode(mode);
+}
+
+void DisplayControls::showLayers()
+{
+    QStringList entries;
+    for (const std::string &entry : m_session.layers().entries)
+        entries += QString::fromStdString(entry);
+    if (entries.isEmpty())
+        entries += QStringLiteral("Default");
+    QComboBox &selector = *m_form.layersSelector;
+    const QSignalBlocker blocker(selector);
+    selector.clear();
+    selector.addItems(entries);
+    selector.setCurrentIndex(std::max(0, int(entries.indexOf(QString::fromStdString(m_session.layer())))));
+}
+
+void DisplayControls::enableChannels()
+{
+    const ImageFrame *frame = m_form.image->frame();
+    const bool rgb = frame && (frame->internalFormat == GL_RGB || frame->textureCount == 3);
+    const bool rgba = frame && (frame->internalFormat == GL_RGBA || frame->textureCount == 4);
+    for (QToolButton *button : {m_form.redChannelButton, m_form.greenChannelButton, m_form.blueChannelButton,
+                                m_form.luminanceButton})
+        button->setEnabled(rgb || rgba);
+    m_form.alphaChannelButton->setEnabled(rgba);
+}

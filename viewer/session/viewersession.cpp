@@ -1,0 +1,219 @@
+#include "viewersession.h"
+
+#include <viewer/frames/framedisplay.h>
+#include <viewer/frames/framesteps.h>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace {
+
+std::int64_t seconds()
+{
+    return std::chrono::duration_cast<std::chrono::seconds>(
+               std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+}
+
+} // namespace
+
+ViewerSession::ViewerSession(CacheTotals &totals, FrameDisplay &display, QObject *parent)
+    : QObject(parent)
+    , m_display(display)
+    , m_cache(totals, display)
+    , m_loader(m_cache, display)
+    , m_progress(&seconds)
+{
+    connect(&m_playback, &Playback::stepDue, this, &ViewerSession::playStep);
+    connect(&m_watch, &FrameWatch::mayBeThere, this, [this] { load(false); });
+}
+
+void ViewerSession::setJob(JobFrames job)
+{
+    m_job = std::move(job);
+    m_marking.setChunks(m_job.chunks);
+    if (!m_job.isSet())
+        m_marking.clear();
+    Q_EMIT marksChanged();
+}
+
+void ViewerSession::open(const FramesRequest &request)
+{
+    if (request.path == m_sequence.framesPath && !request.force)
+        return;
+    FramesRequest wanted = request;
+    if (request.force && !request.preferredFrame)
+        wanted.preferredFrame = m_frame;
+    const FramesOrigin origin{m_job.job ? &*m_job.job : nullptr, m_job.chunk ? &*m_job.chunk : nullptr};
+    OpenedFrames found = openFrames(wanted, origin);
+
+    m_playback.stop();
+    m_watch.stop();
+    m_cache.clear();
+    m_sequence = std::move(found.sequence);
+    m_frame = found.frame;
+    m_range = {m_sequence.first(), m_sequence.last(), m_sequence.byFrame};
+    listPlayed();
+    m_layers = {};
+    m_anyShown = false;
+    Q_EMIT opened();
+    load(true);
+}
+
+void ViewerSession::reload()
+{
+    if (!m_sequence.framesPath.empty())
+        open({.path = m_sequence.framesPath,
+              .force = true,
+              .preferredFrame = m_frame,
+              .maskIsSequence = m_sequence.isSequence});
+}
+
+void ViewerSession::setFrame(long frame)
+{
+    const long within = std::clamp(frame, m_sequence.first(), m_sequence.last());
+    if (within != m_frame)
+        moveTo(within);
+}
+
+void ViewerSession::moveTo(long frame)
+{
+    m_frame = static_cast<std::int32_t>(frame);
+    Q_EMIT frameChanged(m_frame);
+    load(false);
+}
+
+bool ViewerSession::step()
+{
+    const std::optional<std::int64_t> next = steppedFrame(m_played, m_frame, m_range.step);
+    if (!next || *next == m_frame)
+        return false;
+    moveTo(static_cast<long>(*next));
+    return true;
+}
+
+void ViewerSession::playStep()
+{
+    if (m_held || step() || m_played.empty() || m_played.front() == m_frame)
+        return;
+    moveTo(m_played.front());
+}
+
+void ViewerSession::setRange(const PlaybackRange &range)
+{
+    if (range == m_range)
+        return;
+    m_range = range;
+    listPlayed();
+    Q_EMIT rangeChanged();
+    const long within = std::clamp(long(m_frame), range.start, range.end);
+    if (within != m_frame)
+        moveTo(within);
+}
+
+void ViewerSession::listPlayed()
+{
+    const std::set<long> &frames = m_sequence.frames;
+    m_played.assign(frames.lower_bound(m_range.start), frames.upper_bound(m_range.end));
+}
+
+bool ViewerSession::setLayer(const std::string &entry)
+{
+    if (std::find(m_layers.entries.begin(), m_layers.entries.end(), entry) == m_layers.entries.end())
+        return false;
+    m_layer = entry;
+    loadAnew();
+    return true;
+}
+
+void ViewerSession::setPremultiplied(bool on)
+{
+    m_premultiplied = on;
+    reload();
+}
+
+void ViewerSession::setDownsampling(std::int32_t halvings)
+{
+    m_downsampling = halvings;
+    loadAnew();
+}
+
+void ViewerSession::loadAnew()
+{
+    m_cache.clear();
+    load(false);
+}
+
+void ViewerSession::load(bool fresh)
+{
+    LoadRequest request;
+    request.path = file();
+    if (request.path.empty())
+        return;
+    request.layer = m_layer;
+    request.fresh = fresh || m_layers.entries.empty();
+    request.premultiplied = m_premultiplied;
+    request.downsampling = m_downsampling;
+    request.progress = &ViewerSession::progressed;
+    request.user = this;
+    m_lastLoad = m_loader.load(request);
+    const bool shown = m_lastLoad.shown();
+    if (shown && m_lastLoad.layers) {
+        m_layers = *m_lastLoad.layers;
+        m_layer = m_lastLoad.layer;
+    }
+    if (!shown)
+        m_display.showFrame(nullptr);
+    if (m_lastLoad.failed())
+        m_watch.watch(QString::fromStdString(request.path));
+    else
+        m_watch.stop();
+    if (shown && !std::exchange(m_anyShown, true))
+        Q_EMIT firstFrameShown();
+    Q_EMIT loaded();
+}
+
+void ViewerSession::progressed(float fraction, void *session)
+{
+    auto *self = static_cast<ViewerSession *>(session);
+    Q_EMIT self->loadProgressed(self->m_progress.report(fraction));
+}
+
+void ViewerSession::togglePlaying()
+{
+    if (m_playback.isPlaying())
+        m_playback.stop();
+    else if (canPlay())
+        m_playback.start();
+}
+
+void ViewerSession::mark(int frame, const MarkRequest &request)
+{
+    if (!m_job.isSet())
+        return;
+    m_marking.apply(frame, request);
+    Q_EMIT marksChanged();
+}
+
+void ViewerSession::toggleFrameMark()
+{
+    if (!m_job.isSet())
+        return;
+    m_marking.toggleFrame(m_frame);
+    Q_EMIT marksChanged();
+}
+
+void ViewerSession::toggleChunkMark()
+{
+    if (!m_job.isSet())
+        return;
+    m_marking.toggleChunkOf(m_frame);
+    Q_EMIT marksChanged();
+}
+
+void ViewerSession::clearMarks()
+{
+    m_marking.clear();
+    Q_EMIT marksChanged();
+}

@@ -1,0 +1,118 @@
+#pragma once
+
+#include "framewatch.h"
+#include "jobframes.h"
+#include "marking.h"
+#include "playback.h"
+#include "playbackrange.h"
+
+#include <viewer/frames/framecache.h>
+#include <viewer/frames/frameloader.h>
+#include <viewer/frames/framesequence.h>
+#include <viewer/frames/loadprogress.h>
+
+#include <QtCore/QObject>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// What one viewer window shows, without the window: the sequence, the frame of it on show, the range that plays, the layer,
+/// the marks. It loads frames onto a display, from its cache or from their files, and again when one that was missing or
+/// broken may have become whole. Nothing of it fails: what a load came to is in lastLoad().
+class ViewerSession final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Both outlive the session, which takes its frames off the display when it ends.
+    ViewerSession(CacheTotals &totals, FrameDisplay &display, QObject *parent = nullptr);
+
+    const JobFrames &job() const { return m_job; }
+    const FrameSequence &sequence() const { return m_sequence; }
+    /// True where there is more than one frame to step through.
+    bool canPlay() const { return m_sequence.frames.size() > 1; }
+    int frame() const { return m_frame; }
+    /// File of the frame; empty until something was opened.
+    std::string file() const { return m_sequence.fileOf(m_frame); }
+    /// Lies within the sequence.
+    const PlaybackRange &range() const { return m_range; }
+    const LayerList &layers() const { return m_layers; }
+    /// Entry of layers().
+    const std::string &layer() const { return m_layer; }
+    const LoadResult &lastLoad() const { return m_lastLoad; }
+    const FrameCache &cache() const { return m_cache; }
+    const Marking &marking() const { return m_marking; }
+    Playback &playback() { return m_playback; }
+
+    /// Says what frames are opened for; comes before open(). Without a job there are no marks.
+    void setJob(JobFrames job);
+    /// Shows the first frame of a path. Does nothing for the path that is shown, unless forced.
+    void open(const FramesRequest &request);
+    /// Reads the frames from disk again.
+    void reload();
+    /// Brings the number within the sequence and loads the frame when it is another.
+    void setFrame(long frame);
+    /// Steps on within the range; false at its end.
+    bool step();
+    /// Brings the frame into the range.
+    void setRange(const PlaybackRange &range);
+    /// False when the file does not have the layer.
+    bool setLayer(const std::string &entry);
+    /// Off: colours count as straight, whatever the file says.
+    void setPremultiplied(bool on);
+    /// Halvings of width and height.
+    void setDownsampling(std::int32_t halvings);
+
+    void togglePlaying();
+    /// Keeps playback at its frame while the user holds the timeline.
+    void setHeld(bool held) { m_held = held; }
+    bool isHeld() const { return m_held; }
+
+    void mark(int frame, const MarkRequest &request);
+    /// Of the frame on show.
+    void toggleFrameMark();
+    void toggleChunkMark();
+    void clearMarks();
+
+Q_SIGNALS:
+    /// Another sequence, or the same anew; its first frame is about to be loaded.
+    void opened();
+    /// Sent before the frame is loaded.
+    void frameChanged(int frame);
+    void rangeChanged();
+    void loadProgressed(const LoadProgress::Step &step);
+    /// The first frame since open() is on the display; comes before loaded().
+    void firstFrameShown();
+    /// A load has ended, as lastLoad() says.
+    void loaded();
+    void marksChanged();
+
+private:
+    void moveTo(long frame);
+    void listPlayed();
+    /// `fresh` as in LoadRequest.
+    void load(bool fresh);
+    void loadAnew();
+    void playStep();
+    static void progressed(float fraction, void *session);
+
+    FrameDisplay &m_display;
+    FrameCache m_cache;
+    FrameLoader m_loader;
+    Playback m_playback;
+    FrameWatch m_watch;
+    LoadProgress m_progress;
+    Marking m_marking;
+    JobFrames m_job;
+    FrameSequence m_sequence;
+    std::vector<std::int32_t> m_played; // frames of the sequence within the range
+    PlaybackRange m_range;
+    LoadResult m_lastLoad;
+    LayerList m_layers;
+    std::string m_layer;
+    std::int32_t m_frame = 1;
+    std::int32_t m_downsampling = 0;
+    bool m_premultiplied = true;
+    bool m_anyShown = false; // since open()
+    bool m_held = false;
+};

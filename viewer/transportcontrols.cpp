@@ -1,0 +1,189 @@
+#include "transportcontrols.h"
+
+#include "ui_imageviewer.h"
+
+#include <viewer/session/viewersession.h>
+
+#include <QtCore/QSignalBlocker>
+
+#include <utility>
+
+namespace {
+
+QIcon playerIcon(const char *name)
+{
+    return QIcon(QStringLiteral(":/player/%1.png").arg(QLatin1String(name)));
+}
+
+} // namespace
+
+TransportControls::TransportControls(const Ui::ImageViewerClass &form, ViewerSession &session)
+    : m_form(form)
+    , m_session(session)
+{
+    m_form.goBegin->setIcon(playerIcon("first"));
+    m_form.stepBackward->setIcon(playerIcon("previous"));
+    m_form.playAndStop->setIcon(playerIcon("play"));
+    m_form.stepForward->setIcon(playerIcon("next"));
+    m_form.goEnd->setIcon(playerIcon("last"));
+    m_form.imageAllocation->setCache(&m_session.cache());
+    connectTimeline();
+    connectFields();
+    connect(&m_session, &ViewerSession::opened, this, &TransportControls::showSequence);
+    connect(&m_session, &ViewerSession::rangeChanged, this, &TransportControls::showRange);
+    connect(&m_session, &ViewerSession::frameChanged, this, &TransportControls::showFrame);
+    connect(&m_session, &ViewerSession::loaded, this, [this] {
+        // A frame that was cached changes nothing in the cache.
+        if (!m_session.lastLoad().shown() || m_session.lastLoad().layers)
+            m_form.imageAllocation->update();
+    });
+    showSequence();
+}
+
+void TransportControls::connectTimeline()
+{
+    imageTimeline *timeline = m_form.timeline;
+    connect(m_form.goBegin, &QAbstractButton::clicked, timeline, &imageTimeline::moveFirst);
+    connect(m_form.stepBackward, &QAbstractButton::clicked, timeline, &imageTimeline::movePrevious);
+    connect(m_form.stepForward, &QAbstractButton::clicked, timeline, &imageTimeline::moveNext);
+    connect(m_form.goEnd, &QAbstractButton::clicked, timeline, &imageTimeline::moveLast);
+    connect(timeline, &imageTimeline::held, this, [this](bool held) { m_session.setHeld(held); });
+    const auto settle = [this](int frame, bool addChunk, bool addFrame, bool removeChunk, bool removeFrame) {
+        m_session.setFrame(frame);
+        m_session.mark(frame, {addChunk, addFrame, removeChunk, removeFrame});
+    };
+    connect(timeline, &imageTimeline::frameChanged, this, settle);
+    connect(timeline, &imageTimeline::frameScrubbed, this,
+            [this, settle](int frame, bool addChunk, bool addFrame, bool removeChunk, bool removeFrame) {
+                if (m_form.liveScrubbing->isChecked()) {
+                    settle(frame, addChunk, addFrame, removeChunk, removeFrame);
+                    return;
+                }
+                m_form.currentFrame->setText(QString::number(frame));
+                m_session.mark(frame, {addChunk, addFrame, removeChunk, removeFrame});
+            });
+}
+
+void TransportControls::connectFields()
+{
+    connect(m_form.currentFrame, &QLineEdit::editingFinished, this, &TransportControls::editFrame);
+    for (QLineEdit *field : {m_form.startFrame, m_form.endFrame, m_form.byFrame})
+        connect(field, &QLineEdit::editingFinished, this, &TransportControls::editRange);
+    connect(m_form.fps, &QLineEdit::editingFinished, this, &TransportControls::editFramesPerSecond);
+    Playback &playback = m_session.playback();
+    m_form.fps->setText(QString::number(double(playback.framesPerSecond())));
+    connect(m_form.playAndStop, &QAbstractButton::clicked, &m_session, &ViewerSession::togglePlaying);
+    connect(&playback, &Playback::playingChanged, this, &TransportControls::showPlaying);
+    connect(&playback, &Playback::rateMeasured, this,
+            [this](double rate) { m_form.playbackRate->setText(tr("%1 fps").arg(rate, 0, 'f', 1)); });
+}
+
+void TransportControls::retranslate()
+{
+    const FrameSequence &sequence = m_session.sequence();
+    m_form.startFrameLabel->setText(tr("S:(%1)").arg(sequence.first()));
+    m_form.endFrameLabel->setText(tr("E:(%1)").arg(sequence.last()));
+    m_form.totalFramesLabel->setText(tr("%1 frame(s)").arg(sequence.frames.size()));
+}
+
+void TransportControls::showSequence()
+{
+    retranslate();
+    const PlaybackRange &range = m_session.range();
+    m_form.startFrame->setText(QString::number(range.start));
+    m_form.endFrame->setText(QString::number(range.end));
+    m_form.byFrame->setText(QString::number(range.step));
+    m_form.imageAllocation->setFileMask(m_session.sequence().framesPath);
+    for (QWidget *control : std::initializer_list<QWidget *>{m_form.timeline, m_form.imageAllocation,
+                                                             m_form.imageMarker, m_form.transport})
+        control->setEnabled(m_session.canPlay());
+    showRange();
+}
+
+void TransportControls::showRange()
+{
+    const std::set<long> &frames = m_session.sequence().frames;
+    const PlaybackRange &range = m_session.range();
+    // Steps stay within the range: the timeline knows of no frame outside it.
+    m_form.timeline->setFrames({frames.lower_bound(range.start), frames.upper_bound(range.end)});
+    m_form.timeline->setRange(range.start, range.end);
+    m_form.timeline->setByFrame(range.step);
+    const auto show = [&frames, &range](FrameStrip &strip) {
+        strip.setFrames(frames);
+        strip.setRange(range.start, range.end);
+        strip.update();
+    };
+    show(*m_form.imageAllocation);
+    show(*m_form.imageMarker);
+    showFrame(m_session.frame());
+}
+
+void TransportControls::showFrame(int frame)
+{
+    m_form.currentFrame->setText(QString::number(frame));
+    // A drag shows where it is, and settles when it ends.
+    if (m_session.isHeld())
+        return;
+    m_form.timeline->setPosition(frame);
+    m_form.timeline->update();
+}
+
+void TransportControls::showPlaying(bool playing)
+{
+    m_form.playAndStop->setIcon(playerIcon(playing ? "stop" : "play"));
+    m_form.playAndStop->setAccessibleName(playing ? tr("Stop") : tr("Play"));
+    m_form.playbackRate->clear();
+    for (QWidget *control :
+         std::initializer_list<QWidget *>{m_form.framesPath, m_form.pickFramesPath, m_form.reloadButton})
+        control->setEnabled(!playing);
+}
+
+void TransportControls::editRange()
+{
+    const RangeEdit edit = correctedRange(m_session.sequence(), m_form.startFrame->text(),
+                                          m_form.endFrame->text(), m_form.byFrame->text());
+    const std::pair<QLineEdit *, const QString &> fields[] = {
+        {m_form.startFrame, edit.start}, {m_form.endFrame, edit.end}, {m_form.byFrame, edit.step}};
+    for (const auto &[field, text] : fields) {
+        const QSignalBlocker blocker(field);
+        if (!text.isNull())
+            field->setText(text);
+    }
+    m_session.setRange(edit.range);
+}
+
+void TransportControls::editFrame()
+{
+    m_session.setFrame(m_form.currentFrame->text().toInt());
+    m_form.currentFrame->setText(QString::number(m_session.frame()));
+}
+
+void TransportControls::editFramesPerSecond()
+{
+    Playback &playback = m_session.playback();
+    playback.setFramesPerSecond(m_form.fps->text().toFloat());
+    m_form.fps->setText(QString::number(double(playback.framesPerSecond())));
+}
+
+bool TransportControls::takeKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        m_form.timeline->movePrevious();
+        return true;
+    case Qt::Key_Right:
+        m_form.timeline->moveNext();
+        return true;
+    case Qt::Key_Up:
+        m_form.timeline->moveFirst();
+        return true;
+    case Qt::Key_Down:
+        m_form.timeline->moveLast();
+        return true;
+    case Qt::Key_Space:
+        m_session.togglePlaying();
+        return true;
+    default:
+        return false;
+    }
+}
