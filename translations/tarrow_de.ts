@@ -55,6 +55,56 @@
     </message>
 </context>
 <context>
+    <name>CalibrationPanel</name>
+    <message>
+        <source>Input gamma</source>
+        <translation>Eingangsgamma</translation>
+    </message>
+    <message>
+        <source>Output gamma</source>
+        <translation>Ausgangsgamma</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Input level start</source>
+        <translation>Eingangspegel Anfang</translation>
+    </message>
+    <message>
+        <source>Input level end</source>
+        <translation>Eingangspegel Ende</translation>
+    </message>
+    <message>
+        <source>Output level start</source>
+        <translation>Ausgangspegel Anfang</translation>
+    </message>
+    <message>
+        <source>Output level end</source>
+        <translation>Ausgangspegel Ende</translation>
+    </message>
+    <message>
+        <source>Soft clip</source>
+        <translation>Soft Clip</translation>
+    </message>
+</context>
+<context>
+    <name>CalibrationRow</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+</context>
+<context>
     <name>DisplayControls</name>
     <message>
         <source>Background</source>
@@ -390,86 +440,6 @@
     <message>
         <source>Horizontal position in the picture</source>
         <translation>Waagerechte Position im Bild</translation>
-    </message>
-    <message>
-        <source>Input gamma:</source>
-        <translation>Eingangsgamma:</translation>
-    </message>
-    <message>
-        <source>Input gamma</source>
-        <translation>Eingangsgamma</translation>
-    </message>
-    <message>
-        <source>Output gamma:</source>
-        <translation>Ausgangsgamma:</translation>
-    </message>
-    <message>
-        <source>Output gamma</source>
-        <translation>Ausgangsgamma</translation>
-    </message>
-    <message>
-        <source>Brightness:</source>
-        <translation>Helligkeit:</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Helligkeit</translation>
-    </message>
-    <message>
-        <source>Saturation:</source>
-        <translation>Sättigung:</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Sättigung</translation>
-    </message>
-    <message>
-        <source>Contrast:</source>
-        <translation>Kontrast:</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Kontrast</translation>
-    </message>
-    <message>
-        <source>Input level start:</source>
-        <translation>Eingangspegel Anfang:</translation>
-    </message>
-    <message>
-        <source>Input level start</source>
-        <translation>Eingangspegel Anfang</translation>
-    </message>
-    <message>
-        <source>Input level end:</source>
-        <translation>Eingangspegel Ende:</translation>
-    </message>
-    <message>
-        <source>Input level end</source>
-        <translation>Eingangspegel Ende</translation>
-    </message>
-    <message>
-        <source>Output level start:</source>
-        <translation>Ausgangspegel Anfang:</translation>
-    </message>
-    <message>
-        <source>Output level start</source>
-        <translation>Ausgangspegel Anfang</translation>
-    </message>
-    <message>
-        <source>Output level end:</source>
-        <translation>Ausgangspegel Ende:</translation>
-    </message>
-    <message>
-        <source>Output level end</source>
-        <translation>Ausgangspegel Ende</translation>
-    </message>
-    <message>
-        <source>Soft clip:</source>
-        <translation>Soft Clip:</translation>
-    </message>
-    <message>
-        <source>Soft clip</source>
-        <translation>Soft Clip</translation>
     </message>
     <message>
         <source>Reset</source>

@@ -55,6 +55,56 @@
     </message>
 </context>
 <context>
+    <name>CalibrationPanel</name>
+    <message>
+        <source>Input gamma</source>
+        <translation>Gamma de entrada</translation>
+    </message>
+    <message>
+        <source>Output gamma</source>
+        <translation>Gamma de salida</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Brillo</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturación</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Input level start</source>
+        <translation>Nivel de entrada inicial</translation>
+    </message>
+    <message>
+        <source>Input level end</source>
+        <translation>Nivel de entrada final</translation>
+    </message>
+    <message>
+        <source>Output level start</source>
+        <translation>Nivel de salida inicial</translation>
+    </message>
+    <message>
+        <source>Output level end</source>
+        <translation>Nivel de salida final</translation>
+    </message>
+    <message>
+        <source>Soft clip</source>
+        <translation>Recorte suave</translation>
+    </message>
+</context>
+<context>
+    <name>CalibrationRow</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+</context>
+<context>
     <name>DisplayControls</name>
     <message>
         <source>Background</source>
@@ -390,86 +440,6 @@
     <message>
         <source>Horizontal position in the picture</source>
         <translation>Posición horizontal en la imagen</translation>
-    </message>
-    <message>
-        <source>Input gamma:</source>
-        <translation>Gamma de entrada:</translation>
-    </message>
-    <message>
-        <source>Input gamma</source>
-        <translation>Gamma de entrada</translation>
-    </message>
-    <message>
-        <source>Output gamma:</source>
-        <translation>Gamma de salida:</translation>
-    </message>
-    <message>
-        <source>Output gamma</source>
-        <translation>Gamma de salida</translation>
-    </message>
-    <message>
-        <source>Brightness:</source>
-        <translation>Brillo:</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Brillo</translation>
-    </message>
-    <message>
-        <source>Saturation:</source>
-        <translation>Saturación:</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturación</translation>
-    </message>
-    <message>
-        <source>Contrast:</source>
-        <translation>Contraste:</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Input level start:</source>
-        <translation>Nivel de entrada inicial:</translation>
-    </message>
-    <message>
-        <source>Input level start</source>
-        <translation>Nivel de entrada inicial</translation>
-    </message>
-    <message>
-        <source>Input level end:</source>
-        <translation>Nivel de entrada final:</translation>
-    </message>
-    <message>
-        <source>Input level end</source>
-        <translation>Nivel de entrada final</translation>
-    </message>
-    <message>
-        <source>Output level start:</source>
-        <translation>Nivel de salida inicial:</translation>
-    </message>
-    <message>
-        <source>Output level start</source>
-        <translation>Nivel de salida inicial</translation>
-    </message>
-    <message>
-        <source>Output level end:</source>
-        <translation>Nivel de salida final:</translation>
-    </message>
-    <message>
-        <source>Output level end</source>
-        <translation>Nivel de salida final</translation>
-    </message>
-    <message>
-        <source>Soft clip:</source>
-        <translation>Recorte suave:</translation>
-    </message>
-    <message>
-        <source>Soft clip</source>
-        <translation>Recorte suave</translation>
     </message>
     <message>
         <source>Reset</source>

@@ -55,6 +55,56 @@
     </message>
 </context>
 <context>
+    <name>CalibrationPanel</name>
+    <message>
+        <source>Input gamma</source>
+        <translation>Gamma d&apos;entrée</translation>
+    </message>
+    <message>
+        <source>Output gamma</source>
+        <translation>Gamma de sortie</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Input level start</source>
+        <translation>Niveau d&apos;entrée bas</translation>
+    </message>
+    <message>
+        <source>Input level end</source>
+        <translation>Niveau d&apos;entrée haut</translation>
+    </message>
+    <message>
+        <source>Output level start</source>
+        <translation>Niveau de sortie bas</translation>
+    </message>
+    <message>
+        <source>Output level end</source>
+        <translation>Niveau de sortie haut</translation>
+    </message>
+    <message>
+        <source>Soft clip</source>
+        <translation>Écrêtage doux</translation>
+    </message>
+</context>
+<context>
+    <name>CalibrationRow</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1&#xa0;:</translation>
+    </message>
+</context>
+<context>
     <name>DisplayControls</name>
     <message>
         <source>Background</source>
@@ -390,86 +440,6 @@
     <message>
         <source>Horizontal position in the picture</source>
         <translation>Position horizontale dans l&apos;image</translation>
-    </message>
-    <message>
-        <source>Input gamma:</source>
-        <translation>Gamma d&apos;entrée&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Input gamma</source>
-        <translation>Gamma d&apos;entrée</translation>
-    </message>
-    <message>
-        <source>Output gamma:</source>
-        <translation>Gamma de sortie&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Output gamma</source>
-        <translation>Gamma de sortie</translation>
-    </message>
-    <message>
-        <source>Brightness:</source>
-        <translation>Luminosité&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Luminosité</translation>
-    </message>
-    <message>
-        <source>Saturation:</source>
-        <translation>Saturation&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturation</translation>
-    </message>
-    <message>
-        <source>Contrast:</source>
-        <translation>Contraste&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contraste</translation>
-    </message>
-    <message>
-        <source>Input level start:</source>
-        <translation>Niveau d&apos;entrée bas&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Input level start</source>
-        <translation>Niveau d&apos;entrée bas</translation>
-    </message>
-    <message>
-        <source>Input level end:</source>
-        <translation>Niveau d&apos;entrée haut&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Input level end</source>
-        <translation>Niveau d&apos;entrée haut</translation>
-    </message>
-    <message>
-        <source>Output level start:</source>
-        <translation>Niveau de sortie bas&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Output level start</source>
-        <translation>Niveau de sortie bas</translation>
-    </message>
-    <message>
-        <source>Output level end:</source>
-        <translation>Niveau de sortie haut&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Output level end</source>
-        <translation>Niveau de sortie haut</translation>
-    </message>
-    <message>
-        <source>Soft clip:</source>
-        <translation>Écrêtage doux&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Soft clip</source>
-        <translation>Écrêtage doux</translation>
     </message>
     <message>
         <source>Reset</source>

@@ -55,6 +55,56 @@
     </message>
 </context>
 <context>
+    <name>CalibrationPanel</name>
+    <message>
+        <source>Input gamma</source>
+        <translation>Gamma di ingresso</translation>
+    </message>
+    <message>
+        <source>Output gamma</source>
+        <translation>Gamma di uscita</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosità</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturazione</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contrasto</translation>
+    </message>
+    <message>
+        <source>Input level start</source>
+        <translation>Livello di ingresso iniziale</translation>
+    </message>
+    <message>
+        <source>Input level end</source>
+        <translation>Livello di ingresso finale</translation>
+    </message>
+    <message>
+        <source>Output level start</source>
+        <translation>Livello di uscita iniziale</translation>
+    </message>
+    <message>
+        <source>Output level end</source>
+        <translation>Livello di uscita finale</translation>
+    </message>
+    <message>
+        <source>Soft clip</source>
+        <translation>Soft clip</translation>
+    </message>
+</context>
+<context>
+    <name>CalibrationRow</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+</context>
+<context>
     <name>DisplayControls</name>
     <message>
         <source>Background</source>
@@ -390,86 +440,6 @@
     <message>
         <source>Horizontal position in the picture</source>
         <translation>Posizione orizzontale nell&apos;immagine</translation>
-    </message>
-    <message>
-        <source>Input gamma:</source>
-        <translation>Gamma di ingresso:</translation>
-    </message>
-    <message>
-        <source>Input gamma</source>
-        <translation>Gamma di ingresso</translation>
-    </message>
-    <message>
-        <source>Output gamma:</source>
-        <translation>Gamma di uscita:</translation>
-    </message>
-    <message>
-        <source>Output gamma</source>
-        <translation>Gamma di uscita</translation>
-    </message>
-    <message>
-        <source>Brightness:</source>
-        <translation>Luminosità:</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>Luminosità</translation>
-    </message>
-    <message>
-        <source>Saturation:</source>
-        <translation>Saturazione:</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>Saturazione</translation>
-    </message>
-    <message>
-        <source>Contrast:</source>
-        <translation>Contrasto:</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>Contrasto</translation>
-    </message>
-    <message>
-        <source>Input level start:</source>
-        <translation>Livello di ingresso iniziale:</translation>
-    </message>
-    <message>
-        <source>Input level start</source>
-        <translation>Livello di ingresso iniziale</translation>
-    </message>
-    <message>
-        <source>Input level end:</source>
-        <translation>Livello di ingresso finale:</translation>
-    </message>
-    <message>
-        <source>Input level end</source>
-        <translation>Livello di ingresso finale</translation>
-    </message>
-    <message>
-        <source>Output level start:</source>
-        <translation>Livello di uscita iniziale:</translation>
-    </message>
-    <message>
-        <source>Output level start</source>
-        <translation>Livello di uscita iniziale</translation>
-    </message>
-    <message>
-        <source>Output level end:</source>
-        <translation>Livello di uscita finale:</translation>
-    </message>
-    <message>
-        <source>Output level end</source>
-        <translation>Livello di uscita finale</translation>
-    </message>
-    <message>
-        <source>Soft clip:</source>
-        <translation>Soft clip:</translation>
-    </message>
-    <message>
-        <source>Soft clip</source>
-        <translation>Soft clip</translation>
     </message>
     <message>
         <source>Reset</source>

@@ -55,6 +55,56 @@
     </message>
 </context>
 <context>
+    <name>CalibrationPanel</name>
+    <message>
+        <source>Input gamma</source>
+        <translation>入力ガンマ</translation>
+    </message>
+    <message>
+        <source>Output gamma</source>
+        <translation>出力ガンマ</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>明るさ</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>彩度</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>コントラスト</translation>
+    </message>
+    <message>
+        <source>Input level start</source>
+        <translation>入力レベル開始</translation>
+    </message>
+    <message>
+        <source>Input level end</source>
+        <translation>入力レベル終了</translation>
+    </message>
+    <message>
+        <source>Output level start</source>
+        <translation>出力レベル開始</translation>
+    </message>
+    <message>
+        <source>Output level end</source>
+        <translation>出力レベル終了</translation>
+    </message>
+    <message>
+        <source>Soft clip</source>
+        <translation>ソフトクリップ</translation>
+    </message>
+</context>
+<context>
+    <name>CalibrationRow</name>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
+</context>
+<context>
     <name>DisplayControls</name>
     <message>
         <source>Background</source>
@@ -390,86 +440,6 @@
     <message>
         <source>Horizontal position in the picture</source>
         <translation>画像内の横位置</translation>
-    </message>
-    <message>
-        <source>Input gamma:</source>
-        <translation>入力ガンマ:</translation>
-    </message>
-    <message>
-        <source>Input gamma</source>
-        <translation>入力ガンマ</translation>
-    </message>
-    <message>
-        <source>Output gamma:</source>
-        <translation>出力ガンマ:</translation>
-    </message>
-    <message>
-        <source>Output gamma</source>
-        <translation>出力ガンマ</translation>
-    </message>
-    <message>
-        <source>Brightness:</source>
-        <translation>明るさ:</translation>
-    </message>
-    <message>
-        <source>Brightness</source>
-        <translation>明るさ</translation>
-    </message>
-    <message>
-        <source>Saturation:</source>
-        <translation>彩度:</translation>
-    </message>
-    <message>
-        <source>Saturation</source>
-        <translation>彩度</translation>
-    </message>
-    <message>
-        <source>Contrast:</source>
-        <translation>コントラスト:</translation>
-    </message>
-    <message>
-        <source>Contrast</source>
-        <translation>コントラスト</translation>
-    </message>
-    <message>
-        <source>Input level start:</source>
-        <translation>入力レベル開始:</translation>
-    </message>
-    <message>
-        <source>Input level start</source>
-        <translation>入力レベル開始</translation>
-    </message>
-    <message>
-        <source>Input level end:</source>
-        <translation>入力レベル終了:</translation>
-    </message>
-    <message>
-        <source>Input level end</source>
-        <translation>入力レベル終了</translation>
-    </message>
-    <message>
-        <source>Output level start:</source>
-        <translation>出力レベル開始:</translation>
-    </message>
-    <message>
-        <source>Output level start</source>
-        <translation>出力レベル開始</translation>
-    </message>
-    <message>
-        <source>Output level end:</source>
-        <translation>出力レベル終了:</translation>
-    </message>
-    <message>
-        <source>Output level end</source>
-        <translation>出力レベル終了</translation>
-    </message>
-    <message>
-        <source>Soft clip:</source>
-        <translation>ソフトクリップ:</translation>
-    </message>
-    <message>
-        <source>Soft clip</source>
-        <translation>ソフトクリップ</translation>
     </message>
     <message>
         <source>Reset</source>

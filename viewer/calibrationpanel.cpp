@@ -1,27 +1,24 @@
 #include "calibrationpanel.h"
 
-#include <QtCore/QSignalBlocker>
-#include <QtGui/QDoubleValidator>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QSlider>
+#include "calibrationrow.h"
 
-#include <algorithm>
+#include <QtCore/QEvent>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QScrollBar>
+
 #include <cmath>
+#include <tuple>
 
 namespace {
 
-constexpr float kHundred = 100.0F;
-constexpr double kFieldLimit = 100.0;
-constexpr int kDecimals = 2;
-// A gamma past the slider's end leaves it in the middle.
-constexpr int kGammaEnd = 400;
-constexpr int kGammaMiddle = 200;
+constexpr int kSpacing = 3;
+constexpr int kMargin = 2;
 
-// How the slider follows the field.
-enum class Kind { Gamma, Level, Plain };
+using Kind = CalibrationRow::Kind;
 
 struct Description {
     const char *name;
+    const char *title;
     Kind kind;
     float neutral;
 };
@@ -40,57 +37,47 @@ enum Index {
 };
 
 // In the order of Index.
-constexpr std::array<Description, 10> kDescriptions{{{"inputGamma", Kind::Gamma, 1.0F},
-                                                     {"outputGamma", Kind::Gamma, 1.0F},
-                                                     {"brightness", Kind::Plain, 1.0F},
-                                                     {"saturation", Kind::Plain, 1.0F},
-                                                     {"contrast", Kind::Plain, 1.0F},
-                                                     {"inputLevelStart", Kind::Level, 0.0F},
-                                                     {"inputLevelEnd", Kind::Level, 1.0F},
-                                                     {"outputLevelStart", Kind::Level, 0.0F},
-                                                     {"outputLevelEnd", Kind::Level, 1.0F},
-                                                     {"softClip", Kind::Plain, 0.0F}}};
-
-int sliderValue(Kind kind, float value)
-{
-    // Text of any length may have been entered; past these limits every slider is at its end anyway.
-    const int hundredths = int(std::clamp(value * kHundred, -1e6F, 1e6F));
-    switch (kind) {
-    case Kind::Gamma:
-        return hundredths > kGammaEnd ? kGammaMiddle : std::max(hundredths, 0);
-    case Kind::Level:
-        return std::clamp(hundredths, 0, int(kHundred));
-    default:
-        return hundredths;
-    }
-}
+constexpr std::array<Description, 10> kDescriptions{
+    {{"inputGamma", QT_TRANSLATE_NOOP("CalibrationPanel", "Input gamma"), Kind::Gamma, 1.0F},
+     {"outputGamma", QT_TRANSLATE_NOOP("CalibrationPanel", "Output gamma"), Kind::Gamma, 1.0F},
+     {"brightness", QT_TRANSLATE_NOOP("CalibrationPanel", "Brightness"), Kind::Plain, 1.0F},
+     {"saturation", QT_TRANSLATE_NOOP("CalibrationPanel", "Saturation"), Kind::Plain, 1.0F},
+     {"contrast", QT_TRANSLATE_NOOP("CalibrationPanel", "Contrast"), Kind::Plain, 1.0F},
+     {"inputLevelStart", QT_TRANSLATE_NOOP("CalibrationPanel", "Input level start"), Kind::Level, 0.0F},
+     {"inputLevelEnd", QT_TRANSLATE_NOOP("CalibrationPanel", "Input level end"), Kind::Level, 1.0F},
+     {"outputLevelStart", QT_TRANSLATE_NOOP("CalibrationPanel", "Output level start"), Kind::Level, 0.0F},
+     {"outputLevelEnd", QT_TRANSLATE_NOOP("CalibrationPanel", "Output level end"), Kind::Level, 1.0F},
+     {"softClip", QT_TRANSLATE_NOOP("CalibrationPanel", "Soft clip"), Kind::Plain, 0.0F}}};
 
 } // namespace
 
-CalibrationPanel::CalibrationPanel(const QWidget &controls, QObject *parent)
-    : QObject(parent)
+CalibrationPanel::CalibrationPanel(QWidget *parent)
+    : QScrollArea(parent)
 {
-    static_assert(kDescriptions.size() == kCount);
-    auto *validator = new QDoubleValidator(-kFieldLimit, kFieldLimit, kDecimals, this);
-    validator->setLocale(QLocale::c());
-    validator->setNotation(QDoubleValidator::StandardNotation);
-    for (std::size_t i = 0; i < kCount; ++i) {
-        const QString name = QString::fromLatin1(kDescriptions[i].name);
-        Value &value = m_values[i];
-        value.slider = controls.findChild<QSlider *>(name + QStringLiteral("Slider"));
-        value.field = controls.findChild<QLineEdit *>(name + QStringLiteral("Field"));
-        value.value = kDescriptions[i].neutral;
-        value.field->setValidator(validator);
-        writeField(i);
-        connect(value.slider, &QSlider::valueChanged, this,
-                [this, i](int hundredths) { sliderMoved(i, hundredths); });
-        connect(value.field, &QLineEdit::editingFinished, this, [this, i] { fieldEdited(i); });
+    static_assert(std::tuple_size_v<decltype(m_rows)> == kDescriptions.size());
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    setWidgetResizable(true);
+    auto *values = new QWidget;
+    auto *grid = new QGridLayout(values);
+    grid->setSpacing(kSpacing);
+    grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    grid->setColumnStretch(1, 1);
+    setWidget(values);
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        const Description &description = kDescriptions[i];
+        m_rows[i] =
+            new CalibrationRow(QString::fromLatin1(description.name), description.kind, *grid, int(i));
+        m_rows[i]->enter(description.neutral);
+        connect(m_rows[i], &CalibrationRow::edited, this, [this, i] { announce(i); });
     }
+    retranslate();
 }
 
 Calibration CalibrationPanel::calibration() const
 {
-    const auto value = [this](Index index) { return m_values[index].value; };
+    const auto value = [this](Index index) { return m_rows[index]->value(); };
     return {value(OutputGamma),      value(Brightness),      value(Saturation),
             value(Contrast),         value(InputLevelStart), value(InputLevelEnd),
             value(OutputLevelStart), value(OutputLevelEnd),  value(SoftClip)};
@@ -98,7 +85,7 @@ Calibration CalibrationPanel::calibration() const
 
 float CalibrationPanel::inputGamma() const
 {
-    return m_values[InputGamma].value;
+    return m_rows[InputGamma]->value();
 }
 
 QStringList CalibrationPanel::names()
@@ -114,48 +101,32 @@ bool CalibrationPanel::setValue(const QString &name, float value)
     const qsizetype index = names().indexOf(name);
     if (index < 0 || !std::isfinite(value))
         return false;
-    enter(std::size_t(index), value);
+    m_rows[std::size_t(index)]->enter(value);
     announce(std::size_t(index));
     return true;
 }
 
 void CalibrationPanel::reset(float inputGamma)
 {
-    for (std::size_t i = 0; i < kCount; ++i)
-        enter(i, kDescriptions[i].neutral);
-    enter(InputGamma, inputGamma);
+    for (std::size_t i = 0; i < m_rows.size(); ++i)
+        m_rows[i]->enter(kDescriptions[i].neutral);
+    m_rows[InputGamma]->enter(inputGamma);
     announce(InputGamma);
     announce(OutputGamma);
 }
 
-void CalibrationPanel::sliderMoved(std::size_t index, int hundredths)
+void CalibrationPanel::changeEvent(QEvent *event)
 {
-    m_values[index].value = float(hundredths) / kHundred;
-    writeField(index);
-    announce(index);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QScrollArea::changeEvent(event);
 }
 
-void CalibrationPanel::fieldEdited(std::size_t index)
+void CalibrationPanel::retranslate()
 {
-    bool isNumber = false;
-    const float value = m_values[index].field->text().toFloat(&isNumber);
-    if (isNumber && value == m_values[index].value)
-        return;
-    enter(index, isNumber && std::isfinite(value) ? value : m_values[index].value);
-    announce(index);
-}
-
-void CalibrationPanel::enter(std::size_t index, float value)
-{
-    m_values[index].value = value;
-    const QSignalBlocker blocker(m_values[index].slider);
-    m_values[index].slider->setValue(sliderValue(kDescriptions[index].kind, value));
-    writeField(index);
-}
-
-void CalibrationPanel::writeField(std::size_t index)
-{
-    m_values[index].field->setText(QString::number(double(m_values[index].value), 'f', kDecimals));
+    for (std::size_t i = 0; i < m_rows.size(); ++i)
+        m_rows[i]->setTitle(tr(kDescriptions[i].title));
+    setMinimumWidth(widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width());
 }
 
 void CalibrationPanel::announce(std::size_t index)

@@ -17,7 +17,6 @@
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QScrollBar>
 
 namespace {
 
@@ -47,7 +46,7 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     m_session = std::make_unique<ViewerSession>(totals, picture());
     m_zoom = new ZoomControl({m_ui->image, m_ui->horizontalScrollBar, m_ui->verticalScrollBar,
                               m_ui->fitPixelSize, m_ui->setPixelSize});
-    m_calibration = new CalibrationPanel(*m_ui->calibrationValues, this);
+    m_calibration = m_ui->calibrationPanel;
     m_transport = std::make_unique<TransportControls>(*m_ui, *m_session);
     m_display = std::make_unique<DisplayControls>(*m_ui, *m_session);
     m_markings = std::make_unique<MarkingControls>(*m_ui, *m_session);
@@ -133,10 +132,6 @@ void ImageViewer::filterKeys()
 void ImageViewer::retranslate()
 {
     m_ui->retranslateUi(content());
-    // Its values scroll up and down alone.
-    m_ui->calibrationScroll->setMinimumWidth(
-        m_ui->calibrationValues->minimumSizeHint().width()
-        + m_ui->calibrationScroll->verticalScrollBar()->sizeHint().width());
     for (QAbstractButton *button : content()->findChildren<QAbstractButton *>()) {
         const QKeySequence keys(button->property(kKeysProperty).toString());
         if (keys.isEmpty())
