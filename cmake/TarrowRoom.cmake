@@ -33,7 +33,7 @@ function(tarrow_include_root name root_variable folder_variable)
   set(${folder_variable} ${root}/${place} PARENT_SCOPE)
 endfunction()
 
-# A part that brings libraries along and is loaded when it is first needed, by TDesktop::ModuleFunction("<name>", …). What is
+# A part that brings libraries along and is loaded when it is first needed, by Module::function("<name>", …). What is
 # installed with the program is the global property TARROW_MODULES.
 function(tarrow_add_module name)
   cmake_parse_arguments(PARSE_ARGV 1 MODULE "" "" "SOURCES;DEPENDS")

@@ -2,7 +2,7 @@
 
 #include "soundeffects.h"
 
-#include <system/tdesktop.h>
+#include <system/module.h>
 
 #include <utility>
 
@@ -27,7 +27,7 @@ void SoundPlayer::startWaiting()
     const QStringList waiting = std::exchange(m_waiting, {});
     if (!std::exchange(m_asked, true)) {
         using Entry = SoundEffects *();
-        void *const entry = TDesktop::ModuleFunction("tarrowsound", "tarrowSoundEffects");
+        const Module::Function entry = Module::function("tarrowsound", "tarrowSoundEffects");
         m_effects.reset(entry ? reinterpret_cast<Entry *>(entry)() : nullptr);
     }
     for (const QString &path : waiting) {

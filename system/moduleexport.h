@@ -1,6 +1,6 @@
 #pragma once
 
-/// Marks the function that a module offers to TDesktop::ModuleFunction().
+/// Marks the function that a module offers to Module::function().
 #ifdef _WIN32
 #define TARROW_MODULE_FUNCTION extern "C" __declspec(dllexport)
 #else

@@ -28,13 +28,6 @@ int TerminationDescriptor();
 /// numbers.
 void OpenStandardStreams();
 
-/// Whether what is loaded later finds the functions of a module and of its libraries without naming them.
-enum class Symbols { Own, Shared };
-
-/// A function of a module that the program brings along, in its own folder, in "../lib" or in "../lib/tarrow-alertor"
-/// from there. The module is loaded for it and stays. Null, and a line on standard error, when it is not to be had.
-void *ModuleFunction(const char *module, const char *function, Symbols symbols = Symbols::Own);
-
 /// Hands freed memory back to the system, where the library would keep it for a program that may never need it again.
 void ReturnFreedMemory();
 

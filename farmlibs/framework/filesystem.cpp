@@ -1,7 +1,8 @@
 #include "filesystem.h"
 
-#include "machine.h"
 #include "nativepath.h"
+
+#include <system/machine.h>
 
 #include <algorithm>
 #include <system_error>

@@ -1,6 +1,7 @@
-#include "machine.h"
 #include "nativepath.h"
 #include "tframework.h"
+
+#include <system/machine.h>
 
 #include <map>
 #include <system_error>

@@ -1,6 +1,6 @@
 #include "imagemodules.h"
 
-#include <system/tdesktop.h>
+#include <system/module.h>
 
 namespace TImageLibrary {
 
@@ -10,7 +10,7 @@ template <typename Offer>
 const Offer *offered(const char *module, const char *function)
 {
     using Entry = const Offer *();
-    void *const entry = TDesktop::ModuleFunction(module, function);
+    const Module::Function entry = Module::function(module, function);
     return entry ? reinterpret_cast<Entry *>(entry)() : nullptr;
 }
 

@@ -52,7 +52,7 @@ std::unique_ptr<Interpreter> Interpreter::start(const PythonHost &host, std::str
         interpreter->unlock();
         return interpreter;
     } catch (const std::exception &error) {
-        problem = std::string("Python does not start: ") + error.what();
+        problem = std::string("Python cannot be started: ") + error.what();
         return nullptr;
     }
 }

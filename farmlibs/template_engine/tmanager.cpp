@@ -4,7 +4,8 @@
 
 #include <framework/filesystem.h>
 #include <framework/tframework.h>
-#include <system/tdesktop.h>
+#include <system/machine.h>
+#include <system/module.h>
 
 #include <cstdio>
 #include <filesystem>
@@ -16,11 +17,6 @@ namespace {
 
 constexpr int kInterfaceVersion = 1;
 constexpr std::uintmax_t kMaximumSourceBytes = 16ULL * 1024 * 1024;
-#ifdef _WIN32
-constexpr char kPlatformPackages[] = "packages-windows";
-#else
-constexpr char kPlatformPackages[] = "packages-linux";
-#endif
 
 std::string s_hostName;
 // No static destructor may end the interpreter: destroyUniqueClass() does.
@@ -48,10 +44,10 @@ const TFramework::TSendEntry *sendEntry()
 /// compiled modules that a template imports, which do not name the library.
 Python *startModule(const std::string &hostName, std::string &problem)
 {
-    void *const start =
-        TDesktop::ModuleFunction("tarrowpython", "tarrowStartPython", TDesktop::Symbols::Shared);
+    const Module::Function start =
+        Module::function("tarrowpython", "tarrowStartPython", Module::Symbols::Shared);
     if (!start) {
-        problem = "Python is not to be had";
+        problem = "Python cannot be started: the module tarrowpython cannot be loaded";
         return nullptr;
     }
     return reinterpret_cast<StartPython *>(start)({hostName, &sendEntry}, problem);
@@ -112,7 +108,7 @@ void TManager::normalizeTemplatesDirectories(const std::string &folder,
     using TFramework::TFileSystem;
     directories.host = TFileSystem::JoinPath(TFileSystem::JoinPath(folder, "hosts"), m_hostName);
     directories.modules = TFileSystem::JoinPath(folder, "modules");
-    directories.platformPackages = TFileSystem::JoinPath(folder, kPlatformPackages);
+    directories.platformPackages = TFileSystem::JoinPath(folder, "packages-" + Machine::platformName());
     directories.packages = TFileSystem::JoinPath(folder, "packages");
 }
 

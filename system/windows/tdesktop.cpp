@@ -4,7 +4,6 @@
 
 #include <shellapi.h>
 
-#include <cstdio>
 #include <string>
 
 namespace {
@@ -53,15 +52,5 @@ int TDesktop::TerminationDescriptor()
 }
 
 void TDesktop::OpenStandardStreams() { }
-
-void *TDesktop::ModuleFunction(const char *module, const char *function, Symbols /*symbols*/)
-{
-    // The system looks in the program's own folder first.
-    const HMODULE library = LoadLibraryA((std::string(module) + ".dll").c_str());
-    void *found = library ? reinterpret_cast<void *>(GetProcAddress(library, function)) : nullptr;
-    if (!found)
-        std::fprintf(stderr, "%s cannot be loaded\n", module);
-    return found;
-}
 
 void TDesktop::ReturnFreedMemory() { }

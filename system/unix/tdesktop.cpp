@@ -1,12 +1,7 @@
 #include <system/tdesktop.h>
 
 #include <csignal>
-#include <cstdio>
-#include <filesystem>
-#include <string>
-#include <system_error>
 
-#include <dlfcn.h>
 #include <fcntl.h>
 #include <unistd.h>
 #ifdef __GLIBC__
@@ -62,26 +57,6 @@ void TDesktop::OpenStandardStreams()
         opened = open("/dev/null", O_RDWR);
     if (opened >= 0)
         close(opened);
-}
-
-void *TDesktop::ModuleFunction(const char *module, const char *function, Symbols symbols)
-{
-    std::error_code error;
-    const auto folder = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
-    const std::string name = std::string("lib") + module + ".so";
-    for (const char *place : {".", "../lib", "../lib/tarrow-alertor"}) {
-        const auto path = folder / place / name;
-        if (!std::filesystem::exists(path, error))
-            continue;
-        void *library =
-            dlopen(path.c_str(), RTLD_NOW | (symbols == Symbols::Shared ? RTLD_GLOBAL : RTLD_LOCAL));
-        void *found = library ? dlsym(library, function) : nullptr;
-        if (!found)
-            std::fprintf(stderr, "%s\n", dlerror());
-        return found;
-    }
-    std::fprintf(stderr, "%s is not there\n", name.c_str());
-    return nullptr;
 }
 
 void TDesktop::ReturnFreedMemory()
