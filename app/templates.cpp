@@ -5,7 +5,6 @@
 #include <framework/tframework.h>
 #include <template_engine/tmanager.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <utility>
@@ -41,21 +40,6 @@ public:
 private:
     TManager *m_manager;
 };
-
-/// Entries of a folder by name, so that templates are loaded in the same order everywhere.
-std::vector<std::string> entriesOf(const std::string &folder)
-{
-    std::vector<std::string> names;
-    std::string name;
-    if (auto *enumeration = TFileSystem::EnumDirFirstFile(folder, name)) {
-        do
-            names.push_back(name);
-        while (TFileSystem::EnumDirNextFile(enumeration, name));
-        TFileSystem::EnumDirClose(enumeration);
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
 
 /// Loose on purpose: any name ending in a full stop, "p" or "y" is tried, and the loader refuses what is no template.
 bool mayBeTemplate(const std::string &fileName)
@@ -94,10 +78,11 @@ void Templates::loadTemplates(const Progress &progress)
     const std::string settings = TFileSystem::JoinPath(TFileSystem::GetAppSettingsFolder(true), ".Tarrow9");
     std::string folder = TFileSystem::JoinPath(settings, "templates");
     TFileSystem::MakeDirectory(folder, true);
-    std::vector<std::string> names = entriesOf(folder);
+    // By name, so that templates are loaded in the same order everywhere.
+    std::vector<std::string> names = TFileSystem::ListDirectory(folder);
     if (names.empty()) {
         folder = TFileSystem::JoinPath(TFramework::GetModuleBasePath(), "templates");
-        names = entriesOf(folder);
+        names = TFileSystem::ListDirectory(folder);
     }
 
     TTemplateEngine::TTemplatesDirectories directories;

@@ -37,6 +37,7 @@ constexpr double kLoadPromise = 1.10;
 
 double milliseconds(const std::function<void()> &work)
 {
+    const KeptPool pool;
     const auto start = std::chrono::steady_clock::now();
     work();
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();

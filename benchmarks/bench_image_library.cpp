@@ -38,9 +38,8 @@ struct Contender {
 
 bool loadThroughLibrary(const ExrSample &sample)
 {
-    CTImage *image = IImageCore::Load(sample.path.c_str(), "exr", sample.wanted, nullptr, nullptr);
-    IImageCore::DestroyImage(image);
-    return image;
+    return TImagePointer(IImageCore::Load(sample.path.c_str(), "exr", sample.wanted, nullptr, nullptr))
+        != nullptr;
 }
 
 std::vector<Contender> bareReaders(const ExrSample &sample)
@@ -58,6 +57,7 @@ std::vector<Contender> bareReaders(const ExrSample &sample)
 
 double milliseconds(const std::function<bool()> &load)
 {
+    const KeptPool pool;
     const auto start = std::chrono::steady_clock::now();
     if (!load()) {
         std::fprintf(stderr, "a file does not load\n");
@@ -100,18 +100,20 @@ double inChild(const std::function<bool()> &run)
     return double(usage.ru_maxrss) * 1024.0;
 }
 
-double peakMemory(const std::function<bool()> &load)
+/// What a load takes beyond the module that decodes, which no single load is to answer for.
+double peakMemory(const ExrSample &sample, const std::function<bool()> &load)
 {
-    return inChild(load) - inChild([] { return true; });
+    const auto bringModule = [&sample] { return IImageCore::Probe(sample.path.c_str()) != nullptr; };
+    return inChild([&] { return bringModule() && load(); }) - inChild(bringModule);
 }
 
 void printMemory(const ExrSample &sample)
 {
     const double planes = double(sample.planeBytes());
-    const double library = peakMemory([&sample] { return loadThroughLibrary(sample); });
+    const double library = peakMemory(sample, [&sample] { return loadThroughLibrary(sample); });
     double bare = 0.0;
     for (const Contender &reader : bareReaders(sample))
-        bare = std::max(bare, peakMemory(reader.load));
+        bare = std::max(bare, peakMemory(sample, reader.load));
     // What OpenEXR needs is what the bare reader takes beyond the planes.
     const double allowed = kMemoryPromise * planes + std::max(0.0, bare - planes);
     printPromise(("image library: MB, " + sample.name + ", to a limit").c_str(), library / 1e6, allowed / 1e6,
@@ -171,8 +173,6 @@ int main(int argc, char **argv)
             writeSample(sample);
             return true;
         });
-        // Brings in the module that decodes, which no single load is to answer for.
-        IImageCore::Probe(sample.path.c_str());
         printMemory(sample);
     }
     for (const ExrSample &sample : samples) {

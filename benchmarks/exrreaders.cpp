@@ -137,6 +137,15 @@ void writeSample(const ExrSample &sample)
     file.writePixels(sample.height);
 }
 
+KeptPool::KeptPool()
+    : m_threads(Imf::globalThreadCount())
+{ }
+
+KeptPool::~KeptPool()
+{
+    Imf::setGlobalThreadCount(m_threads);
+}
+
 bool readPlanar(const ExrSample &sample, int threads)
 {
     if (Imf::globalThreadCount() != threads)

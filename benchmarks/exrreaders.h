@@ -26,6 +26,18 @@ struct ExrSample {
 std::vector<ExrSample> listSamples(const std::filesystem::path &folder);
 void writeSample(const ExrSample &sample);
 
+/// Gives OpenEXR's pool back the threads it had, once a reader that wants others is done: the pool is the process's.
+class KeptPool final {
+public:
+    KeptPool();
+    ~KeptPool();
+    KeptPool(const KeptPool &) = delete;
+    KeptPool &operator=(const KeptPool &) = delete;
+
+private:
+    int m_threads;
+};
+
 // Each takes memory for the wanted planes and fills it; false when the file does not read.
 
 /// OpenEXR's C++ interface, one slice for each plane, with so many threads in its pool.

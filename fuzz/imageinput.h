@@ -10,7 +10,6 @@
 #include <unistd.h>
 
 #include <filesystem>
-#include <memory>
 #include <set>
 #include <string>
 
@@ -44,7 +43,7 @@ private:
 
     void read(const char *format, const std::set<std::string> &names) const
     {
-        const auto image = std::unique_ptr<TImageLibrary::CTImage, Destroy>(
+        const TImageLibrary::TImagePointer image(
             TImageLibrary::IImageCore::Load(m_path.c_str(), format, names, nullptr, nullptr));
         if (!image)
             return;
@@ -56,13 +55,6 @@ private:
             }
         }
     }
-
-    struct Destroy {
-        void operator()(TImageLibrary::CTImage *image) const
-        {
-            TImageLibrary::IImageCore::DestroyImage(image);
-        }
-    };
 
     std::filesystem::path m_path;
 };

@@ -3,6 +3,7 @@
 #include "exrpixels.h"
 
 #include <ImathBox.h>
+#include <ImfThreading.h>
 
 #include <map>
 #include <utility>
@@ -14,6 +15,11 @@ namespace {
 constexpr char kFormat[] = "exr";
 
 } // namespace
+
+ExrLoader::ExrLoader()
+{
+    Imf::setGlobalThreadCount(exrPoolThreads());
+}
 
 std::vector<std::string> ExrLoader::extensions() const
 {

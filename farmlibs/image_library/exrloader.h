@@ -7,6 +7,9 @@ namespace TImageLibrary {
 /// OpenEXR files, flat parts: a layer for each channel, decoded straight into its plane.
 class ExrLoader final : public ImageLoader {
 public:
+    /// Starts the pool of threads that OpenEXR decodes with, one for the process.
+    ExrLoader();
+
     std::vector<std::string> extensions() const override;
     const char *probe(const SourceFile &file) const override;
     bool knows(const std::string &format) const override;

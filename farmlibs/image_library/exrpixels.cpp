@@ -6,7 +6,6 @@
 #include <ImfChannelList.h>
 #include <ImfFrameBuffer.h>
 #include <ImfInputPart.h>
-#include <ImfThreading.h>
 #include <ImfTiledInputPart.h>
 
 #include <algorithm>
@@ -197,20 +196,11 @@ private:
     std::unique_ptr<PartRows> m_rows;
 };
 
-/// The pool's hand-overs cost more than they bring where nothing is decompressed.
-void setPoolThreads(Imf::Compression compression)
-{
-    const int threads = compression == Imf::NO_COMPRESSION ? 0 : exrPoolThreads();
-    if (Imf::globalThreadCount() != threads)
-        Imf::setGlobalThreadCount(threads);
-}
-
 } // namespace
 
 void readPart(ExrFile &file, int part, const std::vector<ExrTarget *> &targets,
               const std::function<void(double)> &report)
 {
-    setPoolThreads(file.header(part).compression());
     checkLastChunk(file, part);
     if (hasPlainLines(file, part, targets))
         copyPlainLines(file, part, targets, report);

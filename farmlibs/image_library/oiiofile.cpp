@@ -1,11 +1,9 @@
 #include "oiiofile.h"
 
 #include "oiioformats.h"
-#include "orientation.h"
+#include "planes.h"
 
 #include <algorithm>
-#include <cstring>
-#include <limits>
 #include <stdexcept>
 #include <utility>
 
@@ -24,59 +22,6 @@ bool reportProgress(void *progress, float fraction)
 {
     // An error that nobody asks for would be printed.
     throw std::runtime_error(input.geterror());
-}
-
-OIIO::TypeDesc planeType(const TPlaneFormat &format)
-{
-    if (format.depth == 1)
-        return OIIO::TypeDesc::UINT8;
-    if (format.depth == 2)
-        return format.isFloat ? OIIO::TypeDesc::HALF : OIIO::TypeDesc::UINT16;
-    return OIIO::TypeDesc::FLOAT;
-}
-
-/// Grey and alpha, which stand first in each pixel of four samples, become a colour and alpha.
-template <typename Sample>
-void spreadGrey(CTImageChannel &channel)
-{
-    auto *pixel = reinterpret_cast<Sample *>(channel.data());
-    const Sample *end = pixel + channel.format().byteSize() / sizeof(Sample);
-    for (; pixel != end; pixel += 4) {
-        pixel[3] = pixel[1];
-        pixel[1] = pixel[2] = pixel[0];
-    }
-}
-
-void spreadGrey(CTImageChannel &channel)
-{
-    switch (channel.format().depth) {
-    case 1:
-        return spreadGrey<std::uint8_t>(channel);
-    case 2:
-        return spreadGrey<std::uint16_t>(channel);
-    default:
-        return spreadGrey<float>(channel);
-    }
-}
-
-void makeOpaque(CTImageChannel &channel)
-{
-    auto *sample = reinterpret_cast<std::uint16_t *>(channel.data());
-    const std::uint16_t *end = sample + channel.format().byteSize() / sizeof(std::uint16_t);
-    for (; sample != end; sample += 4)
-        sample[3] = std::numeric_limits<std::uint16_t>::max();
-}
-
-/// Takes the alpha out of the colour again.
-void divideByAlpha(CTImageChannel &channel)
-{
-    auto *pixel = reinterpret_cast<std::uint8_t *>(channel.data());
-    const std::uint8_t *end = pixel + channel.format().byteSize();
-    for (; pixel != end; pixel += 4) {
-        const unsigned alpha = pixel[3];
-        for (int i = 0; i < 3 && alpha > 0; ++i)
-            pixel[i] = std::uint8_t(std::min(255U, (pixel[i] * 255U + alpha / 2) / alpha));
-    }
 }
 
 /// The plane's own type for a sample of the file; with `alone` for a plane of one sample a pixel.
@@ -100,21 +45,6 @@ TPlaneFormat planeFormat(const OIIO::ImageSpec &spec, int samples, bool alone)
         break;
     }
     return format;
-}
-
-/// One sample of each pixel of `whole` as a plane.
-CTImageChannel sampleOf(const CTImageChannel &whole, int index, const std::string &name)
-{
-    TPlaneFormat format = whole.format();
-    const std::size_t step = format.pixelBytes();
-    format.samples = 1;
-    CTImageChannel plane(name, format, CTImageChannel::Fill::None);
-    const std::size_t bytes = format.pixelBytes();
-    const auto *from = static_cast<const std::byte *>(whole.GetChannelData()) + std::size_t(index) * bytes;
-    std::byte *const end = plane.data() + format.byteSize();
-    for (std::byte *to = plane.data(); to != end; to += bytes, from += step)
-        std::memcpy(to, from, bytes);
-    return plane;
 }
 
 std::string channelName(const OIIO::ImageSpec &spec, int channel)
@@ -222,7 +152,7 @@ void OiioFile::readInto(CTImageChannel &pixels, Progress &progress)
 {
     const TPlaneFormat &format = pixels.format();
     m_input->geterror(); // of the opening, which went well enough
-    const bool done = m_input->read_image(0, 0, 0, m_spec.nchannels, planeType(format), pixels.data(),
+    const bool done = m_input->read_image(0, 0, 0, m_spec.nchannels, sampleType(format), pixels.data(),
                                           OIIO::stride_t(format.pixelBytes()), OIIO::AutoStride,
                                           OIIO::AutoStride, reportProgress, &progress);
     // Some decoders only mention that pixels were missing.

@@ -1,6 +1,6 @@
 #include "imagemodules.h"
 #include "oiioloader.h"
-#include "resize.h"
+#include "planes.h"
 
 #include <system/moduleexport.h>
 

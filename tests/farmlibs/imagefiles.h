@@ -12,17 +12,13 @@
 #include <QtCore/QString>
 #include <QtCore/QTemporaryDir>
 
-#include <memory>
 #include <set>
 #include <string>
 #include <vector>
 
 /// Image files that tests write, and what they read back.
 
-struct DestroyImage {
-    void operator()(TImageLibrary::CTImage *image) const { TImageLibrary::IImageCore::DestroyImage(image); }
-};
-using Image = std::unique_ptr<TImageLibrary::CTImage, DestroyImage>;
+using Image = TImageLibrary::TImagePointer;
 
 /// The layers joined with blanks, each quoted; "none" when the file cannot be read.
 QByteArray layersOf(const std::string &path);

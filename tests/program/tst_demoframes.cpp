@@ -32,9 +32,8 @@ std::vector<std::string> values(const QByteArray &base64)
 /// What a layer of one channel holds; empty when the file does not load.
 QByteArray plane(const QString &file, const char *layer)
 {
-    const std::unique_ptr<CTImage, void (*)(CTImage *)> image(
-        IImageCore::GetUniqueClass()->Load(file.toUtf8().constData(), "exr", {layer}, nullptr, nullptr),
-        &IImageCore::DestroyImage);
+    const TImageLibrary::TImagePointer image(
+        IImageCore::Load(file.toUtf8().constData(), "exr", {layer}, nullptr, nullptr));
     if (!image)
         return {};
     const TImageLibrary::CTImageChannel &channel = *image->GetLayer(layer)->GetDefaultChannel();

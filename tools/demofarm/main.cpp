@@ -2,43 +2,24 @@
 #include "farmserver.h"
 #include "framestore.h"
 
+#include <system/tdesktop.h>
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSocketNotifier>
 
 #include <cstdio>
 #include <optional>
 
-#ifdef Q_OS_UNIX
-#include <csignal>
-#include <unistd.h>
-#endif
-
 namespace {
-
-#ifdef Q_OS_UNIX
-int signalPipe[2] = {-1, -1};
-
-void noteSignal(int)
-{
-    const char byte = 0;
-    [[maybe_unused]] const ssize_t written = write(signalPipe[1], &byte, 1);
-}
-#endif
 
 /// Ctrl-C, SIGTERM and a closed terminal end the event loop: the summary is still told, the frames are removed.
 void quitOnSignals(QCoreApplication &application)
 {
-#ifdef Q_OS_UNIX
-    if (pipe(signalPipe) != 0)
+    const int termination = TDesktop::TerminationDescriptor();
+    if (termination < 0)
         return;
-    auto *notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, &application);
+    auto *notifier = new QSocketNotifier(termination, QSocketNotifier::Read, &application);
     QObject::connect(notifier, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
-    std::signal(SIGINT, noteSignal);
-    std::signal(SIGTERM, noteSignal);
-    std::signal(SIGHUP, noteSignal);
-#else
-    Q_UNUSED(application);
-#endif
 }
 
 } // namespace

@@ -5,10 +5,10 @@
 #include <QtCore/QFloat16>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <iterator>
 #include <limits>
-#include <memory>
 #include <set>
 #include <string>
 
@@ -19,34 +19,17 @@ namespace {
 /// Layers that are decoded together: one by one, each would decompress the whole of a file that holds many.
 constexpr std::size_t kBatch = 8;
 
-struct Destroy {
-    void operator()(CTImage *image) const { IImageCore::DestroyImage(image); }
-};
-using Image = std::unique_ptr<CTImage, Destroy>;
 using Names = std::set<std::string>;
 
 struct Source {
     QByteArray path;
     const char *format = nullptr;
 
-    Image load(const Names &names) const
+    TImagePointer load(const Names &names) const
     {
-        return Image(IImageCore::Load(path.constData(), format, names, nullptr, nullptr));
+        return TImagePointer(IImageCore::Load(path.constData(), format, names, nullptr, nullptr));
     }
 };
-
-QString typeName(const CTImageChannel &channel)
-{
-    const bool isFloat = channel.GetChannelBitType() == 1;
-    switch (channel.GetChannelBitDepth()) {
-    case 1:
-        return QStringLiteral("uint8");
-    case 2:
-        return isFloat ? QStringLiteral("half") : QStringLiteral("uint16");
-    default:
-        return isFloat ? QStringLiteral("float") : QStringLiteral("uint32");
-    }
-}
 
 template <typename Sample>
 void measure(const CTImageChannel &channel, ChannelReport &report)
@@ -73,25 +56,32 @@ void measure(const CTImageChannel &channel, ChannelReport &report)
     report.mean = sum / double(count - report.nonFinite);
 }
 
+/// How samples of one kind are named and measured.
+struct SampleType {
+    std::int32_t depth;
+    std::int32_t type;
+    const char *name;
+    void (*measure)(const CTImageChannel &channel, ChannelReport &report);
+};
+
+constexpr std::array<SampleType, 5> kSampleTypes{{{1, 0, "uint8", &measure<quint8>},
+                                                  {2, 0, "uint16", &measure<quint16>},
+                                                  {4, 0, "uint32", &measure<quint32>},
+                                                  {2, 1, "half", &measure<qfloat16>},
+                                                  {4, 1, "float", &measure<float>}}};
+
 ChannelReport inspect(const CTImageChannel &channel)
 {
     ChannelReport report;
     report.name = QString::fromStdString(channel.GetChannelName());
     report.width = channel.GetChannelWidth();
     report.height = channel.GetChannelHeight();
-    report.type = typeName(channel);
     report.samples = channel.GetChannelBitSamples();
-    const bool isFloat = channel.GetChannelBitType() == 1;
-    switch (channel.GetChannelBitDepth()) {
-    case 1:
-        measure<quint8>(channel, report);
-        break;
-    case 2:
-        isFloat ? measure<qfloat16>(channel, report) : measure<quint16>(channel, report);
-        break;
-    default:
-        isFloat ? measure<float>(channel, report) : measure<quint32>(channel, report);
-        break;
+    for (const SampleType &sample : kSampleTypes) {
+        if (sample.depth != channel.GetChannelBitDepth() || sample.type != channel.GetChannelBitType())
+            continue;
+        report.type = QString::fromLatin1(sample.name);
+        sample.measure(channel, report);
     }
     return report;
 }
@@ -106,7 +96,7 @@ bool holdsFloats(const CTImage &image)
 /// floats are looked for in ever smaller groups, until each stands alone.
 bool inspectLayers(const Source &source, const Names &names, ImageReport &report)
 {
-    Image image = source.load(names);
+    TImagePointer image = source.load(names);
     if (!image)
         return false;
     if (names.size() > 1 && holdsFloats(*image)) {

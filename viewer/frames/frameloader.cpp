@@ -16,10 +16,7 @@ using TImageLibrary::IImageCore;
 
 namespace {
 
-struct DestroyImage {
-    void operator()(CTImage *image) const { IImageCore::DestroyImage(image); }
-};
-using Image = std::unique_ptr<CTImage, DestroyImage>;
+using Image = TImageLibrary::TImagePointer;
 
 /// Null when the smaller image cannot be made. No side becomes less than a pixel.
 Image downsampled(Image image, std::int32_t halvings)

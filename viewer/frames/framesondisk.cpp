@@ -4,26 +4,11 @@
 #include <image_library/iimagecore.h>
 
 #include <algorithm>
-#include <set>
 #include <utility>
 
 using TFramework::TFileSystem;
 
 namespace {
-
-std::set<std::string> namesIn(const std::string &folder)
-{
-    std::set<std::string> names;
-    std::string name;
-    TFramework::TDirectoryEnumeration *listing = TFileSystem::EnumDirFirstFile(folder, name);
-    if (!listing)
-        return names;
-    do
-        names.insert(name);
-    while (TFileSystem::EnumDirNextFile(listing, name));
-    TFileSystem::EnumDirClose(listing);
-    return names;
-}
 
 bool isImage(const std::string &path)
 {
@@ -36,7 +21,7 @@ std::optional<std::int32_t> firstFrameOnDisk(const std::string &mask)
 {
     std::optional<std::int32_t> first;
     const std::string folder = TFileSystem::GetFilePath(mask);
-    for (const std::string &name : namesIn(folder.empty() ? "." : folder)) {
+    for (const std::string &name : TFileSystem::ListDirectory(folder.empty() ? "." : folder)) {
         const std::string path = TFileSystem::JoinPath(folder, name);
         std::int32_t frame = 0;
         const bool isFrame = !TFileSystem::GetSequenceMask(path, true, frame).empty()
@@ -50,7 +35,7 @@ std::optional<std::int32_t> firstFrameOnDisk(const std::string &mask)
 std::string firstImageOf(const std::string &folder)
 {
     std::string single;
-    for (const std::string &name : namesIn(folder)) {
+    for (const std::string &name : TFileSystem::ListDirectory(folder)) {
         std::string path = TFileSystem::JoinPath(folder, name);
         std::int32_t frame = 0;
         const bool isNumbered = !TFileSystem::GetSequenceMask(path, true, frame).empty();
