@@ -4,7 +4,7 @@
 #include "ratio.h"
 
 #include <framework/stringhelper.h>
-#include <net/packets.h>
+#include <net/protocol/packets.h>
 #include <notify/alertor.h>
 #include <notify/events/eventbuilder.h>
 #include <notify/events/notifyevent.h>

@@ -3,9 +3,9 @@
 
 #include "ratio.h"
 
-#include <net/packets.h>
+#include <net/protocol/packets.h>
+#include <net/protocol/wire.h>
 #include <net/qlwtcpsocket.h>
-#include <net/wire.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>

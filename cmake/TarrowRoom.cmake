@@ -2,7 +2,7 @@ set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)
 
 # One static library per folder, its room. A room sees the rooms that it links and no others, so that an upward include
 # does not compile: each has an include root of its own in the build folder, with nothing in it but a link to the room at
-# its place in the tree. An include line names the room, as in <net/packets.h>; farmlibs/ and tools/ are left out of the name.
+# its place in the tree. An include line names the room, as in <ui/look.h>; farmlibs/ and tools/ are left out of the name.
 #
 #   tarrow_add_room(net SOURCES … HEADERS … DEPENDS … [PRIVATE_DEPENDS …])
 #

@@ -1,6 +1,6 @@
 #include "fuzzing.h"
 
-#include <net/messagereader.h>
+#include <net/protocol/messagereader.h>
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "fuzzing.h"
 
-#include <net/packets.h>
+#include <net/protocol/packets.h>
 #include <notify/events/eventbuilder.h>
 #include <notify/events/notifyevent.h>
 

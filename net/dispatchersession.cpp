@@ -1,9 +1,9 @@
 #include "dispatchersession.h"
 
-#include "packets.h"
 #include "qlwtcpsocket.h"
 
 #include <framework/tframework.h>
+#include <net/protocol/packets.h>
 
 DispatcherSession::DispatcherSession(QObject *parent)
     : QObject(parent)

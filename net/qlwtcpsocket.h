@@ -1,6 +1,6 @@
 #pragma once
 
-#include "messagereader.h"
+#include <net/protocol/messagereader.h>
 
 #include <QtCore/QDateTime>
 #include <QtNetwork/QTcpSocket>

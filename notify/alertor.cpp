@@ -6,7 +6,7 @@
 #include "resultopener.h"
 #include "ui_alertor.h"
 
-#include <net/packets.h>
+#include <net/protocol/packets.h>
 #include <notify/events/eventbuilder.h>
 #include <notify/events/notifyevent.h>
 #include <system/tdesktop.h>

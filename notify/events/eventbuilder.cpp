@@ -4,7 +4,7 @@
 
 #include <framework/filesystem.h>
 #include <framework/stringhelper.h>
-#include <net/packets.h>
+#include <net/protocol/packets.h>
 
 #include <string_view>
 

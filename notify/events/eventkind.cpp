@@ -2,7 +2,7 @@
 
 #include "notifyevent.h"
 
-#include <net/packets.h>
+#include <net/protocol/packets.h>
 
 #include <QtCore/QCoreApplication>
 

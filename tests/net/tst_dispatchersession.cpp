@@ -2,7 +2,7 @@
 
 #include <framework/tframework.h>
 #include <net/dispatchersession.h>
-#include <net/packets.h>
+#include <net/protocol/packets.h>
 
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
@@ -14,6 +14,7 @@ private:
     static LinkSettings settingsFor(const LoopbackPeer &peer)
     {
         LinkSettings settings;
+        settings.address = QStringLiteral("127.0.0.1");
         settings.port = peer.port();
         settings.user = QStringLiteral("ann\u00fc");
         settings.password = QStringLiteral("secret");

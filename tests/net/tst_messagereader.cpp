@@ -1,4 +1,4 @@
-#include <net/messagereader.h>
+#include <net/protocol/messagereader.h>
 #include <notify/settings/inflate.h>
 
 #include <QtTest/QTest>

@@ -1,4 +1,4 @@
-#include <net/packets.h>
+#include <net/protocol/packets.h>
 
 #include <QtTest/QTest>
 

@@ -4,8 +4,8 @@
 #include <demofarm/garbage.h>
 #include <demofarm/scenario.h>
 #include <framework/stringhelper.h>
-#include <net/messagereader.h>
-#include <net/packets.h>
+#include <net/protocol/messagereader.h>
+#include <net/protocol/packets.h>
 
 #include <QtTest/QTest>
 

@@ -3,8 +3,8 @@
 #include <client_lib/tchunk.h>
 #include <client_lib/tjob.h>
 #include <framework/stringhelper.h>
-#include <net/packets.h>
-#include <net/wire.h>
+#include <net/protocol/packets.h>
+#include <net/protocol/wire.h>
 
 /// What a Dispatcher would send, with as little to say for each test as possible.
 namespace farm {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <net/messagereader.h>
+#include <net/protocol/messagereader.h>
 
 #include <QtCore/QList>
 #include <QtCore/QTimer>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <client_lib/tframesrange.h>
-#include <net/packets.h>
+#include <net/protocol/packets.h>
 
 #include <chrono>
 #include <cstdint>

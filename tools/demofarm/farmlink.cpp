@@ -2,7 +2,7 @@
 
 #include "farmlog.h"
 
-#include <net/packets.h>
+#include <net/protocol/packets.h>
 
 #include <QtCore/QDebug>
 #include <QtCore/QTimer>

@@ -2,7 +2,7 @@
 
 #include "scenario.h"
 
-#include <net/packets.h>
+#include <net/protocol/packets.h>
 
 #include <QtCore/QList>
 #include <QtCore/QString>

@@ -4,7 +4,7 @@
 #include "framestore.h"
 #include "garbage.h"
 
-#include <net/wire.h>
+#include <net/protocol/wire.h>
 
 #include <QtCore/QDateTime>
 #include <QtNetwork/QTcpSocket>

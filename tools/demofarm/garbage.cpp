@@ -1,7 +1,7 @@
 #include "garbage.h"
 
-#include <net/packets.h>
-#include <net/wire.h>
+#include <net/protocol/packets.h>
+#include <net/protocol/wire.h>
 
 #include <iterator>
 
