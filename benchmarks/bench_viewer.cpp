@@ -77,7 +77,7 @@ double paintedAt(const imageWidget &picture, const QElapsedTimer &timer)
 
 std::unique_ptr<ImageViewer> openViewer(CacheTotals &totals, const QString &path)
 {
-    auto viewer = std::make_unique<ImageViewer>(totals, ViewerSettings{});
+    auto viewer = std::make_unique<ImageViewer>(totals, ViewerSettings{.exrImportGamma = 2.2F});
     viewer->setAttribute(Qt::WA_DeleteOnClose, false);
     viewer->show();
     viewer->setFramesPath({.path = path.toStdString(), .force = true, .maskIsSequence = true});

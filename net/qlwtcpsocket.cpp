@@ -3,9 +3,9 @@
 #include "netlog.h"
 
 #include <notify/settings/inflate.h>
+#include <notify/settings/settings.h>
 
 #include <QtCore/QPointer>
-#include <QtCore/QSettings>
 #include <QtCore/QTimer>
 #include <QtCore/QtEndian>
 
@@ -24,18 +24,13 @@ constexpr qint64 kReadAhead = qint64(512) * 1024;
 constexpr qint64 kWriteAhead = qint64(64) * 1024;
 constexpr auto kHeartbeatCheck = std::chrono::seconds(5);
 
-qint32 heartbeatResolutionSetting()
-{
-    return QSettings().value(QStringLiteral("network/heartbeat_resolution"), 600).toInt();
-}
-
 } // namespace
 
 QLWTCPSocket::QLWTCPSocket(QObject *parent)
     : QTcpSocket(parent)
     , m_maxReceiveSize(kBufferLimit)
     , m_maxSendSize(kBufferLimit)
-    , m_heartbeatResolution(heartbeatResolutionSetting())
+    , m_heartbeatResolution(loadHeartbeatResolution())
     , m_clock(&QDateTime::currentDateTime)
 {
     m_receiveBuffer.reserve(kBufferLimit);

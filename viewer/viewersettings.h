@@ -1,7 +1,7 @@
 #pragma once
 
-/// What the program's settings say about viewers; the frame budgets are in CacheTotals.
+/// Import gammas of a viewer, 1 for pictures as they are; the frame budgets are in CacheTotals.
 struct ViewerSettings {
-    float exrImportGamma = 2.2F;
+    float exrImportGamma = 1.0F;
     float defaultImportGamma = 1.0F; ///< of every other format
 };

@@ -11,7 +11,7 @@ struct Settings {
     QString dispatcherAddress = QStringLiteral("127.0.0.1");
     QString authenticationUser = QStringLiteral("admin");
     QString authenticationPassword; ///< in clear; enciphered in the store
-    int dispatcherPort = 9883;
+    int dispatcherPort = kDispatcherPort;
     bool skipDirectoryAuthentication = false;
 
     bool filterServiceActivities = true;
@@ -62,6 +62,11 @@ struct CommandLineOverrides {
 /// Reads every key from the default settings store. A key that is missing, or whose value is not of its type, has its
 /// default; all that could not be read is reported in one warning.
 Settings loadSettings();
+/// The same for the keys of the group "imageViewer" alone: needs no cipher.
+Settings loadImageViewerSettings();
 
 /// Writes every key. False, with one warning, when the store cannot be written.
 bool saveSettings(const Settings &settings);
+
+/// Seconds of silence before a heartbeat; a key that is read and never written.
+int loadHeartbeatResolution();

@@ -373,7 +373,7 @@ private Q_SLOTS:
 private:
     ImageViewer *open(const QString &name, const JobFrames &job = {})
     {
-        m_viewer = new ImageViewer(m_totals, {});
+        m_viewer = new ImageViewer(m_totals, {.exrImportGamma = 2.2F});
         m_viewer->setJob(job);
         m_viewer->resize(900, 700);
         m_viewer->show();

@@ -13,14 +13,19 @@ constexpr int kUsageError = 2;
 struct OptionRow {
     const char *name;
     const char *value; ///< null for a switch
-    const char *help;
+    const char *help; ///< %1 stands for the default
+    double (*byDefault)(const FarmOptions &options) = nullptr;
 };
 
 constexpr OptionRow kRows[] = {
-    {"port", "port", "Listen on this port (9883); 0 takes any free one."},
-    {"jobs", "count", "Jobs of the night (12); 0 for a night without an end."},
-    {"rate", "events", "Events a second, on average (2)."},
-    {"seed", "number", "The same seed plays the same night (1)."},
+    {"port", "port", "Listen on this port (%1); 0 takes any free one.",
+     [](const FarmOptions &options) { return double(options.port); }},
+    {"jobs", "count", "Jobs of the night (%1); 0 for a night without an end.",
+     [](const FarmOptions &options) { return double(options.night.jobs); }},
+    {"rate", "events", "Events a second, on average (%1).",
+     [](const FarmOptions &options) { return options.night.eventsPerSecond; }},
+    {"seed", "number", "The same seed plays the same night (%1).",
+     [](const FarmOptions &options) { return double(options.night.seed); }},
     {"burst", "events", "Send so many events as fast as the client takes them, in place of a night."},
     {"compress", nullptr, "Compress the payloads."},
     {"fragment", "bytes", "Write so many bytes at a time."},
@@ -134,9 +139,11 @@ FarmCommandLine parseFarmCommandLine(const QStringList &arguments)
                        "Its jobs render EXR files: where a chunk fails one frame "
                        "is missing, where it warns one is cut short. The frames\n"
                        "of the last jobs stay until the program ends."));
-    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption helpOption = parser.addHelpOption();
     for (const OptionRow &row : kRows) {
-        QCommandLineOption option(QLatin1String(row.name), QString::fromUtf8(row.help));
+        const QString help = QString::fromUtf8(row.help);
+        QCommandLineOption option(QLatin1String(row.name),
+                                  row.byDefault ? help.arg(row.byDefault({})) : help);
         if (row.value)
             option.setValueName(QLatin1String(row.value));
         parser.addOption(option);
@@ -144,7 +151,7 @@ FarmCommandLine parseFarmCommandLine(const QStringList &arguments)
 
     if (!parser.parse(arguments))
         return {std::nullopt, parser.errorText(), kUsageError};
-    if (parser.isSet(help))
+    if (parser.isSet(helpOption))
         return {std::nullopt, parser.helpText(), 0};
     if (!parser.positionalArguments().isEmpty()) {
         const QString first = parser.positionalArguments().constFirst();

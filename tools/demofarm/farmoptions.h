@@ -3,6 +3,7 @@
 #include "scenario.h"
 
 #include <net/protocol/packets.h>
+#include <notify/settings/linksettings.h>
 
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -13,7 +14,7 @@
 
 /// What the command line asks of the demo farm.
 struct FarmOptions {
-    quint16 port = 9883; ///< 0: any free one
+    quint16 port = kDispatcherPort; ///< 0: any free one
     ScenarioSettings night;
     int burst = 0; ///< events to send as fast as they are taken, in place of a night; 0: a night
     QList<CustomMessagePacket> customMessages; ///< for the templates of each client that logs in

@@ -70,7 +70,7 @@ QString apply(const ViewOptions &options, ImageViewer &viewer)
 
 int run(const ViewOptions &options)
 {
-    const Settings settings = loadSettings();
+    const Settings settings = loadImageViewerSettings();
     CacheTotals totals;
     totals.videoMemoryBudget = settings.imageViewerMaxGPUCache;
     totals.mainMemoryBudget = settings.imageViewerMaxRAMCache;

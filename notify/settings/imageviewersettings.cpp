@@ -1,0 +1,22 @@
+#include "settingsstore.h"
+
+namespace {
+
+constexpr SettingsRow kRows[] = {
+    {"imageViewer/imageViewerMaxGPUCache", &Settings::imageViewerMaxGPUCache},
+    {"imageViewer/imageViewerMaxRAMCache", &Settings::imageViewerMaxRAMCache},
+    {"imageViewer/imageViewerExrImportGamma", &Settings::imageViewerExrImportGamma},
+    {"imageViewer/imageViewerDefaultImportGamma", &Settings::imageViewerDefaultImportGamma},
+    {"imageViewer/imageViewerMode", &Settings::imageViewerMode},
+    {"imageViewer/imageViewer", &Settings::imageViewer},
+    {"imageViewer/launchImageViewer", &Settings::launchImageViewer},
+};
+
+} // namespace
+
+const SettingsRows kImageViewerRows = kRows;
+
+Settings loadImageViewerSettings()
+{
+    return loadRows({kImageViewerRows});
+}
