@@ -1,6 +1,7 @@
 #include "alertor.h"
 
 #include "menus.h"
+#include "messages.h"
 #include "notifylog.h"
 #include "preferences.h"
 #include "resultopener.h"
@@ -11,19 +12,13 @@
 #include <notify/events/notifyevent.h>
 #include <system/tdesktop.h>
 #include <ui/managedwindow.h>
-#include <ui/product.h>
-#include <ui/qskinnedmessagebox.h>
-#include <ui/tappstate.h>
 #include <viewer/imageviewer.h>
 
 #include <QtCore/QPointer>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QHeaderView>
-#include <QtWidgets/QMessageBox>
 
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 
@@ -32,18 +27,6 @@ namespace {
 constexpr auto kTick = std::chrono::milliseconds(400);
 constexpr quint32 kFlashTicks = 4;
 constexpr quint32 kConnectionTicks = 16;
-constexpr int kAcknowledgedColumnWidth = 30;
-// In the order of the columns; the last takes what is left.
-constexpr int kColumnWidths[EventsModel::ColumnCount] = {100, kAcknowledgedColumnWidth, 175, 260, 90, 170, 60,
-                                                         200};
-constexpr int kSingleFramePacket = 2; // packet type of the jobs that make one frame
-// A farm that finishes single frames by the hundred must not bury the desktop; the rest wait in the list.
-constexpr int kMaxAutomaticViewers = 20;
-
-bool hasText(const NotifyEvent *event, const QString &key)
-{
-    return !event->text(key).isEmpty();
-}
 
 bool sendThrough(void *owner, std::uint32_t command, const char *payload, std::size_t size,
                  std::uint32_t param)
@@ -59,7 +42,9 @@ Alertor::Alertor(QWidget *parent)
     , m_sendEntry{this, &sendThrough}
 {
     m_ui->setupUi(this);
-    buildList();
+    m_ui->treeWidget->setModel(&m_model);
+    m_ui->treeWidget->installEventFilter(this);
+    connect(m_ui->treeWidget, &QWidget::customContextMenuRequested, this, &Alertor::popupMenu);
     buildMenus();
     connectSession();
     connect(&m_tray, &QSystemTrayIcon::activated, this, &Alertor::iconActivated);
@@ -76,17 +61,6 @@ Alertor::~Alertor()
     m_session.disconnect(this);
     m_session.closeConnection();
     updateIcon(false);
-}
-
-void Alertor::buildList()
-{
-    EventsView *list = m_ui->treeWidget;
-    list->setModel(&m_model);
-    list->installEventFilter(this);
-    list->header()->setMinimumSectionSize(kAcknowledgedColumnWidth);
-    for (int column = 0; column < EventsModel::ColumnCount; ++column)
-        list->header()->resizeSection(column, kColumnWidths[column]);
-    connect(list, &QWidget::customContextMenuRequested, this, &Alertor::popupMenu);
 }
 
 void Alertor::buildMenus()
@@ -130,7 +104,7 @@ void Alertor::loadSettings()
 void Alertor::saveSettings()
 {
     if (!::saveSettings(m_settings))
-        showError(tr("The settings cannot be saved. They hold until the program ends."));
+        Messages::showError(this, tr("The settings cannot be saved. They hold until the program ends."));
 }
 
 void Alertor::checkLocalConnection()
@@ -190,11 +164,13 @@ void Alertor::processCommand(uint cmd, QByteArray *payload)
 {
     switch (cmd) {
     case CMD_NOTIFICATION:
-        processNotification(*payload);
+        if (const std::optional<NotificationPacket> packet = decodeNotification(*payload))
+            handleNewEvent(buildEvent(*packet, m_nextEventId++));
         break;
     case CMD_LOGIN_DENIED:
         m_session.refuse();
-        showRefusal();
+        if (!m_refusal) // one box serves any number of refusals
+            m_refusal = Messages::openRefusal(this);
         break;
     case CMD_CUSTOM_MESSAGE:
         processCustomMessage(*payload);
@@ -204,12 +180,6 @@ void Alertor::processCommand(uint cmd, QByteArray *payload)
     }
 }
 
-void Alertor::processNotification(const QByteArray &payload)
-{
-    if (const std::optional<NotificationPacket> packet = decodeNotification(payload))
-        handleNewEvent(buildEvent(*packet, m_nextEventId++));
-}
-
 void Alertor::processCustomMessage(const QByteArray &payload)
 {
     const std::optional<CustomMessagePacket> packet = decodeCustomMessage(payload);
@@ -217,22 +187,6 @@ void Alertor::processCustomMessage(const QByteArray &payload)
         std::fputs("Invalid content received for onkD2ACustomMessage\n", stderr);
     else if (m_customMessageHandler)
         m_customMessageHandler(packet->templateId, packet->message);
-}
-
-void Alertor::showRefusal()
-{
-    // Modal, yet without an event loop of its own: what is left of the drain goes on. One box serves any number of
-    // refusals.
-    if (m_refusal)
-        return;
-    m_refusal =
-        new QMessageBox(QMessageBox::Warning, product::kProductTitle,
-                        tr("Dispatcher denied Alertor connection. Please double check the login and password "
-                           "in the Alertor applet configuration dialog!"),
-                        QMessageBox::Ok, this);
-    m_refusal->setAttribute(Qt::WA_DeleteOnClose);
-    m_refusal->setWindowModality(Qt::ApplicationModal);
-    m_refusal->show();
 }
 
 void Alertor::handleNewEvent(std::unique_ptr<NotifyEvent> event)
@@ -248,37 +202,19 @@ void Alertor::handleNewEvent(std::unique_ptr<NotifyEvent> event)
     // The check boxes of the preferences do not count here: a path that is set is played.
     if (!m_silent && handling.sound)
         m_sounds.play(m_settings.*handling.sound);
-    if (handling.jobCompletion && m_settings.launchImageViewer && hasText(&kept, EventKey::kFramesMask)
-        && kept.text(EventKey::kPacketType).toInt() == kSingleFramePacket)
-        openNewResult(kept);
+    if (handling.singleFrame && m_settings.launchImageViewer)
+        openResult(kept);
     else if (m_settings.showBubble)
         m_tray.showNewEvent();
     refreshList();
 }
 
-void Alertor::openNewResult(const NotifyEvent &event)
+void Alertor::openResult(const NotifyEvent &event)
 {
-    if (m_settings.imageViewerMode == 1) {
+    if (m_settings.imageViewerMode == 1)
         ResultOpener::startExternalViewer(m_settings.imageViewer, event.text(EventKey::kFramesMask));
-    } else if (m_viewers.count() + m_newResults.size() < kMaxAutomaticViewers) {
-        // Later: a load takes its time, and what else has arrived is not to wait for it.
-        m_newResults += framesOf(event, m_events);
-        QTimer::singleShot(0, this, &Alertor::openNewResults);
-    }
-}
-
-void Alertor::openNewResults()
-{
-    // One after the other, also while a message box waits for an answer.
-    if (m_openingNewResults)
-        return;
-    m_openingNewResults = true;
-    while (!m_newResults.isEmpty()) {
-        const EventFrames frames = m_newResults.takeFirst();
-        if (ImageViewer *viewer = CreateImageViewer(this))
-            ViewerWindows::show(*viewer, frames, false);
-    }
-    m_openingNewResults = false;
+    else
+        m_viewers.openSoon(event, m_events);
 }
 
 void Alertor::refreshList()
@@ -319,68 +255,35 @@ void Alertor::actRemoveAll()
 
 QList<const NotifyEvent *> Alertor::selectedEvents() const
 {
-    QList<const NotifyEvent *> events;
-    for (const quint64 id : m_ui->treeWidget->selectedIds()) {
-        if (const NotifyEvent *event = m_events.find(id))
-            events += event;
-    }
-    return events;
+    return m_events.find(m_ui->treeWidget->selectedIds());
 }
 
 void Alertor::actOpenOutput()
 {
-    QStringList paths;
-    for (const NotifyEvent *event : selectedEvents())
-        paths += event->text(EventKey::kFramesPath);
-    paths.removeAll(QString());
-    for (const QString &path : paths) {
-        if (!ResultOpener::openFolder(path))
-            showError(tr("Cannot open output folder %1").arg(path));
-    }
+    ResultOpener::openOutputs(selectedEvents(), this);
 }
 
 void Alertor::actOpenFrame()
 {
+    // All of them first: a message box runs an event loop, in which events may go.
     QList<EventFrames> selected;
     for (const NotifyEvent *event : selectedEvents()) {
-        if (hasText(event, EventKey::kFramesMask))
+        if (event->has(EventKey::kFramesMask))
             selected += framesOf(*event, m_events);
     }
-    for (const EventFrames &frames : selected) {
-        if (ImageViewer *viewer = CreateImageViewer(this))
-            ViewerWindows::show(*viewer, frames, true);
-    }
+    for (const EventFrames &frames : selected)
+        m_viewers.open(frames, true);
 }
 
 void Alertor::actOpenFrameExternally()
 {
-    QStringList frames;
-    for (const NotifyEvent *event : selectedEvents()) {
-        const QString file = event->text(EventKey::kFramesFilePath);
-        frames += file.isEmpty() ? event->text(EventKey::kFramesMask) : file;
-    }
-    frames.removeAll(QString());
-    for (const QString &frame : frames) {
-        if (!ResultOpener::startExternalViewer(m_settings.imageViewer, frame))
-            showError(tr("Cannot launch image viewer to shown selected frame"));
-    }
-}
-
-void Alertor::showError(const QString &text)
-{
-    QMessageBox box(QMessageBox::Critical, product::kProductTitle, text, QMessageBox::Ok, this);
-    // Paths come from the farm: they are no markup.
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::Ok);
-    box.exec();
+    ResultOpener::openFramesExternally(selectedEvents(), m_settings.imageViewer, this);
 }
 
 void Alertor::onQuit()
 {
-    const auto answer = QMessageBox::question(this, product::kProductTitle,
-                                              tr("Are you sure you want to close the Alertor?"));
     // Not quit(): that asks every window to close, and this one never does.
-    if (answer == QMessageBox::Yes)
+    if (Messages::askToQuit(this))
         QCoreApplication::exit(0);
 }
 
@@ -392,17 +295,7 @@ void Alertor::actIsSilent()
 void Alertor::popupMenu(const QPoint &position)
 {
     Q_UNUSED(position);
-    const QList<const NotifyEvent *> selected = selectedEvents();
-    const auto any = [&selected](auto test) { return std::any_of(selected.begin(), selected.end(), test); };
-    const bool anyFrames =
-        any([](const NotifyEvent *event) { return hasText(event, EventKey::kFramesMask); });
-    m_listMenu->acknowledge->setEnabled(any([](const NotifyEvent *event) { return !event->acknowledged; }));
-    m_listMenu->openOutput->setEnabled(
-        any([](const NotifyEvent *event) { return hasText(event, EventKey::kFramesPath); }));
-    m_listMenu->openFrames->setEnabled(anyFrames);
-    m_listMenu->openFramesExternally->setEnabled(anyFrames);
-    m_listMenu->removeSelection->setEnabled(!selected.isEmpty());
-    m_listMenu->removeAll->setEnabled(m_events.size() > 0);
+    m_listMenu->follow(selectedEvents(), m_events.size() > 0);
     m_listMenu->popup(QCursor::pos());
 }
 
@@ -438,12 +331,7 @@ void Alertor::openImageViewer()
 
 ImageViewer *Alertor::CreateImageViewer(QWidget *parent)
 {
-    if (TAppState::instance().openGlUsable)
-        return m_viewers.create(parent);
-    QSkinnedMessageBox::critical(parent, product::kProductTitle,
-                                 tr("OpenGL not supported by your GPU! Image viewer cannot be used!"),
-                                 QMessageBox::Ok);
-    return nullptr;
+    return m_viewers.create(parent);
 }
 
 void Alertor::iconActivated(QSystemTrayIcon::ActivationReason reason)
@@ -456,9 +344,7 @@ void Alertor::iconActivated(QSystemTrayIcon::ActivationReason reason)
 
 void Alertor::updateTrayMenu()
 {
-    m_trayMenu->acknowledge->setEnabled(m_events.anyUnacknowledged());
-    m_trayMenu->restore->setEnabled(!isVisible() || isMinimized());
-    m_trayMenu->silent->setChecked(m_silent);
+    m_trayMenu->follow({m_events.anyUnacknowledged(), !isVisible() || isMinimized(), m_silent});
 }
 
 void Alertor::handleMessage(const QString &message)
@@ -473,18 +359,14 @@ void Alertor::handleMessage(const QString &message)
 
 void Alertor::configure()
 {
-    if (m_preferences) { // the tray menu is within reach while it is open
-        m_preferences->raise();
-        return;
-    }
-    const QPointer<preferences> dialog = new preferences(this);
-    m_preferences = dialog;
-    dialog->setValues(m_settings);
-    const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
-    const Settings edited = accepted ? dialog->values(m_settings) : m_settings;
-    delete dialog;
-    if (!accepted)
-        return;
+    if (auto *open = findChild<preferences *>()) // the tray menu is within reach while it is open
+        open->raise();
+    else if (const std::optional<Settings> edited = preferences::edit(m_settings, this))
+        applySettings(*edited);
+}
+
+void Alertor::applySettings(const Settings &edited)
+{
     const bool reconnect = edited.link() != m_settings.link();
     m_settings = edited;
     if (reconnect) {
@@ -498,14 +380,13 @@ void Alertor::configure()
 
 void Alertor::timerEvent()
 {
-    static quint32 tick = 0;
-    updateIcon(tick % kFlashTicks != 0);
-    if (tick % kConnectionTicks == 0) {
+    updateIcon(m_tick % kFlashTicks != 0);
+    if (m_tick % kConnectionTicks == 0) {
         standInForTray();
         if (m_session.autoReconnect())
             checkLocalConnection();
     }
-    ++tick;
+    ++m_tick;
 }
 
 void Alertor::standInForTray()

@@ -102,17 +102,13 @@ protected:
 
 private:
     void buildMenus();
-    void buildList();
     void connectSession();
-    void processNotification(const QByteArray &payload);
     void processCustomMessage(const QByteArray &payload);
-    void showRefusal();
-    void openNewResult(const NotifyEvent &event);
-    void openNewResults();
+    void applySettings(const Settings &edited);
+    void openResult(const NotifyEvent &event);
     void updateTrayMenu();
     void standInForTray();
     QList<const NotifyEvent *> selectedEvents() const;
-    void showError(const QString &text);
 
     std::unique_ptr<Ui::AlertorClass> m_ui;
     EventsList m_events;
@@ -124,17 +120,14 @@ private:
     TFramework::TSendEntry m_sendEntry;
     SoundPlayer m_sounds;
     Tray m_tray;
-    ViewerWindows m_viewers;
-    QList<EventFrames> m_newResults; // to be opened automatically
-    bool m_openingNewResults = false;
+    ViewerWindows m_viewers{*this};
     TrayMenu *m_trayMenu = nullptr;
     ListMenu *m_listMenu = nullptr;
     QPointer<QDialog> m_refusal;
-    QPointer<QDialog> m_preferences;
     QTimer m_timer;
+    quint32 m_tick = 0;
     PendingLevel m_pendingLevel = NothingPending;
     quint64 m_nextEventId = 1;
     bool m_silent = false;
     bool m_firstHideHint = true;
-    bool m_askingToQuit = false;
 };

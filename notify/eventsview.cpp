@@ -1,9 +1,20 @@
 #include "eventsview.h"
 
+#include "eventsmodel.h"
+
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 
 #include <algorithm>
+
+namespace {
+
+constexpr int kAcknowledgedColumnWidth = 30;
+// In the order of the columns; the last takes what is left.
+constexpr int kColumnWidths[EventsModel::ColumnCount] = {100, kAcknowledgedColumnWidth, 175, 260, 90, 170, 60,
+                                                         200};
+
+} // namespace
 
 EventsView::EventsView(QWidget *parent)
     : QTreeView(parent)
@@ -24,6 +35,9 @@ void EventsView::setModel(QAbstractItemModel *model)
     connect(model, &QAbstractItemModel::modelAboutToBeReset, this, &EventsView::saveState);
     QTreeView::setModel(model);
     connect(model, &QAbstractItemModel::modelReset, this, &EventsView::restoreState);
+    header()->setMinimumSectionSize(kAcknowledgedColumnWidth);
+    for (int column = 0; column < model->columnCount(); ++column)
+        header()->resizeSection(column, kColumnWidths[column]);
 }
 
 quint64 EventsView::idAt(const QModelIndex &index) const

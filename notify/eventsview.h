@@ -4,7 +4,7 @@
 #include <QtWidgets/QTreeView>
 
 /// The list of events. Selection, current row and scroll position survive a rebuild of the model by the events' ids,
-/// and a list that is scrolled to its end stays there while events come in.
+/// and a list that is scrolled to its end stays there while events come in. Its model has the columns of EventsModel.
 class EventsView final : public QTreeView {
     Q_OBJECT
 

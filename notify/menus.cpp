@@ -1,5 +1,9 @@
 #include "menus.h"
 
+#include <notify/events/notifyevent.h>
+
+#include <algorithm>
+
 TrayMenu::TrayMenu(QWidget *parent)
     : QMenu(parent)
     , restore(new QAction(tr("&Restore"), this))
@@ -23,6 +27,13 @@ TrayMenu::TrayMenu(QWidget *parent)
     addActions({configure, quit});
 }
 
+void TrayMenu::follow(const State &state)
+{
+    acknowledge->setEnabled(state.anyPending);
+    restore->setEnabled(state.canRestore);
+    silent->setChecked(state.isSilent);
+}
+
 ListMenu::ListMenu(QWidget *parent)
     : QMenu(parent)
     , acknowledge(new QAction(tr("&Acknowledge selection"), this))
@@ -40,4 +51,16 @@ ListMenu::ListMenu(QWidget *parent)
     addActions({openFrames, openFramesExternally});
     addSeparator();
     addActions({removeSelection, removeAll});
+}
+
+void ListMenu::follow(const QList<const NotifyEvent *> &selected, bool anyEvents)
+{
+    const auto any = [&selected](auto test) { return std::any_of(selected.begin(), selected.end(), test); };
+    const bool anyFrames = any([](const NotifyEvent *event) { return event->has(EventKey::kFramesMask); });
+    acknowledge->setEnabled(any([](const NotifyEvent *event) { return !event->acknowledged; }));
+    openOutput->setEnabled(any([](const NotifyEvent *event) { return event->has(EventKey::kFramesPath); }));
+    openFrames->setEnabled(anyFrames);
+    openFramesExternally->setEnabled(anyFrames);
+    removeSelection->setEnabled(!selected.isEmpty());
+    removeAll->setEnabled(anyEvents);
 }

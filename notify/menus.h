@@ -1,13 +1,24 @@
 #pragma once
 
+#include <QtCore/QList>
 #include <QtWidgets/QMenu>
 
-/// Menu of the tray icon. Its owner connects the actions and keeps their states up to date.
+class NotifyEvent;
+
+/// Menu of the tray icon. Its owner connects the actions and calls follow() before the menu shows.
 class TrayMenu final : public QMenu {
     Q_OBJECT
 
 public:
+    struct State {
+        bool anyPending = false;
+        bool canRestore = false;
+        bool isSilent = false;
+    };
+
     explicit TrayMenu(QWidget *parent);
+
+    void follow(const State &state);
 
     QAction *const restore;
     QAction *const acknowledge;
@@ -17,12 +28,15 @@ public:
     QAction *const quit;
 };
 
-/// Context menu of the events list.
+/// Context menu of the events list. Its owner connects the actions and calls follow() before the menu shows.
 class ListMenu final : public QMenu {
     Q_OBJECT
 
 public:
     explicit ListMenu(QWidget *parent);
+
+    /// Enables what can be done with the selected events, of a list that holds any events or none.
+    void follow(const QList<const NotifyEvent *> &selected, bool anyEvents);
 
     QAction *const acknowledge;
     QAction *const openOutput;

@@ -131,6 +131,18 @@ preferences::preferences(QWidget *parent)
 
 preferences::~preferences() = default;
 
+std::optional<Settings> preferences::edit(const Settings &current, QWidget *parent)
+{
+    // The parent may end while the dialog is open.
+    const QPointer<preferences> dialog = new preferences(parent);
+    dialog->setValues(current);
+    std::optional<Settings> edited;
+    if (dialog->exec() == QDialog::Accepted && dialog)
+        edited = dialog->values(current);
+    delete dialog;
+    return edited;
+}
+
 Settings preferences::values(const Settings &current) const
 {
     Settings settings = current;

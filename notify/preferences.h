@@ -3,6 +3,7 @@
 #include <QtWidgets/QDialog>
 
 #include <memory>
+#include <optional>
 
 struct Settings;
 class QLineEdit;
@@ -19,6 +20,9 @@ class preferences final : public QDialog {
 public:
     explicit preferences(QWidget *parent = nullptr);
     ~preferences() override;
+
+    /// Shows the dialog on the settings and waits for the user; null unless the user accepts.
+    static std::optional<Settings> edit(const Settings &current, QWidget *parent);
 
     /// `current` with all that the fields hold put over it.
     Settings values(const Settings &current) const;

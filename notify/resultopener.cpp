@@ -1,7 +1,11 @@
 #include "resultopener.h"
 
+#include "messages.h"
+
+#include <notify/events/notifyevent.h>
 #include <system/tdesktop.h>
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
 #include <QtCore/QProcess>
 #include <QtCore/QUrl>
@@ -24,11 +28,49 @@ bool openByDefault(const QString &path)
     return QFileInfo(path).isDir() && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
-} // namespace
-
-bool ResultOpener::openFolder(const QString &path)
+/// The folder, or where the path is no folder that can be opened the one that contains it.
+bool openFolder(const QString &path)
 {
     return openByDefault(path) || openByDefault(QFileInfo(path).absolutePath());
+}
+
+/// The paths alone: an error's message box runs an event loop, in which events may go.
+QStringList pathsOf(const QList<const NotifyEvent *> &events, QString (*pathOf)(const NotifyEvent &event))
+{
+    QStringList paths;
+    for (const NotifyEvent *event : events)
+        paths += pathOf(*event);
+    paths.removeAll(QString());
+    return paths;
+}
+
+} // namespace
+
+void ResultOpener::openOutputs(const QList<const NotifyEvent *> &events, QWidget *parent)
+{
+    const QStringList folders =
+        pathsOf(events, [](const NotifyEvent &event) { return event.text(EventKey::kFramesPath); });
+    for (const QString &folder : folders) {
+        if (!openFolder(folder))
+            Messages::showError(
+                parent,
+                QCoreApplication::translate("ResultOpener", "Cannot open output folder %1").arg(folder));
+    }
+}
+
+void ResultOpener::openFramesExternally(const QList<const NotifyEvent *> &events, const QString &application,
+                                        QWidget *parent)
+{
+    const QStringList files = pathsOf(events, [](const NotifyEvent &event) {
+        return event.text(event.has(EventKey::kFramesFilePath) ? EventKey::kFramesFilePath
+                                                               : EventKey::kFramesMask);
+    });
+    for (const QString &file : files) {
+        if (!startExternalViewer(application, file))
+            Messages::showError(parent,
+                                QCoreApplication::translate(
+                                    "ResultOpener", "Cannot launch image viewer to shown selected frame"));
+    }
 }
 
 bool ResultOpener::startExternalViewer(const QString &application, const QString &frames)

@@ -3,10 +3,22 @@
 #include <notify/events/eventslist.h>
 #include <notify/events/notifyevent.h>
 #include <notify/settings/settings.h>
+#include <ui/product.h>
+#include <ui/qskinnedmessagebox.h>
+#include <ui/tappstate.h>
 #include <viewer/frames/framesequence.h>
 #include <viewer/imageviewer.h>
 
+#include <QtCore/QTimer>
+
 #include <algorithm>
+
+namespace {
+
+// A farm that finishes single frames by the hundred must not bury the desktop; the rest wait in the list.
+constexpr qsizetype kMaxAutomaticViewers = 20;
+
+} // namespace
 
 EventFrames framesOf(const NotifyEvent &event, const EventsList &events)
 {
@@ -25,39 +37,71 @@ EventFrames framesOf(const NotifyEvent &event, const EventsList &events)
     return frames;
 }
 
+ViewerWindows::ViewerWindows(QWidget &owner)
+    : m_owner(owner)
+{ }
+
 ViewerWindows::~ViewerWindows()
 {
     for (const QPointer<ImageViewer> &viewer : std::as_const(m_viewers))
         delete viewer;
 }
 
-int ViewerWindows::count() const
+qsizetype ViewerWindows::openCount() const
 {
-    return int(std::count_if(m_viewers.begin(), m_viewers.end(),
-                             [](const QPointer<ImageViewer> &viewer) { return !viewer.isNull(); }));
+    return std::count_if(m_viewers.begin(), m_viewers.end(),
+                         [](const QPointer<ImageViewer> &viewer) { return !viewer.isNull(); });
 }
 
 void ViewerWindows::setSettings(const Settings &settings)
 {
     m_totals.videoMemoryBudget = settings.imageViewerMaxGPUCache;
     m_totals.mainMemoryBudget = settings.imageViewerMaxRAMCache;
-    m_exrImportGamma = settings.imageViewerExrImportGamma;
-    m_defaultImportGamma = settings.imageViewerDefaultImportGamma;
+    m_settings = {settings.imageViewerExrImportGamma, settings.imageViewerDefaultImportGamma};
 }
 
 ImageViewer *ViewerWindows::create(QWidget *parent)
 {
+    if (!TAppState::instance().openGlUsable) {
+        QSkinnedMessageBox::critical(parent, product::kProductTitle,
+                                     tr("OpenGL not supported by your GPU! Image viewer cannot be used!"),
+                                     QMessageBox::Ok);
+        return nullptr;
+    }
     m_viewers.removeAll(QPointer<ImageViewer>());
-    auto *viewer = new ImageViewer(m_totals, {m_exrImportGamma, m_defaultImportGamma}, parent);
+    auto *viewer = new ImageViewer(m_totals, m_settings, parent);
     m_viewers.append(viewer);
     return viewer;
 }
 
-void ViewerWindows::show(ImageViewer &viewer, const EventFrames &frames, bool maskIsSequence)
+void ViewerWindows::open(const EventFrames &frames, bool maskIsSequence)
 {
-    viewer.setJob(frames.job);
-    viewer.show();
-    viewer.raise();
-    viewer.setFramesPath(
+    ImageViewer *viewer = create(&m_owner);
+    if (!viewer)
+        return;
+    viewer->setJob(frames.job);
+    viewer->show();
+    viewer->raise();
+    viewer->setFramesPath(
         {.path = frames.mask.toStdString(), .force = true, .maskIsSequence = maskIsSequence});
+}
+
+void ViewerWindows::openSoon(const NotifyEvent &event, const EventsList &events)
+{
+    if (openCount() + m_waiting.size() >= kMaxAutomaticViewers)
+        return;
+    // A load takes its time, and what else has arrived is not to wait for it.
+    m_waiting += framesOf(event, events);
+    QTimer::singleShot(0, this, &ViewerWindows::openWaiting);
+}
+
+void ViewerWindows::openWaiting()
+{
+    // One after the other, also while a message box waits for an answer.
+    if (m_opening)
+        return;
+    m_opening = true;
+    while (!m_waiting.isEmpty())
+        open(m_waiting.takeFirst(), false);
+    m_opening = false;
 }

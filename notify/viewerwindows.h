@@ -2,8 +2,10 @@
 
 #include <viewer/frames/cachetotals.h>
 #include <viewer/session/jobframes.h>
+#include <viewer/viewersettings.h>
 
 #include <QtCore/QList>
+#include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QString>
 
@@ -23,24 +25,33 @@ struct EventFrames {
 EventFrames framesOf(const NotifyEvent &event, const EventsList &events);
 
 /// The viewer windows of the program and the frame budgets that they share. Closes them when it ends.
-class ViewerWindows final {
-public:
-    ViewerWindows() = default;
-    ~ViewerWindows();
-    Q_DISABLE_COPY_MOVE(ViewerWindows)
+/// Where OpenGL cannot be used no viewer comes up, and a message says so.
+class ViewerWindows final : public QObject {
+    Q_OBJECT
 
-    int count() const;
+public:
+    /// `owner` becomes the parent of the viewers that are opened on frames, and outlives this.
+    explicit ViewerWindows(QWidget &owner);
+    ~ViewerWindows() override;
 
     /// The budgets hold at once, the rest for windows to come.
     void setSettings(const Settings &settings);
-    /// A new viewer window, not shown yet; it deletes itself when closed. OpenGL must be usable.
+    /// A new viewer window, not shown yet, which deletes itself when closed; null without OpenGL.
     ImageViewer *create(QWidget *parent);
-    /// Brings the window up with the frames; `maskIsSequence` as in FramesRequest.
-    static void show(ImageViewer &viewer, const EventFrames &frames, bool maskIsSequence);
+    /// Opens a viewer on the frames; `maskIsSequence` as in FramesRequest.
+    void open(const EventFrames &frames, bool maskIsSequence);
+    /// Opens a viewer on the result of an event that has just come in, when control returns to the event loop. Leaves it
+    /// out while as many viewers are open or waiting as may open by themselves.
+    void openSoon(const NotifyEvent &event, const EventsList &events);
 
 private:
+    qsizetype openCount() const;
+    void openWaiting();
+
+    QWidget &m_owner;
     CacheTotals m_totals;
-    float m_exrImportGamma = 1.0F;
-    float m_defaultImportGamma = 1.0F;
+    ViewerSettings m_settings;
     QList<QPointer<ImageViewer>> m_viewers;
+    QList<EventFrames> m_waiting;
+    bool m_opening = false;
 };

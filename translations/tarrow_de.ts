@@ -7,26 +7,6 @@
         <source>The settings cannot be saved. They hold until the program ends.</source>
         <translation>Die Einstellungen können nicht gespeichert werden. Sie gelten, bis das Programm endet.</translation>
     </message>
-    <message>
-        <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
-        <translation>Der Dispatcher hat die Verbindung abgelehnt. Bitte prüfen Sie Anmeldename und Passwort in den Alertor-Einstellungen!</translation>
-    </message>
-    <message>
-        <source>Cannot open output folder %1</source>
-        <translation>Der Ausgabeordner %1 lässt sich nicht öffnen</translation>
-    </message>
-    <message>
-        <source>Cannot launch image viewer to shown selected frame</source>
-        <translation>Das Programm zum Anzeigen der gewählten Frames lässt sich nicht starten</translation>
-    </message>
-    <message>
-        <source>Are you sure you want to close the Alertor?</source>
-        <translation>Möchten Sie den Alertor wirklich beenden?</translation>
-    </message>
-    <message>
-        <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
-        <translation>Ihre Grafikkarte unterstützt OpenGL nicht! Der Bildbetrachter kann nicht verwendet werden!</translation>
-    </message>
 </context>
 <context>
     <name>AlertorClass</name>
@@ -692,6 +672,17 @@
     </message>
 </context>
 <context>
+    <name>Messages</name>
+    <message>
+        <source>Are you sure you want to close the Alertor?</source>
+        <translation>Möchten Sie den Alertor wirklich beenden?</translation>
+    </message>
+    <message>
+        <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
+        <translation>Der Dispatcher hat die Verbindung abgelehnt. Bitte prüfen Sie Anmeldename und Passwort in den Alertor-Einstellungen!</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -751,6 +742,17 @@
     <message>
         <source>Question</source>
         <translation>Frage</translation>
+    </message>
+</context>
+<context>
+    <name>ResultOpener</name>
+    <message>
+        <source>Cannot open output folder %1</source>
+        <translation>Der Ausgabeordner %1 lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>Cannot launch image viewer to shown selected frame</source>
+        <translation>Das Programm zum Anzeigen der gewählten Frames lässt sich nicht starten</translation>
     </message>
 </context>
 <context>
@@ -848,6 +850,13 @@ Ein Rechtsklick auf dieses Symbol öffnet das Kontextmenü, ein Doppelklick holt
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerWindows</name>
+    <message>
+        <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
+        <translation>Ihre Grafikkarte unterstützt OpenGL nicht! Der Bildbetrachter kann nicht verwendet werden!</translation>
     </message>
 </context>
 <context>

@@ -7,26 +7,6 @@
         <source>The settings cannot be saved. They hold until the program ends.</source>
         <translation>No se pueden guardar las preferencias. Valdrán hasta que termine el programa.</translation>
     </message>
-    <message>
-        <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
-        <translation>El Dispatcher ha rechazado la conexión del Alertor. Compruebe el usuario y la contraseña en las preferencias del Alertor.</translation>
-    </message>
-    <message>
-        <source>Cannot open output folder %1</source>
-        <translation>No se puede abrir la carpeta de salida %1</translation>
-    </message>
-    <message>
-        <source>Cannot launch image viewer to shown selected frame</source>
-        <translation>No se puede iniciar el visor para mostrar el fotograma seleccionado</translation>
-    </message>
-    <message>
-        <source>Are you sure you want to close the Alertor?</source>
-        <translation>¿Seguro que desea cerrar el Alertor?</translation>
-    </message>
-    <message>
-        <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
-        <translation>¡Su GPU no admite OpenGL! El visor de imágenes no se puede usar.</translation>
-    </message>
 </context>
 <context>
     <name>AlertorClass</name>
@@ -692,6 +672,17 @@
     </message>
 </context>
 <context>
+    <name>Messages</name>
+    <message>
+        <source>Are you sure you want to close the Alertor?</source>
+        <translation>¿Seguro que desea cerrar el Alertor?</translation>
+    </message>
+    <message>
+        <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
+        <translation>El Dispatcher ha rechazado la conexión del Alertor. Compruebe el usuario y la contraseña en las preferencias del Alertor.</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -751,6 +742,17 @@
     <message>
         <source>Question</source>
         <translation>Pregunta</translation>
+    </message>
+</context>
+<context>
+    <name>ResultOpener</name>
+    <message>
+        <source>Cannot open output folder %1</source>
+        <translation>No se puede abrir la carpeta de salida %1</translation>
+    </message>
+    <message>
+        <source>Cannot launch image viewer to shown selected frame</source>
+        <translation>No se puede iniciar el visor para mostrar el fotograma seleccionado</translation>
     </message>
 </context>
 <context>
@@ -848,6 +850,13 @@ Haga clic derecho en este icono para abrir el menú o doble clic para mostrar la
     <message>
         <source>&amp;Quit</source>
         <translation>Sa&amp;lir</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerWindows</name>
+    <message>
+        <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
+        <translation>¡Su GPU no admite OpenGL! El visor de imágenes no se puede usar.</translation>
     </message>
 </context>
 <context>

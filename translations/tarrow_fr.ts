@@ -7,26 +7,6 @@
         <source>The settings cannot be saved. They hold until the program ends.</source>
         <translation>Les préférences ne peuvent pas être enregistrées. Elles restent valables jusqu&apos;à la fin du programme.</translation>
     </message>
-    <message>
-        <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
-        <translation>Le Dispatcher a refusé la connexion de l&apos;Alertor. Vérifiez l&apos;identifiant et le mot de passe dans les préférences de l&apos;Alertor&#xa0;!</translation>
-    </message>
-    <message>
-        <source>Cannot open output folder %1</source>
-        <translation>Impossible d&apos;ouvrir le dossier de sortie %1</translation>
-    </message>
-    <message>
-        <source>Cannot launch image viewer to shown selected frame</source>
-        <translation>Impossible de lancer la visionneuse pour afficher l&apos;image sélectionnée</translation>
-    </message>
-    <message>
-        <source>Are you sure you want to close the Alertor?</source>
-        <translation>Voulez-vous vraiment fermer l&apos;Alertor&#xa0;?</translation>
-    </message>
-    <message>
-        <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
-        <translation>Votre carte graphique ne prend pas en charge OpenGL&#xa0;! La visionneuse d&apos;images ne peut pas être utilisée&#xa0;!</translation>
-    </message>
 </context>
 <context>
     <name>AlertorClass</name>
@@ -692,6 +672,17 @@
     </message>
 </context>
 <context>
+    <name>Messages</name>
+    <message>
+        <source>Are you sure you want to close the Alertor?</source>
+        <translation>Voulez-vous vraiment fermer l&apos;Alertor&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
+        <translation>Le Dispatcher a refusé la connexion de l&apos;Alertor. Vérifiez l&apos;identifiant et le mot de passe dans les préférences de l&apos;Alertor&#xa0;!</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -751,6 +742,17 @@
     <message>
         <source>Question</source>
         <translation>Question</translation>
+    </message>
+</context>
+<context>
+    <name>ResultOpener</name>
+    <message>
+        <source>Cannot open output folder %1</source>
+        <translation>Impossible d&apos;ouvrir le dossier de sortie %1</translation>
+    </message>
+    <message>
+        <source>Cannot launch image viewer to shown selected frame</source>
+        <translation>Impossible de lancer la visionneuse pour afficher l&apos;image sélectionnée</translation>
     </message>
 </context>
 <context>
@@ -848,6 +850,13 @@ Cliquez avec le bouton droit sur cette icône pour le menu contextuel ou double-
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerWindows</name>
+    <message>
+        <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
+        <translation>Votre carte graphique ne prend pas en charge OpenGL&#xa0;! La visionneuse d&apos;images ne peut pas être utilisée&#xa0;!</translation>
     </message>
 </context>
 <context>

@@ -7,26 +7,6 @@
         <source>The settings cannot be saved. They hold until the program ends.</source>
         <translation>Impossibile salvare le impostazioni. Restano valide fino alla chiusura del programma.</translation>
     </message>
-    <message>
-        <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
-        <translation>Il Dispatcher ha rifiutato la connessione dell&apos;Alertor. Controllare nome utente e password nelle preferenze dell&apos;Alertor.</translation>
-    </message>
-    <message>
-        <source>Cannot open output folder %1</source>
-        <translation>Impossibile aprire la cartella di output %1</translation>
-    </message>
-    <message>
-        <source>Cannot launch image viewer to shown selected frame</source>
-        <translation>Impossibile avviare il visualizzatore per mostrare il fotogramma selezionato</translation>
-    </message>
-    <message>
-        <source>Are you sure you want to close the Alertor?</source>
-        <translation>Chiudere davvero l&apos;Alertor?</translation>
-    </message>
-    <message>
-        <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
-        <translation>La GPU non supporta OpenGL! Il visualizzatore di immagini non può essere usato!</translation>
-    </message>
 </context>
 <context>
     <name>AlertorClass</name>
@@ -692,6 +672,17 @@
     </message>
 </context>
 <context>
+    <name>Messages</name>
+    <message>
+        <source>Are you sure you want to close the Alertor?</source>
+        <translation>Chiudere davvero l&apos;Alertor?</translation>
+    </message>
+    <message>
+        <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
+        <translation>Il Dispatcher ha rifiutato la connessione dell&apos;Alertor. Controllare nome utente e password nelle preferenze dell&apos;Alertor.</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -751,6 +742,17 @@
     <message>
         <source>Question</source>
         <translation>Domanda</translation>
+    </message>
+</context>
+<context>
+    <name>ResultOpener</name>
+    <message>
+        <source>Cannot open output folder %1</source>
+        <translation>Impossibile aprire la cartella di output %1</translation>
+    </message>
+    <message>
+        <source>Cannot launch image viewer to shown selected frame</source>
+        <translation>Impossibile avviare il visualizzatore per mostrare il fotogramma selezionato</translation>
     </message>
 </context>
 <context>
@@ -848,6 +850,13 @@ Fare clic destro su questa icona per il menu contestuale o doppio clic per mostr
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Esci</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerWindows</name>
+    <message>
+        <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
+        <translation>La GPU non supporta OpenGL! Il visualizzatore di immagini non può essere usato!</translation>
     </message>
 </context>
 <context>

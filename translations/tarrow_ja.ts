@@ -7,26 +7,6 @@
         <source>The settings cannot be saved. They hold until the program ends.</source>
         <translation>設定を保存できません。プログラムが終了するまで有効です。</translation>
     </message>
-    <message>
-        <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
-        <translation>Dispatcher が Alertor の接続を拒否しました。Alertor の環境設定でログイン名とパスワードを確認してください。</translation>
-    </message>
-    <message>
-        <source>Cannot open output folder %1</source>
-        <translation>出力フォルダー %1 を開けません</translation>
-    </message>
-    <message>
-        <source>Cannot launch image viewer to shown selected frame</source>
-        <translation>選択したフレームを表示するビューアを起動できません</translation>
-    </message>
-    <message>
-        <source>Are you sure you want to close the Alertor?</source>
-        <translation>Alertor を終了しますか?</translation>
-    </message>
-    <message>
-        <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
-        <translation>お使いの GPU は OpenGL に対応していません。イメージビューアは使用できません。</translation>
-    </message>
 </context>
 <context>
     <name>AlertorClass</name>
@@ -692,6 +672,17 @@
     </message>
 </context>
 <context>
+    <name>Messages</name>
+    <message>
+        <source>Are you sure you want to close the Alertor?</source>
+        <translation>Alertor を終了しますか?</translation>
+    </message>
+    <message>
+        <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
+        <translation>Dispatcher が Alertor の接続を拒否しました。Alertor の環境設定でログイン名とパスワードを確認してください。</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -751,6 +742,17 @@
     <message>
         <source>Question</source>
         <translation>確認</translation>
+    </message>
+</context>
+<context>
+    <name>ResultOpener</name>
+    <message>
+        <source>Cannot open output folder %1</source>
+        <translation>出力フォルダー %1 を開けません</translation>
+    </message>
+    <message>
+        <source>Cannot launch image viewer to shown selected frame</source>
+        <translation>選択したフレームを表示するビューアを起動できません</translation>
     </message>
 </context>
 <context>
@@ -848,6 +850,13 @@ Right-click on this icon to access the context menu or double click to raise the
     <message>
         <source>&amp;Quit</source>
         <translation>終了(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>ViewerWindows</name>
+    <message>
+        <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
+        <translation>お使いの GPU は OpenGL に対応していません。イメージビューアは使用できません。</translation>
     </message>
 </context>
 <context>

@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr int kSingleFramePacket = 2; // packet type of the jobs that make one frame
+
 enum class Outcome { None, Success, Warnings, Errors };
 
 Outcome outcomeOf(int status, int success, int warnings, int errors)
@@ -94,7 +96,8 @@ EventHandling handlingOf(const NotifyEvent &event)
                                                     {&Settings::filterJobCompletedWithSuccess,
                                                      &Settings::filterJobCompletedWithWarnings,
                                                      &Settings::filterJobCompletedWithErrors});
-        handling.jobCompletion = outcome != Outcome::None;
+        handling.singleFrame = outcome != Outcome::None && event.has(EventKey::kFramesMask)
+            && event.text(EventKey::kPacketType).toInt() == kSingleFramePacket;
         return handling;
     }
     case EventType::JobStarted:

@@ -10,7 +10,7 @@ class NotifyEvent;
 struct EventHandling {
     bool Settings::*filter = nullptr; ///< the event is dropped while this is off; null: always kept
     QString Settings::*sound = nullptr; ///< null: no sound
-    bool jobCompletion = false; ///< a job that completed with success, warnings or errors
+    bool singleFrame = false; ///< a job that makes one frame completed, and says where the frame is
 };
 
 /// What the list shows of an event's kind; both empty for a kind without a name.

@@ -23,6 +23,16 @@ const NotifyEvent *EventsList::find(quint64 eventId) const
     return row < size() && at(row).eventId == eventId ? &at(row) : nullptr;
 }
 
+QList<const NotifyEvent *> EventsList::find(const QList<quint64> &eventIds) const
+{
+    QList<const NotifyEvent *> events;
+    for (const quint64 id : eventIds) {
+        if (const NotifyEvent *event = find(id))
+            events += event;
+    }
+    return events;
+}
+
 PendingLevel EventsList::pendingLevel() const
 {
     for (const PendingLevel level : {ErrorPending, WarningPending, SuccessPending, OtherPending}) {

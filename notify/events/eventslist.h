@@ -24,6 +24,8 @@ public:
     const NotifyEvent &at(int row) const { return *m_events[std::size_t(row)]; }
     /// Null when no event has the id.
     const NotifyEvent *find(quint64 eventId) const;
+    /// Those of the events that the list holds, in the order of the ids.
+    QList<const NotifyEvent *> find(const QList<quint64> &eventIds) const;
     /// First row whose event has this id or a later one; size() when there is none.
     int rowFrom(quint64 eventId) const;
     /// The highest severity among the events that are not acknowledged.

@@ -17,6 +17,7 @@ class NotifyEvent final : public QObject {
 public:
     /// Empty when the event has no such value.
     QString text(const QString &key) const { return properties.value(key); }
+    bool has(const QString &key) const { return !text(key).isEmpty(); }
     void setText(const QString &key, const QString &value) { properties.insert(key, value); }
 
     qint64 eventType = 0; ///< an EventType of the link

@@ -127,7 +127,6 @@ private Q_SLOTS:
         const EventHandling handling = handlingOf(*event);
         QTEST(handling.filter, "filter");
         QTEST(handling.sound, "sound");
-        QCOMPARE(handling.jobCompletion, type == 1 && !text.isEmpty());
         QCOMPARE(lookOf(*event).typeText.toLatin1(), text);
         QCOMPARE(lookOf(*event).iconPath.isEmpty(), text.isEmpty());
         QTEST(int(pendingLevelOf(*event)), "level");

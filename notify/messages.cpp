@@ -1,0 +1,35 @@
+#include "messages.h"
+
+#include <ui/product.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtWidgets/QMessageBox>
+
+void Messages::showError(QWidget *parent, const QString &text)
+{
+    QMessageBox box(QMessageBox::Critical, product::kProductTitle, text, QMessageBox::Ok, parent);
+    // Paths come from the farm: they are no markup.
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Ok);
+    box.exec();
+}
+
+bool Messages::askToQuit(QWidget *parent)
+{
+    const QString question =
+        QCoreApplication::translate("Messages", "Are you sure you want to close the Alertor?");
+    return QMessageBox::question(parent, product::kProductTitle, question) == QMessageBox::Yes;
+}
+
+QDialog *Messages::openRefusal(QWidget *parent)
+{
+    const QString text = QCoreApplication::translate(
+        "Messages",
+        "Dispatcher denied Alertor connection. Please double check the login and password in the Alertor "
+        "applet configuration dialog!");
+    auto *box = new QMessageBox(QMessageBox::Warning, product::kProductTitle, text, QMessageBox::Ok, parent);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::ApplicationModal);
+    box->show();
+    return box;
+}

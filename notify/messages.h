@@ -1,0 +1,20 @@
+#pragma once
+
+class QDialog;
+class QString;
+class QWidget;
+
+/// The main window's message boxes.
+namespace Messages {
+
+/// Shows an error, as plain text, and waits for the user.
+void showError(QWidget *parent, const QString &text);
+
+/// Asks whether to end the program, and waits for the answer.
+bool askToQuit(QWidget *parent);
+
+/// Shows that the Dispatcher refused the log-in. Modal, yet without an event loop of its own: the messages behind the
+/// refusal are still processed. The box deletes itself when closed.
+QDialog *openRefusal(QWidget *parent);
+
+} // namespace Messages
