@@ -3,7 +3,6 @@
 
 #include "ratio.h"
 
-#include <framework/stringhelper.h>
 #include <net/protocol/packets.h>
 #include <notify/alertor.h>
 #include <notify/events/eventbuilder.h>
@@ -39,7 +38,7 @@ NotificationPacket packet()
     chunk.setStatus(4);
     chunk.setFrames(1001, 1010, 1);
     const auto encoded = [](const std::string &record) {
-        return QByteArray::fromStdString(TFramework::TStringHelper::ToBase64(record));
+        return QByteArray::fromStdString(record).toBase64();
     };
     NotificationPacket notification;
     notification.message = QStringLiteral("Chunk 12 of job Shot010_comp_v003 completed on node rack3-17");

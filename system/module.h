@@ -1,12 +1,12 @@
 #pragma once
 
-/// The modules that the program brings along: parts of it that are loaded when they are first needed.
+/// Loads the modules that the program brings along, parts of it that a start does not need.
 namespace Module {
 
-/// Any function; the caller knows which.
+/// Stands for any function; the caller knows which.
 using Function = void (*)();
 
-/// Whether what is loaded later finds the functions of a module and of its libraries without naming them.
+/// Tells whether what is loaded later finds the functions of a module and of its libraries without naming them.
 enum class Symbols { Own, Shared };
 
 /// Finds a function of a module in the program's own folder, in "../lib" or in "../lib/tarrow-alertor" from there. The

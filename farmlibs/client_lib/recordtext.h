@@ -31,7 +31,7 @@ public:
     std::int64_t integer();
     std::int32_t integer32();
     std::uint32_t unsigned32();
-    /// A count of groups of `valuesEach` (at least 1) values, never more than the values left can fill.
+    /// Takes a count of groups of `valuesEach` (at least 1) values, never more than the values left can fill.
     std::size_t count(std::size_t valuesEach);
 
 private:

@@ -6,7 +6,7 @@
 
 namespace TClientLib {
 
-/// Record of a chunk, a range of frames of a job rendered in one go.
+/// Holds the record of a chunk, a range of frames of a job rendered in one go.
 class TChunk {
 public:
     std::int64_t getChunkId() const { return m_id; }
@@ -26,7 +26,7 @@ public:
     /// Reads the values of a record; false when the layout version is not known, the chunk then stays as it was.
     /// Missing values read as 0, surplus ones are ignored.
     bool Unmarshall(const std::vector<std::string> &values);
-    /// The record as a text of values, one per line.
+    /// Writes the record as a text of values, one per line.
     std::string Marshall() const;
 
 private:

@@ -17,8 +17,8 @@ public:
     virtual std::string Translate(const std::string &path) const = 0;
 };
 
-/// Record of a render job. Its marshalled form is a list of values: layout version, id, name, owner, status, packet
-/// type, tasks mask, frame ranges and attributes.
+/// Holds the record of a render job. Its marshalled form is a list of values: layout version, id, name, owner, status,
+/// packet type, tasks mask, frame ranges and attributes.
 class TJob {
 public:
     std::int64_t getJobId() const { return m_id; }
@@ -28,7 +28,7 @@ public:
     std::int32_t getPacketType() const { return m_packetType; }
     std::uint32_t getTasksMask() const { return m_tasksMask; }
     const std::vector<TFramesRange> &GetFrameRanges() const { return m_ranges; }
-    /// Empty when the job has no such attribute.
+    /// Gives an attribute, empty when the job has none of that name.
     std::string attributeGetString(std::string_view name) const;
 
     void setJobId(std::int64_t id) { m_id = id; }
@@ -44,7 +44,7 @@ public:
     /// Missing values read as 0 or empty, surplus ones are ignored. The translator may be null;
     /// otherwise the paths and masks among the attributes go through it.
     bool Unmarshall(const std::vector<std::string> &values, const TJobPathTranslator *translator);
-    /// The record as a text of values, one per line.
+    /// Writes the record as a text of values, one per line.
     std::string Marshall() const;
 
 private:

@@ -5,7 +5,7 @@
 
 namespace TFramework {
 
-/// What a program shares under its name so that templates can send over the program's link.
+/// Lets templates send over the link of a program, which shares it under its name.
 /// `send` copies the payload and returns false when there is no link or the message is refused.
 struct TSendEntry {
     void *owner = nullptr;

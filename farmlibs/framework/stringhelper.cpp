@@ -62,21 +62,6 @@ std::vector<std::string> TStringHelper::TokenizeString(std::string_view text, st
     return values;
 }
 
-std::string TStringHelper::ToBase64(std::string_view bytes)
-{
-    std::string text;
-    text.reserve((bytes.size() + 2) / 3 * 4);
-    for (std::size_t i = 0; i < bytes.size(); i += 3) {
-        const std::size_t size = std::min<std::size_t>(3, bytes.size() - i);
-        std::uint32_t group = 0;
-        for (std::size_t j = 0; j < 3; ++j)
-            group = group << 8 | (j < size ? static_cast<unsigned char>(bytes[i + j]) : 0U);
-        for (std::size_t j = 0; j < 4; ++j)
-            text += j <= size ? kAlphabet[group >> (18 - 6 * j) & 0x3F] : '=';
-    }
-    return text;
-}
-
 std::string TStringHelper::FromBase64(std::string_view text)
 {
     std::string bytes;

@@ -6,19 +6,16 @@
 
 namespace TFramework {
 
-/// Text helpers shared by the farm's libraries.
+/// Text functions that the farm's libraries share.
 class TStringHelper {
 public:
-    /// Every occurrence of `from` replaced by `to`, left to right; an empty `from` changes nothing.
+    /// Replaces every `from` by `to`, left to right; an empty `from` changes nothing.
     static std::string Replace(const std::string &text, const std::string &from, const std::string &to);
-    /// The values between separators, empty ones kept: n separators give n + 1 values. An empty
-    /// separator cuts nothing.
+    /// Cuts a text at its separators, keeping empty values: n separators give n + 1 values, an empty one cuts nothing.
     static std::vector<std::string> TokenizeString(std::string_view text, std::string_view separator);
-    /// RFC 4648 base64 with padding, on one line.
-    static std::string ToBase64(std::string_view bytes);
-    /// Characters outside the alphabet are passed over and missing padding is allowed; decoding ends at the first '='.
+    /// Decodes RFC 4648 base64 up to the first '='; passes characters outside the alphabet over and needs no padding.
     static std::string FromBase64(std::string_view text);
-    /// The masks of a list separated by ';', blanks round them trimmed and empty ones left out.
+    /// Cuts a list of masks at its ';', trims blanks round them and leaves empty ones out.
     static std::vector<std::string> DecodeFramesMask(const std::string &masks);
 };
 

@@ -15,13 +15,13 @@ void ShutdownLibrary();
 /// Shares an object under a name with the other libraries; null takes the name back. The object is not owned.
 void SetLibraryContext(const char *name, void *context);
 
-/// The object shared under the name, null when there is none.
+/// Gives the object shared under the name, null when there is none.
 void *GetLibraryContext(const char *name);
 
-/// Folder of the running program without a trailing separator; empty before InitializeLibrary().
+/// Gives the folder of the running program without a trailing separator; empty before InitializeLibrary().
 std::string GetModuleBasePath();
 
-/// Host name of this machine; empty when the system does not tell.
+/// Gives the host name of this machine; empty when the system does not tell.
 std::string GetHostName();
 
 } // namespace TFramework

@@ -7,28 +7,29 @@
 
 namespace TImageLibrary {
 
-/// A decoded image: the layers that were asked for. Made by IImageCore::Load() and Resize(), released by
+/// Holds a decoded image: the layers that were asked for. Made by IImageCore::Load() and Resize(), released by
 /// IImageCore::DestroyImage().
 class CTImage final {
 public:
     /// `layers` must not be empty; width and height in pixels.
     CTImage(std::int32_t width, std::int32_t height, bool premultiplied, std::vector<CTImageLayer> layers);
 
-    /// Pixels of the picture (an EXR's display window). A channel may be smaller: ask the channel for its own size.
+    /// Give the pixels of the picture (an EXR's display window). A channel may be smaller: ask the channel for its own
+    /// size.
     std::int32_t GetWidth() const { return m_width; }
     std::int32_t GetHeight() const { return m_height; }
 
-    /// Null when there is no layer of that name.
+    /// Finds a layer; null when there is none of that name.
     const CTImageLayer *GetLayer(const char *name) const;
-    /// The colour's first layer ("", "R" or "Y"), else the first one that the file lists.
+    /// Gives the colour's first layer ("", "R" or "Y"), else the first one that the file lists.
     const CTImageLayer *GetDefaultLayer() const;
-    /// In the file's order, never empty.
+    /// Lists the layers in the file's order, never empty.
     const std::vector<CTImageLayer> &GetLayers() const { return m_layers; }
 
-    /// True when the first row in memory is the picture's top row, false when it is the bottom row, which is GL's own
+    /// Tells whether the first row in memory is the picture's top row, not its bottom row, which is GL's
     /// order. This library's planes always begin at the top, so a display maps t = 0 to the upper edge.
     bool GetIsYFlipped() const { return true; }
-    /// True when the colour has been multiplied by its alpha.
+    /// Tells whether the colour has been multiplied by its alpha.
     bool GetIsPremultiplied() const { return m_premultiplied; }
 
     /// Makes a copy of the size given in pixels with a box filter, subsampled channels in proportion. False, with `out`

@@ -8,7 +8,7 @@
 
 namespace TImageLibrary {
 
-/// Size of a plane in pixels and what one pixel of it holds.
+/// Tells the size of a plane in pixels and what one pixel of it holds.
 struct TPlaneFormat {
     std::int32_t width = 0;
     std::int32_t height = 0;
@@ -21,7 +21,7 @@ struct TPlaneFormat {
     std::size_t byteSize() const { return rowBytes() * std::size_t(height); }
 };
 
-/// One plane of samples, owned: rows packed, first row as CTImage::GetIsYFlipped() says.
+/// Owns one plane of samples: rows packed, first row as CTImage::GetIsYFlipped() says.
 class CTImageChannel final {
 public:
     enum class Fill { Zero, None };
@@ -29,18 +29,18 @@ public:
     /// Throws std::bad_alloc when there is no memory for the plane.
     CTImageChannel(std::string name, const TPlaneFormat &format, Fill fill = Fill::Zero);
 
-    /// May be empty.
+    /// Gives the name, which may be empty.
     const std::string &GetChannelName() const { return m_name; }
     const void *GetChannelData() const { return m_data.get(); }
-    /// Width and height in pixels: of this plane, which is smaller than the image where the file subsamples it.
+    /// Give the pixels of this plane, which is smaller than the image where the file subsamples it.
     std::int32_t GetChannelWidth() const { return m_format.width; }
     std::int32_t GetChannelHeight() const { return m_format.height; }
-    /// Bytes per sample: 1, 2 or 4.
+    /// Gives the bytes per sample: 1, 2 or 4.
     std::int32_t GetChannelBitDepth() const { return m_format.depth; }
-    /// 1 for floating point, 0 for unsigned integers.
+    /// Gives 1 for floating point, 0 for unsigned integers.
     std::int32_t GetChannelBitType() const { return m_format.isFloat ? 1 : 0; }
-    /// Samples per pixel: 1, 3 or 4. Two-byte integers come as four samples only and four-byte ones never, so that GL
-    /// can show every plane.
+    /// Gives the samples per pixel: 1, 3 or 4. Two-byte integers come as four samples only and four-byte ones never, so
+    /// that GL can show every plane.
     std::int32_t GetChannelBitSamples() const { return m_format.samples; }
 
     const TPlaneFormat &format() const { return m_format; }

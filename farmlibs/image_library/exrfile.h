@@ -13,7 +13,7 @@
 
 namespace TImageLibrary {
 
-/// A channel of a flat part.
+/// Names a channel of a flat part.
 struct ExrChannel {
     std::string layer; ///< unique in the file
     std::string name; ///< unique in its part
@@ -22,7 +22,7 @@ struct ExrChannel {
     Imath::V2i sampling{1, 1};
 };
 
-/// The headers of an OpenEXR file. Deep parts, whose pixels hold any number of samples, are passed over.
+/// Reads the headers of an OpenEXR file. Deep parts, whose pixels hold any number of samples, are passed over.
 class ExrFile final {
 public:
     /// Throws when the headers are damaged.

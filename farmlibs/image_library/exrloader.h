@@ -4,7 +4,7 @@
 
 namespace TImageLibrary {
 
-/// OpenEXR files, flat parts: a layer for each channel, decoded straight into its plane.
+/// Reads OpenEXR files, flat parts: a layer for each channel, decoded straight into its plane.
 class ExrLoader final : public ImageLoader {
 public:
     /// Starts the pool of threads that OpenEXR decodes with, one for the process.

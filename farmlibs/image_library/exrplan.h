@@ -9,7 +9,7 @@
 
 namespace TImageLibrary {
 
-/// Samples along one axis. A channel of sampling s has sample i at the pixel i * s.
+/// Counts samples along one axis. A channel of sampling s has sample i at the pixel i * s.
 struct ExrSpan {
     int first = 0;
     int count = 0;
@@ -20,8 +20,8 @@ struct ExrSpan {
     static ExrSpan common(const ExrSpan &a, const ExrSpan &b);
 };
 
-/// A channel to read and the plane that takes it. The plane covers the display window, which stays the same along a
-/// sequence while data windows change.
+/// Pairs a channel to read with the plane that takes it. The plane covers the display window, which stays the same
+/// along a sequence while data windows change.
 struct ExrTarget {
     ExrChannel channel;
     Imf::PixelType type; ///< of the plane: HALF or FLOAT

@@ -9,26 +9,27 @@
 
 namespace TImageLibrary {
 
-/// How far a load has come, from 0 to 1, and the pointer that was handed to Load().
+/// Hears how far a load has come, from 0 to 1, with the pointer that was handed to Load().
 using TLoadProgress = void (*)(float fraction, void *user);
 
-/// The farm's image library: OpenEXR files through OpenEXR, everything else through OpenImageIO. Paths are UTF-8.
+/// Reads images: OpenEXR files through OpenEXR, everything else through OpenImageIO. Paths are UTF-8.
 /// Nothing throws; a file that is damaged, cut short, or announces more pixels than its bytes can hold does not load.
 class IImageCore final {
 public:
-    /// The library itself; owned by it.
+    /// Gives the library itself, which owns it.
     static IImageCore *GetUniqueClass();
 
-    /// Every extension that a loader reads, each once.
+    /// Walk over every extension that a loader reads, each once.
     static CTExtensionsIterator LoaderExtensionsBegin();
     static CTExtensionsIterator LoaderExtensionsEnd();
 
-    /// Name of the loader that can read the file, judged by its first bytes ("exr", "png", "jpeg", ...); null when none
+    /// Names the loader that can read the file, judged by its first bytes ("exr", "png", "jpeg", ...); null when none
     /// can or the path is no file. The name lives as long as the program.
     static const char *Probe(const char *path);
 
-    /// Sets `names` to the file's layers: in an EXR one for each channel under its full name, behind its part's name where
-    /// parts share channel names; "" in most other formats. False, with `names` empty, when the file cannot be read.
+    /// Sets `names` to the file's layers: in an EXR one for each channel under its full name, behind its part's name
+    /// where parts share channel names; "" in most other formats. False, with `names` empty, when the file cannot be
+    /// read.
     static bool LoadLayers(const char *path, const char *format, std::set<std::string> &names);
 
     /// Reads the named layers, and no others; names that the file does not have are passed over, and when none is left
@@ -38,7 +39,7 @@ public:
     static CTImage *Load(const char *path, const char *format, const std::set<std::string> &names,
                          TLoadProgress progress, void *user);
 
-    /// Null does nothing.
+    /// Ends an image; null does nothing.
     static void DestroyImage(CTImage *image);
 
 private:

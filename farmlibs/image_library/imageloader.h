@@ -10,7 +10,7 @@
 
 namespace TImageLibrary {
 
-/// What reads one family of files. Loaders may throw: IImageCore catches at the library's door.
+/// Reads one family of files. Loaders may throw: IImageCore catches at the library's door.
 class ImageLoader {
 public:
     ImageLoader() = default;

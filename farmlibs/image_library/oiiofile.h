@@ -14,7 +14,7 @@ namespace TImageLibrary {
 
 struct OiioFormat;
 
-/// The first image of a file that OpenImageIO has opened. Everything throws when the file is damaged.
+/// Reads the first image of a file through OpenImageIO. Everything throws when the file is damaged.
 class OiioFile final {
 public:
     OiioFile(const SourceFile &file, const OiioFormat &format);

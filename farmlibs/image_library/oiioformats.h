@@ -15,7 +15,7 @@ enum class OiioAlpha {
     Multiplied, ///< straight in the file, but multiplied all the same
 };
 
-/// A format that OpenImageIO reads for this library.
+/// Describes a format that OpenImageIO reads for this library.
 struct OiioFormat {
     const char *name; ///< OpenImageIO's own
     std::uint64_t expansion; ///< most bytes of pixels that a byte of the file makes
@@ -25,11 +25,11 @@ struct OiioFormat {
     bool (*isWhole)(const SourceFile &file);
 };
 
-/// The format whose bytes the file begins with, null when there is none.
+/// Find the format whose bytes the file begins with, null when there is none.
 const OiioFormat *findFormat(const SourceFile &file);
 const OiioFormat *findFormat(const std::string &name);
 
-/// Extensions of the formats that this build of OpenImageIO has.
+/// Lists the extensions of the formats that this build of OpenImageIO has.
 std::vector<std::string> oiioExtensions();
 
 } // namespace TImageLibrary

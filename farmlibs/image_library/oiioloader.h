@@ -4,8 +4,8 @@
 
 namespace TImageLibrary {
 
-/// Everything but OpenEXR: one unnamed layer with one interleaved channel, or, when the pixels are no grey and no colour, a
-/// layer for each channel. Only the first image of a file with several is read.
+/// Everything but OpenEXR: one unnamed layer with one interleaved channel, or, when the pixels are no grey and no
+/// colour, a layer for each channel. Only the first image of a file with several is read.
 class OiioLoader final : public ImageLoader {
 public:
     std::vector<std::string> extensions() const override;

@@ -4,8 +4,8 @@
 
 namespace TImageLibrary {
 
-/// Tells a caller how far its load is. Fractions only grow, and the end is told once, when this dies: whatever becomes of
-/// the load, a progress bar is taken away.
+/// Tells a caller how far its load is. Fractions only grow, and the end is told once, when this dies: whatever becomes
+/// of the load, a progress bar is taken away.
 class Progress final {
 public:
     Progress(TLoadProgress callback, void *user)

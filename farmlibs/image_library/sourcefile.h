@@ -8,14 +8,13 @@
 
 namespace TImageLibrary {
 
-/// A regular file: its size, its ends and the extension of its name, for telling what it is and what it may hold.
+/// Tells what a regular file is and what it may hold, by its size, its ends and the extension of its name.
 class SourceFile final {
 public:
-    /// Nothing when the path (UTF-8) names no regular file that can be read, or an empty one.
+    /// Opens a file; nothing when the path (UTF-8) names no regular file that can be read, or an empty one.
     static std::optional<SourceFile> open(const char *path);
 
     const std::string &path() const { return m_path; }
-    std::uint64_t size() const { return m_size; }
     /// The first bytes, 512 at most.
     std::string_view head() const { return m_head; }
     /// The last bytes, 26 at most.

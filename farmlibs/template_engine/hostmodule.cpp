@@ -37,7 +37,7 @@ void addHostModule(const PythonHost &host)
     const auto sendFromHere = [owner = std::this_thread::get_id(), entry = host.sendEntry](
                                   std::uint32_t command, const py::bytes &payload, std::uint32_t param) {
         if (std::this_thread::get_id() != owner)
-            throw std::runtime_error("send() works in the thread that calls the hooks only");
+            throw std::runtime_error("send() may be called only in the thread that runs the hooks");
         return send(entry(), command, payload, param);
     };
     module.def("send", sendFromHere, py::arg("command"), py::arg("payload"), py::arg("param") = 0U,

@@ -17,7 +17,7 @@ namespace {
 void require(const PyStatus &status)
 {
     if (PyStatus_Exception(status))
-        throw std::runtime_error(status.err_msg ? status.err_msg : "Python does not start");
+        throw std::runtime_error(status.err_msg ? status.err_msg : "it gives no reason");
 }
 
 /// Starts Python isolated: PATH, PYTHONHOME, PYTHONPATH and the user's own packages may belong to another Python.
@@ -73,7 +73,7 @@ try {
     m_support.release().dec_ref();
     py::finalize_interpreter();
 } catch (const std::exception &error) {
-    std::fprintf(stderr, "Python does not end in order: %s\n", error.what());
+    std::fprintf(stderr, "Python did not shut down properly: %s\n", error.what());
 }
 
 void Interpreter::lock()

@@ -9,7 +9,7 @@
 
 namespace TTemplateEngine {
 
-/// The embedded interpreter: the system's, deaf to the environment of the user who starts the program.
+/// Embeds the system's interpreter, deaf to the environment of the user who starts the program.
 class Interpreter final : public Python {
 public:
     /// Null, with the problem in words, when Python does not start.

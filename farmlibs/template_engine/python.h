@@ -12,7 +12,7 @@ struct TSendEntry;
 
 namespace TTemplateEngine {
 
-/// What the engine keeps of one loaded template. It is used under the lock, and forget() must have run before it goes.
+/// Keeps one loaded template for the engine. It is used under the lock, and forget() must have run before it goes.
 class TemplateScript {
 public:
     TemplateScript() = default;
@@ -28,7 +28,7 @@ public:
     std::optional<std::int32_t> id;
 };
 
-/// Python as the engine sees it: the interpreter, which one thread uses. Outside lock() and unlock() the lock is free for
+/// Runs Python for the engine, on one thread. Outside lock() and unlock() the lock is free for
 /// threads that templates have started.
 class Python {
 public:
@@ -50,15 +50,15 @@ public:
                                                  std::string &problem) = 0;
 };
 
-/// What templates reach of the program.
+/// Tells what templates reach of the program.
 struct PythonHost {
     std::string name;
     /// Null while there is none.
     const TFramework::TSendEntry *(*sendEntry)() = nullptr;
 };
 
-/// What the module that holds Python offers. The caller owns what it gets: null, with the problem in words, when Python does
-/// not start.
+/// Starts Python: what the module that holds it offers. The caller owns what it gets: null, with the problem in words,
+/// when Python does not start.
 using StartPython = Python *(const PythonHost &host, std::string &problem);
 
 } // namespace TTemplateEngine

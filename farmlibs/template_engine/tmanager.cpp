@@ -28,11 +28,11 @@ std::string unfitFile(const std::string &path)
     std::error_code error;
     const auto file = std::filesystem::path(std::u8string(path.begin(), path.end()));
     if (!std::filesystem::is_regular_file(file, error))
-        return "no regular file";
+        return "not a regular file";
     const std::uintmax_t size = std::filesystem::file_size(file, error);
     if (error)
         return error.message();
-    return size > kMaximumSourceBytes ? "too large for a template" : std::string();
+    return size > kMaximumSourceBytes ? "larger than 16 MiB" : std::string();
 }
 
 const TFramework::TSendEntry *sendEntry()

@@ -12,7 +12,7 @@ namespace TTemplateEngine {
 
 class Python;
 
-/// Folders beside the templates from which they may import, in this order, after the templates folder itself.
+/// Names the folders beside the templates from which they may import, in this order, after the templates folder itself.
 struct TTemplatesDirectories {
     std::string host; ///< modules for this program alone: hosts/<name of the program>
     std::string modules; ///< modules that templates share
@@ -30,12 +30,12 @@ public:
 
     /// Names the program that the templates run in. False for another interface version than 1.
     static bool initializePythonPath(int version, const char *hostName);
-    /// The process's manager, made at the first call. Null for another interface version than 1.
+    /// Gives the process's manager, made at the first call. Null for another interface version than 1.
     static TManager *getUniqueClass(int version);
     /// Ends the interpreter and forgets every template; harmless when there is no manager.
     static void destroyUniqueClass();
 
-    /// A template to be given back with TTemplate::Release(); null when none has this ID.
+    /// Finds a template, to be given back with TTemplate::Release(); null when none has this ID.
     TTemplate *getTemplate(std::int32_t id) const;
     void normalizeTemplatesDirectories(const std::string &folder, TTemplatesDirectories &directories) const;
 

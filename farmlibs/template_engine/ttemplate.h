@@ -16,8 +16,8 @@ public:
     const char *what() const noexcept override { return "a template's hook raised an exception"; }
 };
 
-/// A loaded template, handed out by TManager::getTemplate() and given back with Release() after each use.
-/// One that outlives the manager keeps its name and ID, and its hooks do nothing.
+/// Calls the hooks of a loaded template, handed out by TManager::getTemplate() and given back with Release() after each
+/// use. One that outlives the manager keeps its name and ID, and its hooks do nothing.
 class TTemplate final {
 public:
     TTemplate(const TTemplate &) = delete;
@@ -26,7 +26,7 @@ public:
     /// Gives a template back, with or without the Python lock; null is allowed.
     static void Release(TTemplate *instance) noexcept;
 
-    /// True when its hooks need the Python lock, see TManager::acquirePython().
+    /// Tells whether its hooks need the Python lock, see TManager::acquirePython().
     bool isPythonTemplate() const noexcept { return true; }
     const std::string &getName() const noexcept;
     std::int32_t getID() const noexcept;

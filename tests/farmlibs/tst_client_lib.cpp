@@ -87,19 +87,6 @@ private Q_SLOTS:
         QCOMPARE(reader.text(), std::string());
     }
 
-    void counts()
-    {
-        for (const auto &[announced, count] : {std::pair("1", 1U),
-                                               {"2", 2U},
-                                               {"3", 2U},
-                                               {"9223372036854775807", 2U},
-                                               {"18446744073709551615", 0U},
-                                               {"-1", 0U}}) {
-            const Values values{announced, "1", "2", "3", "4", "5", "6", "7", "8"};
-            QCOMPARE(TRecordReader(values).count(3), count);
-        }
-    }
-
     void jobRoundTrip()
     {
         const std::string record = sampleJob().Marshall();

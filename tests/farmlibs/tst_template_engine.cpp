@@ -110,12 +110,6 @@ private Q_SLOTS:
         qunsetenv("PYTHONPATH");
     }
 
-    void interfaceVersions()
-    {
-        QVERIFY(!TManager::initializePythonPath(2, "alertor") && !TManager::getUniqueClass(2));
-        QVERIFY(!TManager::initializePythonPath(1, nullptr));
-    }
-
     void refusedSources_data()
     {
         addTable<QByteArray, QByteArray>(
@@ -128,8 +122,8 @@ private Q_SLOTS:
              {"exit", "import sys\nsys.exit(3)", "SystemExit: 3, at line 2"},
              {"no exception text", "class E(Exception):\n  def __str__(self): raise self\nraise E",
               "cannot be shown"},
-             {"ID too large", "TEMPLATE_ID = 2**31", "TEMPLATE_ID is no 32-bit integer"},
-             {"name is no text", "TEMPLATE_NAME = 12", "TEMPLATE_NAME is no text"},
+             {"ID too large", "TEMPLATE_ID = 2**31", "TEMPLATE_ID must be a 32-bit integer"},
+             {"name is no text", "TEMPLATE_NAME = 12", "TEMPLATE_NAME must be a text"},
              {"name is no UTF-8", "TEMPLATE_NAME = '\\ud800'", "UnicodeEncodeError"}});
     }
 

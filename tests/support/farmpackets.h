@@ -2,7 +2,6 @@
 
 #include <client_lib/tchunk.h>
 #include <client_lib/tjob.h>
-#include <framework/stringhelper.h>
 #include <net/protocol/packets.h>
 #include <net/protocol/wire.h>
 
@@ -11,7 +10,7 @@ namespace farm {
 
 inline QByteArray base64(const std::string &record)
 {
-    return QByteArray::fromStdString(TFramework::TStringHelper::ToBase64(record));
+    return QByteArray::fromStdString(record).toBase64();
 }
 
 inline TClientLib::TJob job(int status = 1024)

@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-/// One channel as the image library delivers it when its layer is loaded alone.
+/// Describes one channel as the image library delivers it when its layer is loaded alone.
 struct ChannelReport {
     QString name;
     int width = 0;
@@ -21,11 +21,13 @@ struct ChannelReport {
     std::int64_t nonFinite = 0; ///< samples that are infinite or no number
 };
 
+/// Describes one layer by its channels.
 struct LayerReport {
     QString name; ///< may be empty
     std::vector<ChannelReport> channels;
 };
 
+/// Describes a whole image file.
 struct ImageReport {
     QString format;
     int width = 0;
@@ -34,5 +36,5 @@ struct ImageReport {
     std::vector<LayerReport> layers;
 };
 
-/// What the image library makes of a file; nothing when it cannot load it.
+/// Tells what the image library makes of a file; nothing when it cannot load it.
 std::optional<ImageReport> inspectImage(const QString &path);

@@ -31,7 +31,8 @@ bool printReports(const QStringList &paths, bool asJson)
         const auto report = inspectImage(path);
         if (!report) {
             allLoaded = false;
-            print(stderr, path.toUtf8() + ": no image that can be loaded\n");
+            print(stderr,
+                  path.toUtf8() + ": cannot be read: damaged, cut short, or no image of a known format\n");
             reports.append(QJsonObject{{QStringLiteral("file"), path},
                                        {QStringLiteral("error"), QStringLiteral("cannot be loaded")}});
         } else if (asJson) {

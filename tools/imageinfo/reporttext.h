@@ -4,7 +4,7 @@
 
 #include <QtCore/QJsonObject>
 
-/// The report for people, a line for the file and one for each channel, each ended by a line feed.
+/// Writes the report for people, a line for the file and one for each channel, each ended by a line feed.
 QString toText(const QString &path, const ImageReport &report);
-/// The report for scripts.
+/// Writes the report for scripts.
 QJsonObject toJson(const QString &path, const ImageReport &report);
