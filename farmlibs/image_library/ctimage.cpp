@@ -1,6 +1,6 @@
 #include "ctimage.h"
 
-#include "imagemodules.h"
+#include "oiiomodule.h"
 
 #include <algorithm>
 #include <cmath>

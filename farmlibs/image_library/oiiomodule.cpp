@@ -1,12 +1,17 @@
-#include "imagemodules.h"
-#include "oiioloader.h"
-#include "planes.h"
+#include "oiiomodule.h"
 
-#include <system/moduleexport.h>
+#include <system/module.h>
 
-TARROW_MODULE_FUNCTION const TImageLibrary::OiioModule *tarrowOiioModule()
+namespace TImageLibrary {
+
+const OiioModule *oiioModule()
 {
-    static const TImageLibrary::OiioLoader loader;
-    static const TImageLibrary::OiioModule module{loader, &TImageLibrary::resizeChannel};
-    return &module;
+    using Entry = const OiioModule *();
+    static const OiioModule *const module = [] {
+        const Module::Function entry = Module::function("tarrowoiio", "tarrowOiioModule");
+        return entry ? reinterpret_cast<Entry *>(entry)() : nullptr;
+    }();
+    return module;
 }
+
+} // namespace TImageLibrary

@@ -12,9 +12,7 @@ struct OiioModule {
     void (*resize)(const CTImageChannel &source, CTImageChannel &target);
 };
 
-// Each module is loaded when it is first asked for; null when it cannot be loaded.
-
-const ImageLoader *exrModule();
+/// Loads the module when it is first asked for; null when it cannot be loaded.
 const OiioModule *oiioModule();
 
 } // namespace TImageLibrary
