@@ -17,7 +17,7 @@ QString fileOf(const char *module)
         QStringLiteral(TARROW_MODULE_PREFIX "%1" TARROW_MODULE_SUFFIX).arg(QLatin1String(module));
     const QDir folder(Machine::executable().parent_path());
     for (const char *place : {".", "../lib", "../lib/tarrow-alertor"}) {
-        const QString file = folder.filePath(QLatin1String(place) + QLatin1Char('/') + name);
+        QString file = folder.filePath(QLatin1String(place) + QLatin1Char('/') + name);
         if (QFile::exists(file))
             return file;
     }
