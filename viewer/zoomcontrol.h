@@ -7,8 +7,8 @@ class QScrollBar;
 class QToolButton;
 class imageWidget;
 
-/// How the picture lies in its view: the zoom with its limits, the scroll bars, and the fit or the pixel size that may be
-/// locked, so that another frame or another size of the view does not change it. One lock at most is on.
+/// Places the picture in its view: zooms within limits, moves the scroll bars, and keeps the fit or the pixel size,
+/// where the user has locked one, for other frames and other sizes of the view. One lock at most is on.
 class ZoomControl final : public QObject {
     Q_OBJECT
 
@@ -17,25 +17,24 @@ public:
         imageWidget *image;
         QScrollBar *horizontal;
         QScrollBar *vertical;
-        QToolButton *fit; ///< each of the two gets a menu
-        QToolButton *pixels;
+        QToolButton *fit; ///< gets a menu
+        QToolButton *pixels; ///< gets a menu
     };
 
-    /// The controls outlive the view.
+    /// The picture owns this; the other controls live as long.
     explicit ZoomControl(const Controls &controls);
 
     bool canZoomIn() const;
     bool canZoomOut() const;
-    bool isFitLocked() const { return m_lock == Lock::Fit; }
 
 public Q_SLOTS:
     void zoomIn();
     void zoomOut();
     void fit();
     void pixelSize();
-    /// Zoom 1 and the origin, unless a lock asks for something else.
+    /// Sets zoom 1 and the origin, unless a lock asks for something else.
     void resetZoom();
-    /// Applies a lock and brings the scroll bars in line with the picture.
+    /// Applies the lock and brings the scroll bars in line with the picture.
     void refresh();
 
 Q_SIGNALS:

@@ -46,7 +46,7 @@ const CTImageChannel *channelOf(const CTImageLayer *layer)
 
 std::uint32_t pixelTypeOf(const CTImageChannel *channel)
 {
-    return channel ? sampleType(channel->GetChannelBitDepth(), channel->GetChannelBitType()).pixelType : 0;
+    return channel ? samplePixelType(channel->GetChannelBitDepth(), channel->GetChannelBitType()) : 0;
 }
 
 } // namespace

@@ -38,10 +38,10 @@ const FormatRow *findFormat(std::int32_t bitDepth, std::int32_t bitType)
 
 } // namespace
 
-SampleType sampleType(std::int32_t bitDepth, std::int32_t bitType)
+std::uint32_t samplePixelType(std::int32_t bitDepth, std::int32_t bitType)
 {
     const FormatRow *format = findFormat(bitDepth, bitType);
-    return format ? SampleType{format->pixelType, format->depth} : SampleType();
+    return format ? format->pixelType : 0;
 }
 
 std::uint32_t multiTextureFormat(std::int32_t bitDepth)

@@ -3,15 +3,11 @@
 #include <cstdint>
 #include <optional>
 
-// What GL calls the samples of the image library's channels. A channel gives the bytes of a sample (its bit depth),
+// Tells what GL calls the samples of the image library's channels. A channel gives the bytes of a sample (its bit depth),
 // and a bit type that is 1 for floating point.
 
-struct SampleType {
-    std::uint32_t pixelType = 0; ///< GL enum, 0 when GL has no such type
-    std::int32_t bytes = 0;
-};
-
-SampleType sampleType(std::int32_t bitDepth, std::int32_t bitType);
+/// Type of one sample, 0 when GL has none.
+std::uint32_t samplePixelType(std::int32_t bitDepth, std::int32_t bitType);
 
 /// Internal format of a texture that holds one channel of several.
 std::uint32_t multiTextureFormat(std::int32_t bitDepth);
