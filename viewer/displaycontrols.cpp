@@ -6,6 +6,7 @@
 #include <viewer/session/viewersession.h>
 
 #include <QtCore/QSignalBlocker>
+#include <QtGui/qopengl.h>
 #include <QtWidgets/QColorDialog>
 
 #include <algorithm>

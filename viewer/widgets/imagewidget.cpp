@@ -7,6 +7,7 @@
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QOpenGLContext>
+#include <QtGui/QOpenGLFunctions>
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QApplication>
 
@@ -167,12 +168,11 @@ void imageWidget::setHudColor(const QColor &color)
 
 void imageWidget::initializeGL()
 {
-    initializeOpenGLFunctions();
-    glDisable(GL_DEPTH_TEST);
+    QOpenGLFunctions &gl = *context()->functions();
+    gl.glDisable(GL_DEPTH_TEST);
     const bool core = TAppState::instance().gl32Supported;
     m_floatTexturesUsable = core || hasFloatTextures(*context());
-    QOpenGLFunctions &gl = *this;
-    m_renderer = std::make_unique<PictureRenderer>(gl, core);
+    m_renderer = std::make_unique<PictureRenderer>(GlContext{gl, core});
     Q_EMIT initialized();
 }
 

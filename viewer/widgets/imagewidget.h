@@ -8,7 +8,6 @@
 
 #include <QtCore/QStringList>
 #include <QtGui/QImage>
-#include <QtGui/QOpenGLFunctions>
 
 #include <memory>
 
@@ -17,7 +16,7 @@ class PictureRenderer;
 /// Shows one frame, calibrated and zoomed, over a checker; the middle button asks to pan, the wheel to zoom.
 /// All sizes and offsets here are device pixels: at zoom 1 a pixel of the frame is one of the screen.
 /// Without a usable context it shows nothing and says so in the log.
-class imageWidget final : public GlPane, public FrameDisplay, private QOpenGLFunctions {
+class imageWidget final : public GlPane, public FrameDisplay {
     Q_OBJECT
 
 public:
@@ -27,16 +26,16 @@ public:
     const ImageFrame *frame() const;
     float zoomFactor() const;
     QPoint pan() const;
-    /// The frame's size times the zoom; of 320 x 240 pixels without a frame.
+    /// Multiplies the frame's size by the zoom; counts 320 x 240 pixels without a frame.
     QSize displayedSize() const;
-    /// Known once the context is initialised, see initialized().
+    /// False before initialized().
     bool floatTexturesUsable() const;
-    /// The frame at its own pixels on the checker and the background, without border and HUD; needs no window on the
-    /// screen. Null without a frame or a context.
+    /// Draws the frame at its own pixels, on the checker and the background, without border and HUD; needs no window on
+    /// the screen. Null without a frame or a context.
     QImage grabPicture();
     void paintGL() override;
 
-    /// Keeps the wanted offset within the displayed picture; returns what it became.
+    /// Moves the view to an offset, kept within the displayed picture; returns what it became.
     QPoint setPan(QPoint wanted);
 
     void uploadTextures(ImageFrame &frame) override;
@@ -44,7 +43,7 @@ public:
     void showFrame(ImageFrame *frame) override;
     void frameDies(const ImageFrame &frame) override;
 
-    /// Textures of frames and HUDs that all pictures of the program hold now.
+    /// Counts the textures that all pictures of the program hold now, so that a leak shows.
     static int liveTextures();
 
 public Q_SLOTS:
@@ -59,12 +58,12 @@ public Q_SLOTS:
     void setHudColor(const QColor &color);
 
 Q_SIGNALS:
-    /// Values for the viewer's scroll bars, not yet clamped.
+    /// Ask the scroll bars for a value, not yet clamped.
     void horizontalScrollRequested(int value);
     void verticalScrollRequested(int value);
     void zoomInRequested();
     void zoomOutRequested();
-    /// The context has come up.
+    /// Tells that the context has come up.
     void initialized();
 
 protected:

@@ -1,6 +1,6 @@
 #pragma once
 
-/// How the picture's colours are shown; what each value does is in the image fragment shader. Neutral by default.
+/// Says how the picture's colours are shown; picture.frag.glsl applies it. Neutral by default.
 struct Calibration {
     float gamma = 1.0F; ///< of the output
     float brightness = 1.0F;

@@ -11,13 +11,13 @@ class QImage;
 class QPainter;
 struct ImageFrame;
 
-/// What the HUD says of a frame, line by line.
+/// Tells the HUD's lines of a frame.
 QStringList hudLines(const ImageFrame &frame);
 
-/// The lines on a transparent image that just holds them, in pixels of the device; no side is longer than the limit.
+/// Paints the lines on a transparent image that just holds them, in device pixels; no side is longer than the limit.
 QImage hudImage(const QStringList &lines, const QColor &color, qreal devicePixelRatio, int longestSide);
 
-/// The lines at their places in the window, laid out once.
+/// Paints the lines at their places in the window, laid out once.
 class HudText final {
 public:
     void setLines(const QStringList &lines);
@@ -28,5 +28,5 @@ private:
     std::vector<std::unique_ptr<QTextLayout>> m_layouts;
 };
 
-/// From the window's, or the picture's, left and top edge, in logical pixels.
+/// Distance from the left and top edge of the window, or of the picture, in logical pixels.
 inline constexpr int kHudMargin = 15;

@@ -6,11 +6,11 @@
 
 #include <QtGui/QImage>
 
-HudOverlay::HudOverlay(QOpenGLFunctions &gl, Textures &textures)
-    : m_gl(gl)
+HudOverlay::HudOverlay(const GlContext &context, Textures &textures)
+    : m_gl(context.gl)
     , m_textures(textures)
-    , m_program(true)
-    , m_vertices(gl, m_program, kQuadCorners, true)
+    , m_program(context)
+    , m_vertices(context, m_program, kQuadCorners)
 { }
 
 HudOverlay::~HudOverlay()

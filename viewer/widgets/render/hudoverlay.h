@@ -9,17 +9,17 @@
 
 class Textures;
 
-/// The HUD of a core context: its lines in a texture, which is made anew only when they, their colour or the ratio of
+/// Draws the HUD on a core context, from a texture that is made anew only when the lines, their colour or the ratio of
 /// device pixels have changed. Made, used and destroyed with its context current.
 class HudOverlay final {
     Q_DISABLE_COPY_MOVE(HudOverlay)
 
 public:
-    HudOverlay(QOpenGLFunctions &gl, Textures &textures);
+    HudOverlay(const GlContext &context, Textures &textures);
     ~HudOverlay();
 
     bool createBuffers() { return m_vertices.createBuffers(); }
-    /// Blending is on, and stays on.
+    /// Draws the lines, blended as the context is set.
     void draw(const QMatrix4x4 &matrix, const QStringList &lines, const QColor &color,
               qreal devicePixelRatio);
 

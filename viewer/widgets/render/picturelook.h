@@ -4,7 +4,7 @@
 
 #include <QtGui/QColor>
 
-/// How the picture is shown, whatever the frame.
+/// Says how the picture is shown, whatever the frame.
 struct PictureLook {
     Calibration calibration;
     float sourceGamma = 1.0F;

@@ -13,20 +13,20 @@ constexpr float kBorderWidth = 2.0F;
 
 } // namespace
 
-PictureRenderer::PictureRenderer(QOpenGLFunctions &gl, bool core)
-    : m_gl(gl)
-    , m_textures(gl, core)
-    , m_picture(core)
-    , m_border(core)
-    , m_checker(core)
-    , m_pictureVertices(gl, m_picture, kQuadCorners, core)
-    , m_checkerVertices(gl, m_checker, kQuadCorners, core)
-    , m_borderVertices(gl, m_border, kLoopCorners, core)
+PictureRenderer::PictureRenderer(const GlContext &context)
+    : m_gl(context.gl)
+    , m_textures(context)
+    , m_picture(context)
+    , m_border(context)
+    , m_checker(context)
+    , m_pictureVertices(context, m_picture, kQuadCorners)
+    , m_checkerVertices(context, m_checker, kQuadCorners)
+    , m_borderVertices(context, m_border, kLoopCorners)
     , m_wideLines(canWidenLines())
 {
-    if (!core)
+    if (!context.core)
         return;
-    m_hud.emplace(gl, m_textures);
+    m_hud.emplace(context, m_textures);
     static_cast<void>(m_pictureVertices.createBuffers() && m_checkerVertices.createBuffers()
                       && m_borderVertices.createBuffers() && m_hud->createBuffers());
 }

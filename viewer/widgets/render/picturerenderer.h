@@ -14,7 +14,7 @@
 
 struct ImageFrame;
 
-/// Draws a frame and what goes with it into the bound framebuffer; knows no window. Made, used and destroyed with its
+/// Draws a frame, its border and its HUD into the bound framebuffer; knows no window. Made, used and destroyed with its
 /// context current.
 class PictureRenderer final {
     Q_DISABLE_COPY_MOVE(PictureRenderer)
@@ -26,14 +26,14 @@ public:
         const PictureLook &look;
     };
 
-    PictureRenderer(QOpenGLFunctions &gl, bool core);
+    explicit PictureRenderer(const GlContext &context);
 
     Textures &textures() { return m_textures; }
 
-    /// Background, checker and frame.
+    /// Draws background, checker and frame.
     void drawPicture(const Scene &scene);
     void drawBorder(const Scene &scene);
-    /// Over a core context's picture, which it moves with; on another at its place in the view.
+    /// Draws the lines on the picture on a core context, at their place in the view on another.
     void drawHud(const Scene &scene, const QStringList &lines, qreal devicePixelRatio);
 
 private:

@@ -39,16 +39,16 @@ QByteArray source(const char *prologue, const char *name)
 
 } // namespace
 
-ShaderProgram::ShaderProgram(const Sources &sources, bool core)
+ShaderProgram::ShaderProgram(const Sources &sources, const GlContext &context)
 {
     const auto warn = [this, &sources](const char *step) {
         qCWarning(lcViewer, "%s %s: %s", sources.name, step, qPrintable(m_program.log()));
     };
     if (!m_program.addShaderFromSourceCode(QOpenGLShader::Vertex,
-                                           source(core ? kVertex150 : kVertex120, sources.vertex)))
+                                           source(context.core ? kVertex150 : kVertex120, sources.vertex)))
         warn("vertex shader");
-    if (!m_program.addShaderFromSourceCode(QOpenGLShader::Fragment,
-                                           source(core ? kFragment150 : kFragment120, sources.fragment)))
+    if (!m_program.addShaderFromSourceCode(
+            QOpenGLShader::Fragment, source(context.core ? kFragment150 : kFragment120, sources.fragment)))
         warn("fragment shader");
     if (!m_program.link()) {
         warn("shader link");
@@ -59,8 +59,8 @@ ShaderProgram::ShaderProgram(const Sources &sources, bool core)
     m_matrix = m_program.uniformLocation("matrix");
 }
 
-PictureProgram::PictureProgram(bool core)
-    : ShaderProgram({"Program", "picture.vert.glsl", "picture.frag.glsl"}, core)
+PictureProgram::PictureProgram(const GlContext &context)
+    : ShaderProgram({"Program", "picture.vert.glsl", "picture.frag.glsl"}, context)
     , m_textureCount(m_program.uniformLocation("numOfTextures"))
     , m_redChannelOnly(m_program.uniformLocation("redChannelOnly"))
     , m_isYCbCr(m_program.uniformLocation("isYCbCr"))
@@ -119,12 +119,12 @@ void PictureProgram::setUniforms(const PictureLook &look, const ImageFrame &fram
     m_program.setUniformValue(m_softClip, calibration.softClip);
 }
 
-BorderProgram::BorderProgram(bool core)
-    : ShaderProgram({"Border", "position.vert.glsl", "border.frag.glsl"}, core)
+BorderProgram::BorderProgram(const GlContext &context)
+    : ShaderProgram({"Border", "position.vert.glsl", "border.frag.glsl"}, context)
 { }
 
-CheckerProgram::CheckerProgram(bool core)
-    : ShaderProgram({"Checker", "position.vert.glsl", "checker.frag.glsl"}, core)
+CheckerProgram::CheckerProgram(const GlContext &context)
+    : ShaderProgram({"Checker", "position.vert.glsl", "checker.frag.glsl"}, context)
     , m_offset(m_program.uniformLocation("offset"))
     , m_zoomFactor(m_program.uniformLocation("zoomFactor"))
 { }
@@ -135,7 +135,7 @@ void CheckerProgram::setUniforms(QPoint offset, float zoom)
     m_program.setUniformValue(m_zoomFactor, zoom);
 }
 
-HudProgram::HudProgram(bool core)
-    : ShaderProgram({"Hud", "picture.vert.glsl", "hud.frag.glsl"}, core)
+HudProgram::HudProgram(const GlContext &context)
+    : ShaderProgram({"Hud", "picture.vert.glsl", "hud.frag.glsl"}, context)
     , m_texture(m_program.uniformLocation("tex0"))
 { }

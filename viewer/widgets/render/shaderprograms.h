@@ -1,12 +1,13 @@
 #pragma once
 
 #include "calibration.h"
+#include "glcontext.h"
 
 #include <QtOpenGL/QOpenGLShaderProgram>
 
 #include <optional>
 
-/// A program and where its variables are, looked up once. One that does not compile or link logs why and draws nothing.
+/// A program and where its variables are, looked up once. One that does not compile or link logs why and does not bind.
 /// Made, used and destroyed with its context current.
 class ShaderProgram {
     Q_DISABLE_COPY_MOVE(ShaderProgram)
@@ -18,7 +19,7 @@ public:
         const char *fragment;
     };
 
-    ShaderProgram(const Sources &sources, bool core);
+    ShaderProgram(const Sources &sources, const GlContext &context);
 
     bool bind() { return m_program.isLinked() && m_program.bind(); }
     void release() { m_program.release(); }
@@ -40,11 +41,12 @@ private:
 struct PictureLook;
 struct ImageFrame;
 
+/// Samples the frame's textures, puts the calibration to them and shows the channels that were chosen.
 class PictureProgram final : public ShaderProgram {
 public:
-    explicit PictureProgram(bool core);
+    explicit PictureProgram(const GlContext &context);
 
-    /// While bound. What is the same as before is not handed over again.
+    /// Hands over what has changed since the last call; the program is bound.
     void setUniforms(const PictureLook &look, const ImageFrame &frame);
 
 private:
@@ -80,15 +82,18 @@ private:
     int m_softClip;
 };
 
+/// Draws red: the line round the picture.
 class BorderProgram final : public ShaderProgram {
 public:
-    explicit BorderProgram(bool core);
+    explicit BorderProgram(const GlContext &context);
 };
 
+/// Draws the grey squares that transparent pixels show.
 class CheckerProgram final : public ShaderProgram {
 public:
-    explicit CheckerProgram(bool core);
+    explicit CheckerProgram(const GlContext &context);
 
+    /// Counts the squares from `offset`, in window coordinates from the bottom; the program is bound.
     void setUniforms(QPoint offset, float zoom);
 
 private:
@@ -96,9 +101,10 @@ private:
     int m_zoomFactor;
 };
 
+/// Draws a texture as it is: the lines of the HUD.
 class HudProgram final : public ShaderProgram {
 public:
-    explicit HudProgram(bool core);
+    explicit HudProgram(const GlContext &context);
 
     void setTextureUnit(int unit) { m_program.setUniformValue(m_texture, unit); }
 

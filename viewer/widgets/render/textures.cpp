@@ -49,9 +49,9 @@ struct Textures::Image {
     const void *data = nullptr;
 };
 
-Textures::Textures(QOpenGLFunctions &gl, bool core)
-    : m_gl(gl)
-    , m_core(core)
+Textures::Textures(const GlContext &context)
+    : m_gl(context.gl)
+    , m_core(context.core)
 {
     m_gl.glGetIntegerv(GL_MAX_TEXTURE_SIZE, &m_longestSide);
 }
@@ -116,6 +116,7 @@ GLuint Textures::make(const Image &image)
 {
     GLenum internalFormat = image.internalFormat;
     GLenum dataFormat = image.dataFormat;
+    // A core context has no luminance textures: red stands in for them.
     if (m_core && dataFormat == GL_LUMINANCE) {
         dataFormat = GL_RED;
         if (internalFormat == GL_LUMINANCE)

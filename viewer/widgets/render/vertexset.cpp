@@ -16,11 +16,11 @@ int bytes(int floats)
 
 } // namespace
 
-VertexSet::VertexSet(QOpenGLFunctions &gl, const ShaderProgram &program, int vertices, bool core)
-    : m_gl(gl)
+VertexSet::VertexSet(const GlContext &context, const ShaderProgram &program, int vertices)
+    : m_gl(context.gl)
     , m_program(program)
     , m_vertices(vertices)
-    , m_core(core)
+    , m_core(context.core)
 { }
 
 bool VertexSet::createBuffers()

@@ -1,23 +1,24 @@
 #pragma once
 
-#include <QtGui/QOpenGLFunctions>
+#include "glcontext.h"
+
 #include <QtOpenGL/QOpenGLBuffer>
 #include <QtOpenGL/QOpenGLVertexArrayObject>
 
 class ShaderProgram;
 
-/// Vertices of one shape: arrays of the client, or on a core context, which has none, buffers behind a vertex array
-/// object. Made, used and destroyed with its context current.
+/// Hands the vertices of one shape to its program: from arrays of the client, or on a core context from buffers behind
+/// a vertex array object. Made, used and destroyed with its context current.
 class VertexSet final {
     Q_DISABLE_COPY_MOVE(VertexSet)
 
 public:
-    /// The program is the one that draws it; three floats a position, two a texture coordinate.
-    VertexSet(QOpenGLFunctions &gl, const ShaderProgram &program, int vertices, bool core);
+    /// The program draws the shape and outlives this; three floats a position, two a texture coordinate.
+    VertexSet(const GlContext &context, const ShaderProgram &program, int vertices);
 
-    /// On a core context only. Logs and returns false on failure, and nothing is drawn then.
+    /// Makes the buffers of a core context; logs and returns false on failure, and nothing is drawn then.
     bool createBuffers();
-    /// With the program bound.
+    /// Draws the shape; the program is bound.
     void draw(GLenum mode, const float *positions, const float *texCoords = nullptr);
 
 private:

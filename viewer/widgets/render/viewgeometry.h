@@ -7,7 +7,7 @@
 
 #include <array>
 
-/// Where the picture lies in the view, in device pixels; y grows downward.
+/// Places the picture in the view, in device pixels; y grows downward.
 struct ViewGeometry {
     static constexpr QSize kSizeWithoutFrame{320, 240};
 
@@ -17,11 +17,11 @@ struct ViewGeometry {
     QPoint pan;
 
     QSize displayedSize() const;
-    /// A coordinate may go as far as the picture reaches beyond the view; 0 when the picture is the smaller one.
+    /// Limits each coordinate to what the picture reaches beyond the view; 0 where the picture is the smaller one.
     QPoint clampedPan(QPoint wanted) const;
-    /// A picture smaller than the view is centred, to half a pixel; a larger one starts at 0.
+    /// Centres a picture smaller than the view, to half a pixel; starts a larger one at 0.
     QRectF quad() const;
-    /// The quad's corner in window coordinates, which count from the bottom.
+    /// Gives the quad's top left corner in window coordinates, which count from the bottom.
     QPoint checkerOffset() const;
     QMatrix4x4 projection() const;
 };
@@ -29,14 +29,14 @@ struct ViewGeometry {
 inline constexpr int kQuadCorners = 6;
 inline constexpr int kLoopCorners = 4;
 
-/// Two triangles: top left, top right, bottom right, bottom right, bottom left, top left. Three floats a
+/// Corners of two triangles: top left, top right, bottom right, bottom right, bottom left, top left; three floats a
 /// position, two a texture coordinate.
 using QuadVertices = std::array<float, 18>;
 using QuadTexCoords = std::array<float, 12>;
 using LoopVertices = std::array<float, 12>;
 
 QuadVertices quadVertices(const QRectF &quad);
-/// The corners, each pushed outward on both sides.
+/// Gives the quad's four corners, each pushed outward on both sides.
 LoopVertices loopVertices(const QRectF &quad, qreal outward);
 
 inline constexpr QuadTexCoords kBottomUp = {0, 1, 1, 1, 1, 0, 1, 0, 0, 0, 0, 1};
