@@ -4,38 +4,38 @@
 #include <set>
 #include <vector>
 
-/// The frames that share one column of a ruler: a single one, or several where there are more frames than pixels.
+/// One column of a ruler: a single frame, or several where there are more frames than pixels.
 struct FrameColumn {
     int x = 0;
     std::int32_t first = 0;
     std::int32_t last = 0;
-    std::int64_t existing = 0; ///< how many of them the sequence has
-    std::int32_t firstExisting = 0; ///< of use where there is one
+    std::int64_t existing = 0; ///< number of frames that the sequence has of these
+    std::int32_t firstExisting = 0; ///< where `existing` is above 0
 
     bool hasMissing() const { return existing <= std::int64_t{last} - first; }
 };
 
-/// The frames of a sequence and the range on show, and where they stand on a ruler of some width. The timeline and the
-/// strips beside it each have one. Frames and ranges of any size cost as much as the ruler has pixels.
+/// Places the frames of a sequence on a ruler that shows a range of them; the timeline and each strip have one. Frames
+/// and ranges of any size cost as much as the ruler has pixels.
 class FrameScale final {
 public:
-    /// In order.
+    /// In ascending order.
     const std::vector<std::int32_t> &frames() const { return m_frames; }
     bool contains(std::int64_t frame) const;
-    /// Of the range, whether the sequence has them or not; at least 1.
+    /// Counts the frames of the range, existing or not; at least 1.
     std::int64_t frameCount() const;
     bool inRange(std::int32_t frame) const { return m_start <= frame && frame <= m_end; }
 
-    /// Left edge of a frame in the range, in pixels.
+    /// Gives the left edge of a frame in the range, in pixels.
     int position(std::int32_t frame, int width) const;
-    /// Whole pixels of a frame, at least 1.
+    /// Gives the whole pixels of a frame, at least 1.
     int columnWidth(int width) const;
-    /// From left to right.
+    /// Lists the columns from left to right.
     std::vector<FrameColumn> columns(int width) const;
-    /// The frame under a pixel; one left of the ruler counts as its first.
+    /// Finds the frame under a pixel; pixels outside the ruler count as its ends.
     std::int32_t frameAt(int x, int width) const;
 
-    /// Numbers beyond 32 bits are no frames.
+    /// Leaves out numbers beyond 32 bits.
     void setFrames(const std::set<long> &frames);
     void setRange(std::int64_t start, std::int64_t end);
 

@@ -8,8 +8,8 @@
 
 class QPainter;
 
-/// A thin strip under the timeline on the same scale, that says something about every frame by a colour and hatches those
-/// that are missing. Takes no input; setters do not repaint.
+/// A thin strip under the timeline, on the same scale: colours each frame and hatches the missing ones. Takes no input;
+/// setters do not repaint.
 class FrameStrip : public QWidget {
 public:
     QSize sizeHint() const override;
@@ -24,7 +24,7 @@ protected:
     const FrameScale &scale() const { return m_scale; }
 
 private:
-    /// Columns come from left to right; `frame` is a frame's width and the height of the strip's black inside.
+    /// Colours a column, from left to right; `frame` is a frame's width and the height of the strip's black inside.
     virtual void drawColumn(QPainter &painter, const FrameColumn &column, QSize frame) const = 0;
 
     FrameScale m_scale;

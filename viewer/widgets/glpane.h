@@ -11,11 +11,10 @@ class QOpenGLContext;
 class QSinglePointEvent;
 class QWindow;
 
-/// A widget that is drawn by OpenGL, in a context of its own, on a window of its own within the widget's: what else its
-/// window shows is painted and brought to the screen without it. A QOpenGLWidget has its window composed by OpenGL, all of
-/// it whenever a part of it changes.
-/// The input goes to the widget. The context comes up when it is first needed and stays until the widget ends, whatever
-/// windows it moves to; without a usable one, nothing is drawn and the log says so.
+/// Draws by OpenGL on a native window of its own within the widget, so that a new frame costs no more than itself: a
+/// QOpenGLWidget has all of its window composed anew whenever a part of it changes.
+/// Input goes to the widget. The context comes up when it is first needed and stays until the widget ends, whatever
+/// window that moves to; without a usable one nothing is drawn, and the log says so.
 class GlPane : public QWidget {
     Q_OBJECT
 
@@ -25,14 +24,14 @@ public:
 
     /// Null before the first makeCurrent().
     QOpenGLContext *context() const { return m_context.get(); }
-    /// False without a usable context.
+    /// Makes the context current; false without a usable one.
     bool makeCurrent();
 
-    /// What is drawn, in device pixels; needs no window on the screen. Null without a usable context.
+    /// Draws into an image of viewSize() pixels; needs no window on the screen. Null without a usable context.
     QImage grabFramebuffer();
-    /// In device pixels.
+    /// Gives the widget's size in device pixels.
     QSize viewSize() const;
-    /// Draws viewSize() pixels into the framebuffer that is bound, in the current context.
+    /// Draws viewSize() pixels into the bound framebuffer of the current context.
     virtual void paintGL() = 0;
 
 public Q_SLOTS:
@@ -40,17 +39,17 @@ public Q_SLOTS:
     void update();
 
 Q_SIGNALS:
-    /// What was drawn is on its way to the screen.
+    /// Tells that what was drawn is on its way to the screen.
     void frameSwapped();
-    /// The view has another size.
+    /// Tells that viewSize() may be another.
     void resized();
 
 protected:
-    /// The context has come up and is current.
+    /// Prepares drawing; the context has come up and is current.
     virtual void initializeGL() = 0;
-    /// What is drawn into a framebuffer of this size; null without a usable context.
+    /// Draws into an image of this size; null without a usable context.
     QImage drawn(QSize pixels, const std::function<void()> &draw);
-    /// For the derived class's destructor, when it has let go of what it made: nothing is drawn from here on.
+    /// Ends the context and all drawing; for the derived class's destructor, once what it made is gone.
     void endContext();
 
     bool event(QEvent *event) override;
@@ -61,7 +60,7 @@ private:
     bool createContext();
     bool isCurrent() const;
     void present();
-    /// To the widget's window, where the system gives its input to the window within.
+    /// Sends input that the system gave to the window within to the widget's window.
     void passOn(const QSinglePointEvent &event);
 
     QWindow *m_window = nullptr; // the holder's

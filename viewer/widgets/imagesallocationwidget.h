@@ -15,9 +15,9 @@ class imagesAllocationWidget : public FrameStrip {
 public:
     explicit imagesAllocationWidget(QWidget *parent = nullptr);
 
-    /// Mask from which a frame's file name is made.
+    /// Sets the mask that names each frame's file.
     void setFileMask(const std::string &mask);
-    /// Not owned; null shows nothing as cached.
+    /// Sets the cache to ask, not owned; null shows nothing as cached.
     void setCache(const FrameCache *cache);
 
 private:

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <vector>
 
-/// Shows which frames and chunks are marked for requeue. It holds what it was last told of both.
+/// Shows which frames and chunks are marked, as it was last told.
 class imagesMarkerWidget : public FrameStrip {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ public:
     void setMarkedFrames(const MarkedFrames &frames);
 
 private:
-    /// Frames of a chunk that has a colour.
+    /// Frames of a chunk that is shown in a colour.
     struct Shade {
         std::int32_t first = 0;
         std::int32_t last = 0;
@@ -29,7 +29,7 @@ private:
     void shadeChunks();
     void drawColumn(QPainter &painter, const FrameColumn &column, QSize frame) const override;
     bool hasMarkedFrame(const FrameColumn &column) const;
-    /// Of the column's chunks, null for none.
+    /// Finds the colour of the column's chunks; null for none.
     const QColor *chunkColor(const FrameColumn &column) const;
 
     ChunkMap m_chunks;

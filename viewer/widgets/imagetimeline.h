@@ -10,9 +10,9 @@
 
 class QPainter;
 
-/// The frame ruler under the picture: ticks and numbers of the frames that exist, the missing ones shaded, the current
-/// one in red. The left button scrubs and picks; Shift, Control and Alt make a pick a request to mark or unmark, which
-/// the signals carry. Setters do not repaint.
+/// Rules the frames under the picture: ticks and numbers of the existing ones, the missing ones shaded, the current one
+/// in red. The left button scrubs and picks; Shift, Control and Alt make a pick a request to mark or unmark, which the
+/// signals carry. Setters do not repaint.
 class imageTimeline : public QWidget {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ public:
     explicit imageTimeline(QWidget *parent = nullptr);
 
     QSize sizeHint() const override;
-    /// Frames from the first to the last, gaps included.
+    /// Counts the frames from the first to the last, gaps included; at least 1.
     Q_INVOKABLE size_t getLength() const;
 
 public Q_SLOTS:
@@ -28,17 +28,16 @@ public Q_SLOTS:
     void setRange(long startFrame, long endFrame);
     bool setByFrame(long step);
     void setPosition(long frame);
-    /// To the next frame that exists some steps on, or else the last; false when that is where it stands, and while the
-    /// user drags.
+    /// Steps to the next existing frame; false at the end, and while the user drags.
     bool moveNext();
     bool movePrevious();
     void moveFirst();
     void moveLast();
 
 Q_SIGNALS:
-    /// The user or a move has settled on a frame.
+    /// Tells that the user or a move has settled on a frame.
     void frameChanged(int frame, bool addChunk, bool addFrame, bool removeChunk, bool removeFrame);
-    /// A drag has passed onto another existing frame.
+    /// Tells that a drag has reached another existing frame.
     void frameScrubbed(int frame, bool addChunk, bool addFrame, bool removeChunk, bool removeFrame);
     /// A drag has begun or ended.
     void held(bool held);
