@@ -22,7 +22,7 @@ public:
     explicit GlPane(QWidget *parent = nullptr);
     ~GlPane() override;
 
-    /// Null before the first makeCurrent().
+    /// Gives the context; null before the first makeCurrent().
     QOpenGLContext *context() const { return m_context.get(); }
     /// Makes the context current; false without a usable one.
     bool makeCurrent();
@@ -39,7 +39,7 @@ public Q_SLOTS:
     void update();
 
 Q_SIGNALS:
-    /// Tells that what was drawn is on its way to the screen.
+    /// Tells that what was drawn is on its way to the screen, for who measures what is shown.
     void frameSwapped();
     /// Tells that viewSize() may be another.
     void resized();
