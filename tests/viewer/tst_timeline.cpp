@@ -35,14 +35,6 @@ QString letters(imageTimeline &timeline, int columnWidth, int top, int bottom)
     return result;
 }
 
-Frames numbers(int first, int last)
-{
-    Frames frames;
-    for (int frame = first; frame <= last; ++frame)
-        frames.insert(frame);
-    return frames;
-}
-
 } // namespace
 
 class TimelineTest : public QObject {
@@ -141,13 +133,15 @@ private Q_SLOTS:
         timeline.resize(100, 60);
         timeline.setRange(1, 9'990);
         timeline.setPosition(-1);
-        timeline.setFrames(numbers(1, 9'990));
+        Frames frames;
+        for (int frame = 1; frame <= 9'990; ++frame)
+            frames.insert(frame);
+        timeline.setFrames(frames);
         const QString whole = letters(timeline, 1, 16, 45); // between the numbers and the short ticks
         QVERIFY(!whole.contains(u'#'));
         const auto column = whole.indexOf(u'.', 51);
-        Frames holed = numbers(1, 9'990);
-        holed.erase(column * 999 / 10 + 23);
-        timeline.setFrames(holed);
+        frames.erase(column * 999 / 10 + 23);
+        timeline.setFrames(frames);
         QCOMPARE(letters(timeline, 1, 16, 45), QString(whole).replace(column, 1, u'#'));
         // A pixel gives the frame that it can.
         timeline.setFrames({57, 9'985});
