@@ -38,18 +38,19 @@ QString commandLineVersion()
 
 QString commandLineHelp()
 {
-    return QStringLiteral("Usage: tarrow-alertor [options]\n"
-                          "\n"
-                          "Shows what happens to your jobs on the Tarrow render farm, from the system tray.\n"
-                          "\n"
-                          "  -server HOST    address of the Dispatcher, in place of the stored one\n"
-                          "  -port NUMBER    its TCP port\n"
-                          "  -user NAME      log-in name\n"
-                          "  -pass PASSWORD  password, in clear: other users of this machine can read it\n"
-                          "  --language CODE language of the texts: de, en, es, fr, it or ja\n"
-                          "  -forcegl2       show images with OpenGL 2.1 even where 3.2 is there\n"
-                          "  --help          print this text and exit\n"
-                          "  --version       print the version and exit\n"
-                          "\n"
-                          "A program that runs already is told to wake up instead.\n");
+    return QStringLiteral(
+        "Usage: tarrow-alertor [options]\n"
+        "\n"
+        "Shows what happens to your jobs on the Tarrow render farm, from the system tray.\n"
+        "\n"
+        "  -server HOST    connect to the Dispatcher on HOST, not to the stored one\n"
+        "  -port NUMBER    connect to its TCP port NUMBER\n"
+        "  -user NAME      log in as NAME\n"
+        "  -pass PASSWORD  log in with PASSWORD, which other users of this machine can read\n"
+        "  --language CODE show the texts in de, en, es, fr, it or ja\n"
+        "  -forcegl2       show images with OpenGL 2.1 even where 3.2 is there\n"
+        "  --help          print this text and exit\n"
+        "  --version       print the version and exit\n"
+        "\n"
+        "Wakes up the instance that runs already, and exits, where there is one.\n");
 }

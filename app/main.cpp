@@ -91,7 +91,8 @@ int main(int argc, char *argv[])
     }
     quitOnTermination(application, termination, isEnding);
     if (!installLanguage(line.language) && !line.language.isEmpty())
-        std::fprintf(stderr, "There are no texts in the language %s\n", qUtf8Printable(line.language));
+        std::fprintf(stderr, "Cannot find texts in the language %s; --help lists the languages\n",
+                     qUtf8Printable(line.language));
     TFramework::InitializeLibrary(argv[0]);
     Templates templates;
     QApplication::setQuitOnLastWindowClosed(false);

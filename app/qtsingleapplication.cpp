@@ -35,7 +35,7 @@ QtSingleApplication::QtSingleApplication(int &argc, char **argv)
 {
     const QString folder = ownFolder();
     if (folder.isEmpty()) {
-        qCWarning(lcApp, "There is no folder to lock in: another instance would not be noticed");
+        qCWarning(lcApp, "Cannot find a folder for the lock; a second instance goes unnoticed");
         return;
     }
     // An absolute name: others would stand in a folder that all users share.
@@ -57,7 +57,7 @@ void QtSingleApplication::listen()
     // What is there was left by an instance that crashed: the lock is ours.
     QLocalServer::removeServer(m_serverName);
     if (!m_server.listen(m_serverName))
-        qCWarning(lcApp, "Later starts cannot be heard: %s", qUtf8Printable(m_server.errorString()));
+        qCWarning(lcApp, "Cannot listen for later starts: %s", qUtf8Printable(m_server.errorString()));
 }
 
 void QtSingleApplication::takeMessage()

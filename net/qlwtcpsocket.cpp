@@ -176,7 +176,7 @@ bool QLWTCPSocket::inflateMessage(const RawMessage &message, QByteArray *data)
 
 void QLWTCPSocket::breakStream(const char *why)
 {
-    qCWarning(lcNet, "The Dispatcher sent %s; the connection is dropped", why);
+    qCWarning(lcNet, "Dropped the connection: the Dispatcher sent %s", why);
     clearBuffers();
     abort();
 }

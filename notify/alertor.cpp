@@ -104,7 +104,9 @@ void Alertor::loadSettings()
 void Alertor::saveSettings()
 {
     if (!::saveSettings(m_settings))
-        Messages::showError(this, tr("The settings cannot be saved. They hold until the program ends."));
+        Messages::showError(this,
+                            tr("Cannot save the settings: check the free space and the permissions of your "
+                               "home folder. Your changes apply until you quit."));
 }
 
 void Alertor::checkLocalConnection()

@@ -4,8 +4,8 @@
 <context>
     <name>Alertor</name>
     <message>
-        <source>The settings cannot be saved. They hold until the program ends.</source>
-        <translation>Die Einstellungen können nicht gespeichert werden. Sie gelten, bis das Programm endet.</translation>
+        <source>Cannot save the settings: check the free space and the permissions of your home folder. Your changes apply until you quit.</source>
+        <translation>Die Einstellungen lassen sich nicht speichern: Prüfen Sie den freien Platz und die Zugriffsrechte Ihres persönlichen Ordners. Ihre Änderungen gelten, bis Sie das Programm beenden.</translation>
     </message>
 </context>
 <context>
@@ -19,8 +19,8 @@
         <translation>Ereignisse</translation>
     </message>
     <message>
-        <source>This desktop has no system tray: the menu of its icon opens here</source>
-        <translation>Dieser Desktop hat keinen Infobereich: das Menü des Symbols öffnet sich hier</translation>
+        <source>Opens the menu of the tray icon: this desktop has no system tray</source>
+        <translation>Öffnet das Menü des Symbols: Dieser Desktop hat keinen Infobereich</translation>
     </message>
     <message>
         <source>&amp;Menu</source>

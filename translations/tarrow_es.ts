@@ -4,8 +4,8 @@
 <context>
     <name>Alertor</name>
     <message>
-        <source>The settings cannot be saved. They hold until the program ends.</source>
-        <translation>No se pueden guardar las preferencias. Valdrán hasta que termine el programa.</translation>
+        <source>Cannot save the settings: check the free space and the permissions of your home folder. Your changes apply until you quit.</source>
+        <translation>No se pueden guardar las preferencias: compruebe el espacio libre y los permisos de su carpeta personal. Los cambios se aplican hasta que cierre el programa.</translation>
     </message>
 </context>
 <context>
@@ -19,8 +19,8 @@
         <translation>Eventos</translation>
     </message>
     <message>
-        <source>This desktop has no system tray: the menu of its icon opens here</source>
-        <translation>Este escritorio no tiene bandeja del sistema: aquí se abre el menú de su icono</translation>
+        <source>Opens the menu of the tray icon: this desktop has no system tray</source>
+        <translation>Abre el menú del icono: este escritorio no tiene bandeja del sistema</translation>
     </message>
     <message>
         <source>&amp;Menu</source>

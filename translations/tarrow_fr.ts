@@ -4,8 +4,8 @@
 <context>
     <name>Alertor</name>
     <message>
-        <source>The settings cannot be saved. They hold until the program ends.</source>
-        <translation>Les préférences ne peuvent pas être enregistrées. Elles restent valables jusqu&apos;à la fin du programme.</translation>
+        <source>Cannot save the settings: check the free space and the permissions of your home folder. Your changes apply until you quit.</source>
+        <translation>Impossible d&apos;enregistrer les préférences&#xa0;: vérifiez l&apos;espace libre et les droits d&apos;accès de votre dossier personnel. Vos modifications s&apos;appliquent jusqu&apos;à la fermeture du programme.</translation>
     </message>
 </context>
 <context>
@@ -19,8 +19,8 @@
         <translation>Événements</translation>
     </message>
     <message>
-        <source>This desktop has no system tray: the menu of its icon opens here</source>
-        <translation>Ce bureau n&apos;a pas de zone de notification&#xa0;: le menu de son icône s&apos;ouvre ici</translation>
+        <source>Opens the menu of the tray icon: this desktop has no system tray</source>
+        <translation>Ouvre le menu de l&apos;icône&#xa0;: ce bureau n&apos;a pas de zone de notification</translation>
     </message>
     <message>
         <source>&amp;Menu</source>

@@ -4,8 +4,8 @@
 <context>
     <name>Alertor</name>
     <message>
-        <source>The settings cannot be saved. They hold until the program ends.</source>
-        <translation>Impossibile salvare le impostazioni. Restano valide fino alla chiusura del programma.</translation>
+        <source>Cannot save the settings: check the free space and the permissions of your home folder. Your changes apply until you quit.</source>
+        <translation>Impossibile salvare le impostazioni: controllare lo spazio libero e i permessi della cartella personale. Le modifiche valgono fino alla chiusura del programma.</translation>
     </message>
 </context>
 <context>
@@ -19,8 +19,8 @@
         <translation>Eventi</translation>
     </message>
     <message>
-        <source>This desktop has no system tray: the menu of its icon opens here</source>
-        <translation>Questo desktop non ha un&apos;area di notifica: il menu dell&apos;icona si apre qui</translation>
+        <source>Opens the menu of the tray icon: this desktop has no system tray</source>
+        <translation>Apre il menu dell&apos;icona: questo desktop non ha un&apos;area di notifica</translation>
     </message>
     <message>
         <source>&amp;Menu</source>

@@ -4,8 +4,8 @@
 <context>
     <name>Alertor</name>
     <message>
-        <source>The settings cannot be saved. They hold until the program ends.</source>
-        <translation>設定を保存できません。プログラムが終了するまで有効です。</translation>
+        <source>Cannot save the settings: check the free space and the permissions of your home folder. Your changes apply until you quit.</source>
+        <translation>設定を保存できません。ホームフォルダーの空き容量とアクセス権を確認してください。変更はプログラムを終了するまで有効です。</translation>
     </message>
 </context>
 <context>
@@ -19,8 +19,8 @@
         <translation>イベント</translation>
     </message>
     <message>
-        <source>This desktop has no system tray: the menu of its icon opens here</source>
-        <translation>このデスクトップにはシステムトレイがありません。アイコンのメニューはここから開きます</translation>
+        <source>Opens the menu of the tray icon: this desktop has no system tray</source>
+        <translation>アイコンのメニューを開きます。このデスクトップにはシステムトレイがありません</translation>
     </message>
     <message>
         <source>&amp;Menu</source>

@@ -130,8 +130,8 @@ Settings loadRows(std::initializer_list<SettingsRows> tables)
     if (store.status() != QSettings::NoError)
         unreadable.prepend(QStringLiteral("parts of the file"));
     if (!unreadable.isEmpty())
-        qCWarning(lcSettings, "%s: cannot read %s; the defaults are used", qUtf8Printable(store.fileName()),
-                  qUtf8Printable(unreadable.join(QStringLiteral(", "))));
+        qCWarning(lcSettings, "Cannot read %s in %s; using the defaults",
+                  qUtf8Printable(unreadable.join(QStringLiteral(", "))), qUtf8Printable(store.fileName()));
     return settings;
 }
 
@@ -152,6 +152,6 @@ bool saveRows(std::initializer_list<SettingsRows> tables, const Settings &settin
             || (store.status() == QSettings::FormatError && QSettings().status() == QSettings::NoError);
     }
     if (!saved)
-        qCWarning(lcSettings, "%s: the settings cannot be saved", qUtf8Printable(store.fileName()));
+        qCWarning(lcSettings, "Cannot save the settings to %s", qUtf8Printable(store.fileName()));
     return saved;
 }

@@ -48,7 +48,7 @@ def test():
         wait_for(lambda: windows("Tarrow 9.0.14"), f"the box that tells of a {disk} disk")
         with open(inside, "rb") as file:
             equal(file.read(), TEXT, f"settings on a {disk} disk")
-        equal(len(program.matching("the settings cannot be saved$")), 1, f"warnings of a {disk} disk")
+        equal(len(program.matching("Cannot save the settings to ")), 1, f"warnings of a {disk} disk")
         check(program.is_running(), f"the client ended on a {disk} disk")
         program.quit(signal.SIGINT)
 

@@ -137,7 +137,7 @@ private Q_SLOTS:
                                         compressedMessage("text", -1)}) {
             Link link;
             QTest::ignoreMessage(QtWarningMsg,
-                                 QRegularExpression(QStringLiteral("the connection is dropped")));
+                                 QRegularExpression(QStringLiteral("Dropped the connection")));
             link.peer.send(bytes + encodeMessage(MessageHeader::Plain, 601, "never seen"));
             QTRY_COMPARE(link.socket.state(), QAbstractSocket::UnconnectedState);
             QVERIFY(!link.socket.hasMessage() && link.messages.isEmpty());

@@ -279,7 +279,7 @@ private Q_SLOTS:
             const auto restore = qScopeGuard([&unlimited] { setrlimit(RLIMIT_FSIZE, &unlimited); });
             const rlimit full{kFull, unlimited.rlim_max};
             QCOMPARE(setrlimit(RLIMIT_FSIZE, &full), 0);
-            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"the settings cannot be saved"_s));
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot save the settings"_s));
             QVERIFY(!saveSettings(Settings()));
             QCOMPARE(readFile(), old);
         }
@@ -288,14 +288,14 @@ private Q_SLOTS:
     void whatIsNoOrdinaryFile()
     {
         QVERIFY(QDir().mkpath(QSettings().fileName()));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"cannot read parts of the file"_s));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot read parts of the file"_s));
         QCOMPARE(loadSettings(), Settings());
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"the settings cannot be saved"_s));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot save the settings"_s));
         QVERIFY(!saveSettings(Settings()));
 
         QVERIFY(QDir().rmdir(QSettings().fileName()));
         QVERIFY(QFile::link(u"/proc/version"_s, QSettings().fileName()));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"the settings cannot be saved"_s));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot save the settings"_s));
         QVERIFY(!saveSettings(Settings()));
     }
 

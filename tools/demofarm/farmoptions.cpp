@@ -75,7 +75,7 @@ public:
             return;
         folder = m_parser.value(QLatin1String(name));
         if (!QFileInfo(folder).isDir() && m_error.isEmpty())
-            m_error = QStringLiteral("--%1 takes a folder that is there").arg(QLatin1String(name));
+            m_error = QStringLiteral("--%1 takes an existing folder").arg(QLatin1String(name));
     }
 
     void read(QList<CustomMessagePacket> &messages)
@@ -155,7 +155,9 @@ FarmCommandLine parseFarmCommandLine(const QStringList &arguments)
         return {std::nullopt, parser.helpText(), 0};
     if (!parser.positionalArguments().isEmpty()) {
         const QString first = parser.positionalArguments().constFirst();
-        return {std::nullopt, QStringLiteral("Nothing is known of \"%1\"").arg(first), kUsageError};
+        return {std::nullopt,
+                QStringLiteral("Unexpected argument \"%1\"; --help lists the options").arg(first),
+                kUsageError};
     }
     ValueReader values(parser);
     FarmOptions options = readOptions(values);

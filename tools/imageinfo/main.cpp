@@ -64,7 +64,7 @@ int main(int argc, char **argv)
         return 0;
     }
     if (!understood || parser.positionalArguments().isEmpty()) {
-        const QString fault = understood ? QStringLiteral("No file is given.") : parser.errorText();
+        const QString fault = understood ? QStringLiteral("Give at least one FILE.") : parser.errorText();
         print(stderr, (fault + QLatin1Char('\n') + parser.helpText()).toUtf8());
         return kUsageError;
     }

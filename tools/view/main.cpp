@@ -48,20 +48,20 @@ std::string pathToOpen(const QString &path)
 QString apply(const ViewOptions &options, ImageViewer &viewer)
 {
     if (options.path.isEmpty())
-        return options.grab.isEmpty() ? QString() : QStringLiteral("No path is given.");
+        return options.grab.isEmpty() ? QString() : QStringLiteral("Cannot grab a picture without a PATH.");
     const std::string path = pathToOpen(options.path);
     if (path.empty())
-        return QStringLiteral("%1: no image that can be shown").arg(options.path);
+        return QStringLiteral("Cannot find an image in %1").arg(options.path);
     ViewerSession &session = viewer.session();
     viewer.setFramesPath(
         {.path = path, .force = true, .preferredFrame = options.frame, .maskIsSequence = true});
     if (options.frame)
         session.setFrame(*options.frame);
     if (!session.lastLoad().shown())
-        return QStringLiteral("%1: cannot be shown").arg(QString::fromStdString(session.file()));
+        return QStringLiteral("Cannot show %1").arg(QString::fromStdString(session.file()));
     if (!options.layer.isEmpty()
         && !(session.setLayer(options.layer.toStdString()) && session.lastLoad().shown()))
-        return QStringLiteral("%1: no layer %2 that can be shown").arg(options.path, options.layer);
+        return QStringLiteral("Cannot show the layer %1 of %2").arg(options.layer, options.path);
     for (const auto &[name, value] : options.calibration)
         viewer.calibration().setValue(name, value);
     viewer.setChannelViewMode(options.channelViewMode);
@@ -90,9 +90,9 @@ int run(const ViewOptions &options)
         return fail(fault, kNothingShown);
     const QImage picture = viewer->picture().grabPicture();
     if (picture.isNull())
-        return fail(QStringLiteral("%1: cannot be rendered").arg(options.path), kNothingShown);
+        return fail(QStringLiteral("Cannot render %1").arg(options.path), kNothingShown);
     if (!picture.save(options.grab, "PNG"))
-        return fail(QStringLiteral("%1: cannot be written").arg(options.grab), kNothingShown);
+        return fail(QStringLiteral("Cannot write %1").arg(options.grab), kNothingShown);
     return 0;
 }
 

@@ -34,7 +34,7 @@ void parseFrame(const QString &text, ViewOptions &options)
     bool isNumber = false;
     options.frame = text.toInt(&isNumber);
     if (!isNumber)
-        options.error = QStringLiteral("%1 is no frame number.").arg(text);
+        options.error = QStringLiteral("Cannot start at frame %1: give a whole number.").arg(text);
 }
 
 /// A mode by its name or its number.
@@ -44,7 +44,7 @@ void parseChannel(const QString &text, ViewOptions &options)
     const int number = text.toInt(&isNumber);
     options.channelViewMode = isNumber ? number : int(kChannels.indexOf(text.toLower()));
     if (options.channelViewMode < 0 || options.channelViewMode >= kChannels.size())
-        options.error = QStringLiteral("There is no channel mode %1.").arg(text);
+        options.error = QStringLiteral("Cannot show the channels %1: give one of the modes below.").arg(text);
 }
 
 void parseCalibration(const QString &text, ViewOptions &options)
@@ -54,7 +54,8 @@ void parseCalibration(const QString &text, ViewOptions &options)
         bool isNumber = false;
         const float value = part.section(QLatin1Char('='), 1).toFloat(&isNumber);
         if (!isNumber || !std::isfinite(value) || !CalibrationPanel::names().contains(name))
-            options.error = QStringLiteral("%1 is no calibration.").arg(part);
+            options.error =
+                QStringLiteral("Cannot calibrate by %1: give a name below, '=' and a number.").arg(part);
         else
             options.calibration.append({name, value});
     }
@@ -76,11 +77,13 @@ ViewOptions ViewOptions::parse(const QStringList &arguments)
     if (!parser.parse(arguments))
         options.error = parser.errorText();
     options.help = options.error.isEmpty() && parser.isSet(help);
-    options.helpText = parser.helpText();
+    // The parser takes the name from an application, and there is none yet.
+    options.helpText =
+        parser.helpText().replace(QStringLiteral("<executable_name>"), QStringLiteral("tarrow-view"));
     const QStringList paths = parser.positionalArguments();
     options.path = paths.value(0);
     if (paths.size() > 1)
-        options.error = QStringLiteral("More than one path is given.");
+        options.error = QStringLiteral("Cannot open more than one PATH.");
     options.layer = parser.value(known.layer);
     options.forceGl2 = parser.isSet(known.gl2);
     options.grab = parser.value(known.grab);
