@@ -15,7 +15,7 @@ struct CommandLine {
     bool help = false; ///< "--help"
     bool version = false; ///< "--version"
 
-    /// The arguments as the system hands them over, the program's path included.
+    /// Reads the arguments as the system hands them over, the program's path included.
     static CommandLine parse(std::span<char *const> arguments);
 };
 

@@ -27,9 +27,9 @@ public:
 
     bool hasMessage() const { return m_receiveBuffer.next() != MessageReader::Next::NeedMore; }
 
-    /// Messages and queues a message and writes what the connection takes now. False when it was refused for overflow.
+    /// Queues a message and writes what the connection takes now. False when it was refused for overflow.
     bool sendMessage(uint command, const QByteArray &payload, uint param);
-    /// As sendMessage(), in front of all that waits: for the log-in, which must be the first on a connection.
+    /// Queues a message in front of all that waits: the log-in must be the first on a connection.
     bool sendFirst(uint command, const QByteArray &payload, uint param);
     /// Takes the first message out. `data` becomes the payload and a terminating zero byte, or empty for a message that
     /// delivers none; `param` may be null. False when no whole message is buffered, inflating failed (both buffers are
@@ -39,7 +39,7 @@ public:
     void setHeartbeatCommand(uint command) { m_heartbeatCommand = command; }
     void startHeartbeat();
     void stopHeartbeat();
-    /// Source of the time for the heartbeat.
+    /// Sets the source of the time for the heartbeat.
     void setClock(Clock clock) { m_clock = std::move(clock); }
 
     /// Closes the connection and deletes the socket once nothing of it is running any more.

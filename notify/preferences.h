@@ -12,7 +12,7 @@ namespace Ui {
 class preferencesClass;
 }
 
-/// The dialog on all options. It checks nothing: a number that does not parse is taken for 0.
+/// Edits all options. Checks nothing: takes a number that does not parse for 0.
 /// On a screen lower than the dialog its options scroll, above buttons that stay in sight.
 class preferences final : public QDialog {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     /// Shows the dialog on the settings and waits for the user; null unless the user accepts.
     static std::optional<Settings> edit(const Settings &current, QWidget *parent);
 
-    /// `current` with all that the fields hold put over it.
+    /// Puts what the fields hold over `current`.
     Settings values(const Settings &current) const;
     void setValues(const Settings &settings);
 

@@ -23,7 +23,7 @@ public:
     /// Shows the state's icon, or with `normal` false that of the level; sets nothing that is shown already.
     /// `state` is that of the Dispatcher's socket, null without one.
     void update(std::optional<QAbstractSocket::SocketState> state, PendingLevel level, bool normal);
-    /// The bubble for new events, once for all that come before control returns to the event loop.
+    /// Shows the bubble for new events, once for all that come before control returns to the event loop.
     void showNewEvent();
     void showBackgroundHint();
 

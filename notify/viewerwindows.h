@@ -21,7 +21,7 @@ struct EventFrames {
     JobFrames job;
 };
 
-/// The mask, the records of the event, and the chunks of its job among all events.
+/// Collects the mask and the records of the event, and the chunks of its job among all events.
 EventFrames framesOf(const NotifyEvent &event, const EventsList &events);
 
 /// The viewer windows of the program and the frame budgets that they share. Closes them when it ends.
@@ -34,9 +34,9 @@ public:
     explicit ViewerWindows(QWidget &owner);
     ~ViewerWindows() override;
 
-    /// The budgets hold at once, the rest for windows to come.
+    /// Applies the budgets at once, the rest to windows to come.
     void setSettings(const Settings &settings);
-    /// A new viewer window, not shown yet, which deletes itself when closed; null without OpenGL.
+    /// Makes a viewer window, not shown yet, which deletes itself when closed; null without OpenGL.
     ImageViewer *create(QWidget *parent);
     /// Opens a viewer on the frames; `maskIsSequence` as in FramesRequest.
     void open(const EventFrames &frames, bool maskIsSequence);

@@ -20,13 +20,14 @@ public:
 
     /// Bytes held and not yet taken out as messages.
     qsizetype size() const { return m_held - m_taken; }
-    /// What take() would find.
+    /// Tells what take() would find.
     Next next() const;
 
-    /// Bytes in the order received, in pieces of any size.
+    /// Adds bytes in the order received, in pieces of any size.
     void append(QByteArrayView bytes);
-    /// The same without a copy: where the next bytes are to be written, as many as asked for at most, and how many were.
+    /// Gives room in which to write the next bytes, without the copy of append().
     char *room(qsizetype bytes);
+    /// Takes over as many bytes as were written to the room.
     void commit(qsizetype bytes) { m_held += bytes; }
     /// Takes the first message out; `message` is set when the result is Message.
     Next take(RawMessage &message);

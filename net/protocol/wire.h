@@ -15,7 +15,7 @@ struct MessageHeader {
     quint32 param = 0;
     quint32 command = 0;
 
-    /// The values of the kSize bytes at `bytes`, as they are.
+    /// Reads the kSize bytes at `bytes` and judges none of them.
     static MessageHeader decode(const char *bytes)
     {
         return {quint8(bytes[0]), qFromLittleEndian<qint32>(bytes + 1), qFromLittleEndian<quint32>(bytes + 5),
@@ -24,8 +24,8 @@ struct MessageHeader {
     void appendTo(QByteArray &bytes) const;
 };
 
-/// A whole message as the client sends it: type 0, the payload in plain form.
+/// Encodes a whole message as the client sends it: type 0, the payload in plain form.
 QByteArray encodeMessage(quint32 command, QByteArrayView payload, quint32 param = 0);
-/// A whole message of another type as a Dispatcher sends it; a compressed payload is deflated here, behind its size.
+/// Encodes a whole message of another type as a Dispatcher sends it; deflates a compressed payload, behind its size.
 QByteArray encodeMessage(MessageHeader::Type type, quint32 command, QByteArrayView payload,
                          quint32 param = 0);

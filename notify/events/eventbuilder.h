@@ -7,6 +7,6 @@
 class NotifyEvent;
 struct NotificationPacket;
 
-/// The event that a notification tells of, with its records decoded and its named values filled. A record that cannot
-/// be read counts as an empty one.
+/// Builds the event of a notification: decodes its records and fills its named values. Takes a record that cannot be
+/// read for an empty one.
 std::unique_ptr<NotifyEvent> buildEvent(const NotificationPacket &packet, quint64 eventId);

@@ -22,11 +22,11 @@ public:
 
     int size() const { return int(m_events.size()); }
     const NotifyEvent &at(int row) const { return *m_events[std::size_t(row)]; }
-    /// Null when no event has the id.
+    /// Finds the event of the id; null when there is none.
     const NotifyEvent *find(quint64 eventId) const;
-    /// Those of the events that the list holds, in the order of the ids.
+    /// Finds the events of those ids that the list holds, in the order of the ids.
     QList<const NotifyEvent *> find(const QList<quint64> &eventIds) const;
-    /// First row whose event has this id or a later one; size() when there is none.
+    /// Finds the first row whose event has this id or a later one; size() when there is none.
     int rowFrom(quint64 eventId) const;
     /// The highest severity among the events that are not acknowledged.
     PendingLevel pendingLevel() const;
@@ -38,7 +38,7 @@ public:
     void ackEvent(quint64 eventId);
     void ackAll();
     void removeEvent(quint64 eventId) { removeEvents({eventId}); }
-    /// One pass whatever the number of ids; unknown ones are passed over.
+    /// Removes them in one pass whatever their number; passes unknown ids over.
     void removeEvents(QList<quint64> eventIds);
     void removeAll();
 

@@ -9,8 +9,8 @@
 
 #include <memory>
 
-/// One notification of the farm with the records it came with. A record of data: whoever holds the event may read and
-/// fill it; the events list owns those that are kept.
+/// One notification of the farm with the records it came with. Plain data, which whoever holds the event may fill; the
+/// events list owns the events that are kept.
 class NotifyEvent final : public QObject {
     Q_OBJECT
 

@@ -6,8 +6,7 @@
 #include <functional>
 #include <utility>
 
-/// The small symmetric text cipher of the settings store. It keeps a password from a casual look and protects against
-/// nobody who has the program.
+/// Enciphers texts for the settings store: hides a password from a casual look, and from nobody who has the program.
 ///
 /// Base64 of: version byte 3, flags byte, then chained XOR over one random byte, the integrity prefix and the text's
 /// UTF-8 bytes, compressed where that is shorter.
@@ -18,7 +17,7 @@ public:
     SettingsCipher();
 
     void setKey(quint64 key);
-    /// Source of the one random byte of each text.
+    /// Sets the source of the one random byte of each text.
     void setRandomByte(RandomByte source) { m_randomByte = std::move(source); }
 
     QString encipher(const QString &text) const;

@@ -23,10 +23,10 @@ public:
     /// The store takes the frames and outlives the server; null: nothing is rendered.
     FarmServer(const FarmOptions &options, FrameStore *frames);
 
-    /// Says the port, or the reason when the port cannot be had.
+    /// Listens and logs the port, or why it cannot.
     bool listen();
     bool isPlayed() const { return m_played; }
-    /// Says how many events were sent.
+    /// Logs how many events were sent.
     void logSummary() const;
 
 Q_SIGNALS:

@@ -9,20 +9,20 @@
 #include <deque>
 #include <filesystem>
 
-/// Renders the frames of the night's jobs into a folder of its own, which goes with it unless it is to be kept. Only the
-/// last jobs' frames stay: a night without an end does not fill the disk. What cannot be written is told in the log.
+/// Renders the frames of the night's jobs into a folder of its own, and removes that at its end unless told to keep it.
+/// Keeps the last jobs' frames alone, so that a night without an end does not fill the disk. Logs what it cannot write.
 class FrameStore final {
 public:
     static constexpr std::size_t kJobsKept = 12;
 
-    /// The folder is made in `parent`, empty for the user's temporary folder.
+    /// Makes the folder in `parent`, empty for the user's temporary folder.
     FrameStore(const QString &parent, bool keep, bool halfFrames);
 
     /// False when the folder could not be made.
     bool isUsable() const { return m_folder.isValid(); }
     QString folder() const { return m_folder.path(); }
 
-    /// A chunk that failed lacks the frame in its middle, of one with warnings that frame is cut short.
+    /// Leaves out the middle frame of a chunk that failed, and cuts that of one with warnings short.
     void render(const RenderOrder &order);
 
 private:

@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
-/// The frame as the bytes of an EXR file: R, G, B, A, the layers "diffuse" and "specular", and Z.
+/// Encodes the frame as an EXR file: R, G, B, A, the layers "diffuse" and "specular", and Z.
 std::string encodeExr(const RenderedFrame &frame);
 
-/// The file has its name once it is whole. False when it cannot be written.
+/// Writes a file that gets its name once it is whole. False when it cannot be written.
 bool writeWhole(const std::filesystem::path &path, std::string_view bytes);
-/// The file has its name from the start, as of a renderer that knows no better.
+/// Writes a file that has its name from the start, as a renderer does that knows no better.
 bool writeInPlace(const std::filesystem::path &path, std::string_view bytes);

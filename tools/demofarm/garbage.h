@@ -13,7 +13,7 @@ struct Garbage {
     Effect effect = Effect::Ignored;
 };
 
-/// The kinds come in turns.
+/// Makes the garbage of this turn; the kinds take turns.
 Garbage garbage(int turn);
 /// Number of kinds.
 int garbageKinds();
