@@ -27,12 +27,11 @@ void DispatcherSession::openConnection()
 
 void DispatcherSession::closeConnection()
 {
-    if (m_socket) {
-        m_socket->disconnect(this);
-        m_socket->retire();
-        m_socket = nullptr;
-    }
-    Q_EMIT closed();
+    if (!m_socket)
+        return;
+    m_socket->disconnect(this);
+    m_socket->retire();
+    m_socket = nullptr;
 }
 
 void DispatcherSession::checkLocalConnection()

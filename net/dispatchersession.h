@@ -18,8 +18,7 @@ class DispatcherSession final : public QObject {
 public:
     explicit DispatcherSession(QObject *parent = nullptr);
 
-    const LinkSettings &settings() const { return m_settings; }
-    /// State of the socket, null while there is none.
+    /// Tells the state of the socket; null while there is none.
     std::optional<QAbstractSocket::SocketState> state() const;
     /// True unless the Dispatcher refused the log-in since the settings were last applied.
     bool autoReconnect() const { return m_autoReconnect; }
@@ -32,7 +31,7 @@ public:
     void checkLocalConnection();
     /// Drops the link and connects anew with other settings, also after a refusal.
     void reconnect(const LinkSettings &settings);
-    /// The Dispatcher refused the log-in: drops the link and leaves it down.
+    /// Drops the link and leaves it down, as the Dispatcher refused the log-in.
     void refuse();
     /// False when there is no socket or the message does not fit the send buffer. Messages sent while the link is down
     /// wait and follow the next log-in.
@@ -47,7 +46,6 @@ Q_SIGNALS:
     void disconnected();
     /// There may be whole messages to drain().
     void messageReady();
-    void closed();
 
 private Q_SLOTS:
     void logIn();

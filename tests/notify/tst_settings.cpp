@@ -206,6 +206,7 @@ private Q_SLOTS:
                 QSettings().setValue(key, QString::fromUtf8(changed));
                 const Settings settings = loadSettings();
                 QVERIFY2(settings != Settings(), qPrintable(key));
+                QCOMPARE(loadImageViewerSettings(), group[0] == u"imageViewer" ? settings : Settings());
                 QSettings().remove(key);
                 QVERIFY(saveSettings(settings));
                 QVERIFY2(holds(changed), qPrintable(key));
