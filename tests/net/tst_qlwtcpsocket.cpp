@@ -136,8 +136,7 @@ private Q_SLOTS:
         for (const QByteArray &bytes : {headerOf(1, -1), headerOf(0, std::numeric_limits<qint32>::min()),
                                         compressedMessage("text", -1)}) {
             Link link;
-            QTest::ignoreMessage(QtWarningMsg,
-                                 QRegularExpression(QStringLiteral("Dropped the connection")));
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Dropped the connection")));
             link.peer.send(bytes + encodeMessage(MessageHeader::Plain, 601, "never seen"));
             QTRY_COMPARE(link.socket.state(), QAbstractSocket::UnconnectedState);
             QVERIFY(!link.socket.hasMessage() && link.messages.isEmpty());
