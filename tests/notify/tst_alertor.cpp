@@ -128,7 +128,8 @@ private Q_SLOTS:
         farm.show();
         farm.alertor.activateWindow();
         QTRY_VERIFY(farm.alertor.isActiveWindow());
-        QVERIFY(farm.alertor.frameGeometry().height() > farm.alertor.height()); // the window manager's frame
+        QTRY_VERIFY(farm.alertor.frameGeometry().height()
+                    > farm.alertor.height()); // the window manager's frame
     }
 
     void eventsComeInAndFiltersHold()
