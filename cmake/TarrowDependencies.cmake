@@ -24,7 +24,7 @@ foreach(property INTERFACE_INCLUDE_DIRECTORIES INTERFACE_SYSTEM_INCLUDE_DIRECTOR
   set_target_properties(OpenImageIO::OpenImageIO PROPERTIES ${property} "${folders}")
 endforeach()
 
-if(TARROW_TESTS)
+if(BUILD_TESTING)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 endif()
 if(TARROW_BENCHMARKS)
