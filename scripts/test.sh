@@ -21,7 +21,7 @@ check_format() {
 
 install_packages build test
 step format "Checking the formatting" check_format
-step configure-$preset "Configuring ($preset)" env TARROW_WERROR=ON cmake --preset "$preset" -DTARROW_BENCHMARKS=ON
+step configure-$preset "Configuring ($preset)" cmake --preset "$preset"
 step build-$preset "Building ($preset)" cmake --build --preset "$preset"
 step headers-$preset "Checking that every header stands alone" \
     cmake --build --preset "$preset" --target all_verify_interface_header_sets
