@@ -5,8 +5,9 @@
 /// What the program calls itself: in titles, in the settings store and on the splash.
 namespace product {
 
-inline const QString kProductTitle = QStringLiteral("Tarrow 9.0.14");
-inline const QString kVersion = QStringLiteral("9.0.14");
+/// The build defines the version.
+inline const QString kVersion = QStringLiteral(TARROW_VERSION);
+inline const QString kProductTitle = QStringLiteral("Tarrow " TARROW_VERSION);
 inline const QString kBuildNumber = QStringLiteral("11480");
 inline const QString kBuildDate = QStringLiteral("Thu Aug 29 15:18:04 2019");
 

@@ -9,7 +9,7 @@ import faulttest
 
 import farmtest
 from desktop import READY, WINDOW, client_windows, xdotool
-from farmtest import Program, check, equal, run, wait_for, windows, write_settings
+from farmtest import PRODUCT, Program, check, equal, run, wait_for, windows, write_settings
 
 TEXT = b"[network]\ndispatcherPort=1\n"
 DISKS = {
@@ -45,7 +45,7 @@ def test():
         program.expect(READY)
         inside = f"/proc/{program.pid}/root{faulttest.SETTINGS_FILE}"
         accept_the_preferences()
-        wait_for(lambda: windows("Tarrow 9.0.14"), f"the box that tells of a {disk} disk")
+        wait_for(lambda: windows(PRODUCT), f"the box that tells of a {disk} disk")
         with open(inside, "rb") as file:
             equal(file.read(), TEXT, f"settings on a {disk} disk")
         equal(len(program.matching("Cannot save the settings to ")), 1, f"warnings of a {disk} disk")

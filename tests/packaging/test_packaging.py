@@ -2,12 +2,13 @@
 
 import glob
 import os
+import re
 import subprocess
 import sys
 
 import farmtest
 from desktop import alertor
-from farmtest import check, equal
+from farmtest import PRODUCT, VERSION, check, equal
 
 BUILD, CMAKE = sys.argv[1:3]
 PROGRAMS = ["tarrow-alertor", "tarrow-demofarm", "tarrow-imageinfo", "tarrow-view"]
@@ -52,6 +53,18 @@ def entries_are_valid(prefix, etc):
         equal([line for line in text.splitlines() if "warning:" in line], [], f"warnings of {page}")
 
 
+def versions_agree(prefix):
+    """Of the client, the man pages and the entry for software centres with the project's."""
+    check(f" {VERSION} (" in output(f"{prefix}/bin/tarrow-alertor", "--version"), "the client is of another version")
+    for page in glob.glob(f"{prefix}/share/man/man1/*"):
+        check(f'"{PRODUCT}"' in output("zcat", "--force", page).splitlines()[0], f"{page} is of another version")
+    with open(*glob.glob(f"{prefix}/share/metainfo/*"), encoding="utf-8") as file:
+        release = re.search(r'<release version="(.+)" date="(.+)"/>', file.read())
+    with open(f"{prefix}/share/doc/tarrow-alertor/CHANGELOG.md", encoding="utf-8") as file:
+        dated = re.search(r"^## \[(\d.+)\] - (.+)$", file.read(), re.MULTILINE)
+    equal(release.groups(), dated.groups(), "version and date of the release, to those of the changelog's last")
+
+
 def client_starts(prefix):
     """From a folder that is not the program's, through the link, with the templates that lie beside the program."""
     farmtest.CLIENT = os.path.join(prefix, "bin", "tarrow-alertor")
@@ -78,6 +91,10 @@ def test():
     output("dpkg-deb", "--extract", package, root)
     files_are_there(f"{root}/usr", f"{root}/etc", ".gz")
     entries_are_valid(f"{root}/usr", f"{root}/etc")
+    versions_agree(f"{root}/usr")
+    equal(output("dpkg-deb", "--field", package, "Version"), f"{VERSION}\n", "version of the package")
+    changes = output("zcat", f"{root}/usr/share/doc/tarrow-alertor/changelog.gz")
+    check(changes.startswith(f"tarrow-alertor ({VERSION})"), "the package's changelog is of another version")
     for needed in "libqt6widgets6", "libpython3.11", "libopenimageio2.4":
         check(needed in output("dpkg-deb", "--field", package, "Depends"), f"the package does not name {needed}")
     equal(

@@ -14,6 +14,10 @@ import threading
 # What a healthy program stays far below, even with sanitizers on a busy machine.
 PATIENCE = 60
 
+with open(os.path.join(os.path.dirname(__file__), "../../CMakeLists.txt"), encoding="utf-8") as project:
+    VERSION = re.search(r"VERSION ([\d.]+) LANGUAGES", project.read()).group(1)
+PRODUCT = f"Tarrow {VERSION}"
+
 
 class Failure(Exception):
     pass

@@ -6,7 +6,7 @@ import socket
 import struct
 
 from desktop import write_template
-from farmtest import PATIENCE, client, equal, run, wait_for, windows
+from farmtest import PATIENCE, PRODUCT, client, equal, run, wait_for, windows
 
 PAGE = os.path.join(os.path.dirname(__file__), "..", "..", "docs", "protocol.md")
 HEADER = struct.Struct("<BiII")
@@ -47,7 +47,7 @@ def test():
             alertor.expect(r'event \d type 512 "blade-40 joined"', 2)
             alertor.expect(r'event 3 type 1 "shot_010 is done"')
             alertor.expect('^told {"ask": "host"}$')
-            wait_for(lambda: windows("Tarrow 9.0.14"), "the box that tells of the refusal")
+            wait_for(lambda: windows(PRODUCT), "the box that tells of the refusal")
             equal(stream.read(1), b"", "what follows the log-in when the client hangs up")
     alertor.quit()
 

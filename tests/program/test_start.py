@@ -8,7 +8,7 @@ import subprocess
 
 import farmtest
 from desktop import alertor, click_icon, client_windows, second_start, starting_alertor, write_template, xdotool
-from farmtest import PATIENCE, check, equal, farm, run, wait_for, windows, write_settings
+from farmtest import PATIENCE, PRODUCT, VERSION, check, equal, farm, run, wait_for, windows, write_settings
 
 KEPT_OPEN = []
 SETTINGS = {"network": {"dispatcherPort": 1}, "behaviours": {"showBubble": "false"}}
@@ -16,7 +16,10 @@ SETTINGS = {"network": {"dispatcherPort": 1}, "behaviours": {"showBubble": "fals
 
 def texts_need_no_display():
     environment = {key: value for key, value in os.environ.items() if key not in ("DISPLAY", "QT_QPA_PLATFORM")}
-    for option, wanted in (("--version", "tarrow-alertor 9.0.14 (build 11480)\n"), ("--help", "Usage: tarrow-alertor")):
+    for option, wanted in (
+        ("--version", f"tarrow-alertor {VERSION} (build 11480)\n"),
+        ("--help", "Usage: tarrow-alertor"),
+    ):
         result = subprocess.run(
             [farmtest.CLIENT, option], env=environment, capture_output=True, timeout=PATIENCE, text=True, check=False
         )
@@ -92,7 +95,7 @@ def while_connecting():
 def with_a_box_open():
     night = farm("--deny-login")
     program = alertor("-port", str(night.port))
-    wait_for(lambda: windows("Tarrow 9.0.14"), "the box that tells of the refusal")
+    wait_for(lambda: windows(PRODUCT), "the box that tells of the refusal")
     night.quit()
     return program
 

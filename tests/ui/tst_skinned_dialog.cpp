@@ -314,7 +314,7 @@ private Q_SLOTS:
         QCOMPARE(dialog->size(), QSize(320, 240));
         showAt(*dialog, kPlace);
         whenModalOpens([&](QWidget *question) {
-            QCOMPARE(question->windowTitle(), QStringLiteral("Tarrow 9.0.14"));
+            QCOMPARE(question->windowTitle(), product::kProductTitle);
             QTRY_VERIFY(xuser::isManagedAndActive(*question));
             if (key.isEmpty())
                 dialog.reset();
