@@ -23,6 +23,17 @@ if(TARROW_SANITIZE)
   add_link_options(-fsanitize=${TARROW_SANITIZE})
 endif()
 
+# Hardening: a fault in what reads the network and files ends the program instead of being made use of. The checks of
+# copies need the optimiser.
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+add_compile_options(-fstack-protector-strong
+  "$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  add_link_options(LINKER:-z,relro,-z,now)
+endif()
+
 # Keeps a program's libraries loaded to the end where leaks are looked for.
 function(tarrow_keep_libraries target)
   if(TARROW_SANITIZE)

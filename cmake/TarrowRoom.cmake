@@ -18,7 +18,6 @@ function(tarrow_add_room name)
   # The same headers are read at their own place.
   set_source_files_properties(${headers} PROPERTIES SKIP_AUTOGEN ON)
   target_link_libraries(${target} PUBLIC ${ROOM_DEPENDS} PRIVATE ${ROOM_PRIVATE_DEPENDS})
-  set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
 endfunction()
 
 # The include root of the current folder, and the link in it that stands for the folder.

@@ -22,7 +22,7 @@ function(tarrow_add_translations target)
   # As with the other resources: objects, so that the linker keeps their registration.
   qt_add_resources(objects ${CMAKE_CURRENT_BINARY_DIR}/translations.qrc)
   add_library(${target}_objects OBJECT ${objects})
-  set_target_properties(${target}_objects PROPERTIES POSITION_INDEPENDENT_CODE ON AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+  set_target_properties(${target}_objects PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
   target_link_libraries(${target}_objects PRIVATE Qt6::Core)
   add_library(${target} INTERFACE)
   target_link_libraries(${target} INTERFACE $<TARGET_OBJECTS:${target}_objects> Qt6::Core)
