@@ -3,6 +3,7 @@
 #include <framework/filesystem.h>
 #include <framework/stringhelper.h>
 #include <framework/tframework.h>
+#include <helpers/directorylisting.h>
 #include <template_engine/tmanager.h>
 
 #include <cstdio>
@@ -79,10 +80,10 @@ void Templates::loadTemplates(const Progress &progress)
     std::string folder = TFileSystem::JoinPath(settings, "templates");
     TFileSystem::MakeDirectory(folder, true);
     // By name, so that templates are loaded in the same order everywhere.
-    std::vector<std::string> names = TFileSystem::ListDirectory(folder);
+    std::vector<std::string> names = FarmHelpers::listDirectory(folder);
     if (names.empty()) {
         folder = TFileSystem::JoinPath(TFramework::GetModuleBasePath(), "templates");
-        names = TFileSystem::ListDirectory(folder);
+        names = FarmHelpers::listDirectory(folder);
     }
 
     TTemplateEngine::TTemplatesDirectories directories;

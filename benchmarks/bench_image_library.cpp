@@ -4,6 +4,7 @@
 #include "exrreaders.h"
 #include "ratio.h"
 
+#include <helpers/imagepointer.h>
 #include <image_library/iimagecore.h>
 
 #include <benchmark/benchmark.h>
@@ -38,7 +39,8 @@ struct Contender {
 
 bool loadThroughLibrary(const ExrSample &sample)
 {
-    return TImagePointer(IImageCore::Load(sample.path.c_str(), "exr", sample.wanted, nullptr, nullptr))
+    return FarmHelpers::ImagePointer(
+               IImageCore::Load(sample.path.c_str(), "exr", sample.wanted, nullptr, nullptr))
         != nullptr;
 }
 

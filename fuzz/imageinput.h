@@ -2,6 +2,7 @@
 
 #include "fuzzing.h"
 
+#include <helpers/imagepointer.h>
 #include <image_library/iimagecore.h>
 
 #include <sanitizer/asan_interface.h>
@@ -43,7 +44,7 @@ private:
 
     void read(const char *format, const std::set<std::string> &names) const
     {
-        const TImageLibrary::TImagePointer image(
+        const FarmHelpers::ImagePointer image(
             TImageLibrary::IImageCore::Load(m_path.c_str(), format, names, nullptr, nullptr));
         if (!image)
             return;

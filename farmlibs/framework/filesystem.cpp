@@ -81,16 +81,4 @@ void TFileSystem::EnumDirClose(TDirectoryEnumeration *enumeration)
     delete enumeration;
 }
 
-std::vector<std::string> TFileSystem::ListDirectory(const std::string &folder)
-{
-    std::vector<std::string> names;
-    std::string name;
-    TDirectoryEnumeration *enumeration = EnumDirFirstFile(folder, name);
-    for (bool more = enumeration; more; more = EnumDirNextFile(enumeration, name))
-        names.push_back(name);
-    EnumDirClose(enumeration);
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
 } // namespace TFramework

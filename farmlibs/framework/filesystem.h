@@ -30,8 +30,6 @@ public:
     static bool EnumDirNextFile(TDirectoryEnumeration *enumeration, std::string &name);
     /// Ends a listing; null does nothing.
     static void EnumDirClose(TDirectoryEnumeration *enumeration);
-    /// Lists a folder's bare names in order, without "." and ".."; empty when it cannot be read.
-    static std::vector<std::string> ListDirectory(const std::string &folder);
 
     /// Gives the path of one frame of a mask: "/a/b.####.exr" and 7 give "/a/b.0007.exr". `#` runs, `@` runs and `%04d`
     /// are read, though not a lone `#` or `@` that a letter or digit follows ("logo@2x.png"); the last field of the

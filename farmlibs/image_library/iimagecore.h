@@ -3,7 +3,6 @@
 #include "ctextensionsiterator.h"
 #include "ctimage.h"
 
-#include <memory>
 #include <set>
 #include <string>
 
@@ -45,13 +44,5 @@ public:
 private:
     IImageCore() = default;
 };
-
-/// Ends an image the library's own way.
-struct TImageDestroyer {
-    void operator()(CTImage *image) const { IImageCore::DestroyImage(image); }
-};
-
-/// An image that the library has handed over, with its owner.
-using TImagePointer = std::unique_ptr<CTImage, TImageDestroyer>;
 
 } // namespace TImageLibrary

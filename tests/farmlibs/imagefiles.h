@@ -1,5 +1,6 @@
 #pragma once
 
+#include <helpers/imagepointer.h>
 #include <image_library/iimagecore.h>
 
 #include <ImathBox.h>
@@ -18,7 +19,7 @@
 
 /// Image files that tests write, and what they read back.
 
-using Image = TImageLibrary::TImagePointer;
+using Image = FarmHelpers::ImagePointer;
 
 /// The layers joined with blanks, each quoted; "none" when the file cannot be read.
 QByteArray layersOf(const std::string &path);

@@ -1,6 +1,7 @@
 #include <framework/filesystem.h>
 #include <framework/stringhelper.h>
 #include <framework/tframework.h>
+#include <helpers/directorylisting.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -113,7 +114,7 @@ private Q_SLOTS:
         QVERIFY(!TFileSystem::MakeDirectory(folder, false));
         QVERIFY(TFileSystem::MakeDirectory(folder + '/', true) && TFileSystem::MakeDirectory(folder, true));
         QVERIFY(TFileSystem::MakeDirectory(folder + "/sub", false)
-                && TFileSystem::ListDirectory(folder + "/sub").empty());
+                && FarmHelpers::listDirectory(folder + "/sub").empty());
 
         const std::string odd = "bad\xff.py"; // a name that is no UTF-8 keeps its bytes
         const std::string file = folder + '/' + odd;
@@ -129,12 +130,12 @@ private Q_SLOTS:
             QVERIFY2(!TFileSystem::CheckFile(folder + none), none.c_str());
         QVERIFY(!TFileSystem::MakeDirectory(folder + "/x.py", true));
         QVERIFY(!TFileSystem::MakeDirectory(folder + "/x.py/sub", true));
-        QCOMPARE(TFileSystem::ListDirectory(folder), (Names{odd, "dangling", "sub", "x.py"}));
+        QCOMPARE(FarmHelpers::listDirectory(folder), (Names{odd, "dangling", "sub", "x.py"}));
         QVERIFY(std::filesystem::remove(file)); // QTemporaryDir cannot name it
 
         for (const std::string &path : {std::string(), folder + "/none/deeper", folder + std::string("\0", 1),
                                         std::string(5000, 'x')}) {
-            QVERIFY(TFileSystem::ListDirectory(path).empty() && !TFileSystem::CheckFile(path));
+            QVERIFY(FarmHelpers::listDirectory(path).empty() && !TFileSystem::CheckFile(path));
             QVERIFY(!TFileSystem::MakeDirectory(path, false));
         }
     }

@@ -3,6 +3,7 @@
 #include <demofarm/framestore.h>
 #include <demofarm/scenario.h>
 #include <framework/stringhelper.h>
+#include <helpers/imagepointer.h>
 #include <image_library/iimagecore.h>
 
 #include <table.h>
@@ -32,7 +33,7 @@ std::vector<std::string> values(const QByteArray &base64)
 /// What a layer of one channel holds; empty when the file does not load.
 QByteArray plane(const QString &file, const char *layer)
 {
-    const TImageLibrary::TImagePointer image(
+    const FarmHelpers::ImagePointer image(
         IImageCore::Load(file.toUtf8().constData(), "exr", {layer}, nullptr, nullptr));
     if (!image)
         return {};

@@ -1,5 +1,6 @@
 #include "imagereport.h"
 
+#include <helpers/imagepointer.h>
 #include <image_library/iimagecore.h>
 
 #include <QtCore/QFloat16>
@@ -12,6 +13,7 @@
 #include <set>
 #include <string>
 
+using FarmHelpers::ImagePointer;
 using namespace TImageLibrary;
 
 namespace {
@@ -25,9 +27,9 @@ struct Source {
     QByteArray path;
     const char *format = nullptr;
 
-    TImagePointer load(const Names &names) const
+    ImagePointer load(const Names &names) const
     {
-        return TImagePointer(IImageCore::Load(path.constData(), format, names, nullptr, nullptr));
+        return ImagePointer(IImageCore::Load(path.constData(), format, names, nullptr, nullptr));
     }
 };
 
@@ -96,7 +98,7 @@ bool holdsFloats(const CTImage &image)
 /// floats are looked for in ever smaller groups, until each stands alone.
 bool inspectLayers(const Source &source, const Names &names, ImageReport &report)
 {
-    TImagePointer image = source.load(names);
+    ImagePointer image = source.load(names);
     if (!image)
         return false;
     if (names.size() > 1 && holdsFloats(*image)) {

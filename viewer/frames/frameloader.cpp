@@ -5,6 +5,7 @@
 #include "framedisplay.h"
 
 #include <framework/filesystem.h>
+#include <helpers/imagepointer.h>
 
 #include <algorithm>
 #include <memory>
@@ -16,7 +17,7 @@ using TImageLibrary::IImageCore;
 
 namespace {
 
-using Image = TImageLibrary::TImagePointer;
+using Image = FarmHelpers::ImagePointer;
 
 /// Null when the smaller image cannot be made. No side becomes less than a pixel.
 Image downsampled(Image image, std::int32_t halvings)

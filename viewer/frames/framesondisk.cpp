@@ -1,6 +1,7 @@
 #include "framesondisk.h"
 
 #include <framework/filesystem.h>
+#include <helpers/directorylisting.h>
 #include <image_library/iimagecore.h>
 
 #include <algorithm>
@@ -21,7 +22,7 @@ std::optional<std::int32_t> firstFrameOnDisk(const std::string &mask)
 {
     std::optional<std::int32_t> first;
     const std::string folder = TFileSystem::GetFilePath(mask);
-    for (const std::string &name : TFileSystem::ListDirectory(folder.empty() ? "." : folder)) {
+    for (const std::string &name : FarmHelpers::listDirectory(folder.empty() ? "." : folder)) {
         const std::string path = TFileSystem::JoinPath(folder, name);
         std::int32_t frame = 0;
         const bool isFrame = !TFileSystem::GetSequenceMask(path, true, frame).empty()
@@ -35,7 +36,7 @@ std::optional<std::int32_t> firstFrameOnDisk(const std::string &mask)
 std::string firstImageOf(const std::string &folder)
 {
     std::string single;
-    for (const std::string &name : TFileSystem::ListDirectory(folder)) {
+    for (const std::string &name : FarmHelpers::listDirectory(folder)) {
         std::string path = TFileSystem::JoinPath(folder, name);
         std::int32_t frame = 0;
         const bool isNumbered = !TFileSystem::GetSequenceMask(path, true, frame).empty();
