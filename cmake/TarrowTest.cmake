@@ -1,7 +1,9 @@
 # tarrow_add_test(tst_name SOURCES … LIBRARIES … [DISPLAY] [TRAY] [TIMEOUT seconds])
 #
 # A Qt Test program registered with CTest. It runs with a home folder of its own; with DISPLAY also with an X server
-# and a window manager of its own, with TRAY a tray beside them, so that tests may run side by side.
+# and a window manager of its own, with TRAY a tray beside them, so that tests may run side by side. Those that need
+# neither have the label "headless", and the target headless_tests builds them.
+add_custom_target(headless_tests)
 function(tarrow_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 TEST "DISPLAY;TRAY" "TIMEOUT" "SOURCES;LIBRARIES")
   add_executable(${name} ${TEST_SOURCES})
@@ -18,6 +20,10 @@ function(tarrow_add_test name)
   endif()
   tarrow_register_test(${name} TIMEOUT "${TEST_TIMEOUT}"
     COMMAND ${options} -- $<TARGET_FILE:${name}>)
+  if(NOT options)
+    set_tests_properties(${name} PROPERTIES LABELS headless)
+    add_dependencies(headless_tests ${name})
+  endif()
 endfunction()
 
 # Registers a command that scripts/isolated.sh runs: its options, "--", then the command.
