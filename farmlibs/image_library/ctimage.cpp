@@ -1,6 +1,6 @@
 #include "ctimage.h"
 
-#include "oiiomodule.h"
+#include "imagemodules.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "iimagecore.h"
 
-#include "exrloader.h"
-#include "oiiomodule.h"
+#include "imageloader.h"
+#include "imagemodules.h"
 
 #include <algorithm>
 #include <exception>
@@ -13,18 +13,14 @@ namespace TImageLibrary {
 
 namespace {
 
-const ImageLoader &exrLoader()
-{
-    static const ExrLoader loader;
-    return loader;
-}
-
-/// Asks the loaders one after the other until one gives an answer; what is not asked is not loaded.
+/// The loaders one after the other until one gives an answer; what is not asked is not loaded.
 template <typename Ask>
 auto firstAnswer(const Ask &ask) -> decltype(ask(std::declval<const ImageLoader &>()))
 {
-    if (auto answer = ask(exrLoader()))
-        return answer;
+    if (const ImageLoader *exr = exrModule()) {
+        if (auto answer = ask(*exr))
+            return answer;
+    }
     const OiioModule *oiio = oiioModule();
     return oiio ? ask(oiio->loader) : nullptr;
 }

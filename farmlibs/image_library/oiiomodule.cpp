@@ -1,17 +1,12 @@
-#include "oiiomodule.h"
+#include "imagemodules.h"
+#include "oiioloader.h"
+#include "planes.h"
 
-#include <system/module.h>
+#include <system/moduleexport.h>
 
-namespace TImageLibrary {
-
-const OiioModule *oiioModule()
+TARROW_MODULE_FUNCTION const TImageLibrary::OiioModule *tarrowOiioModule()
 {
-    using Entry = const OiioModule *();
-    static const OiioModule *const module = [] {
-        const Module::Function entry = Module::function("tarrowoiio", "tarrowOiioModule");
-        return entry ? reinterpret_cast<Entry *>(entry)() : nullptr;
-    }();
-    return module;
+    static const TImageLibrary::OiioLoader loader;
+    static const TImageLibrary::OiioModule module{loader, &TImageLibrary::resizeChannel};
+    return &module;
 }
-
-} // namespace TImageLibrary

@@ -12,7 +12,9 @@ struct OiioModule {
     void (*resize)(const CTImageChannel &source, CTImageChannel &target);
 };
 
-/// Loads the module when it is first asked for; null when it cannot be loaded.
+// Each module is loaded when it is first asked for; null when it cannot be loaded.
+
+const ImageLoader *exrModule();
 const OiioModule *oiioModule();
 
 } // namespace TImageLibrary
