@@ -204,6 +204,14 @@ take_pictures() {
     take_viewer_pictures
 }
 
+# Viewer, list and tray in one picture.
+lay_out_overview() {
+    convert -size 1500x760 xc:'#39434f' "$out/viewer-playing.png" -geometry +20+30 -composite \
+        "$out/window.png" -geometry +885+60 -composite \
+        \( "$out/bubble.png" -gravity southeast -crop 172x90+0+0 +repage -transparent black \) -composite \
+        +dither -colors 255 "$out/overview.png"
+}
+
 play_for_pictures() {
     rm -f "$out"/*.png
     start_farm --jobs 8 --rate 25
@@ -214,6 +222,7 @@ play_for_pictures() {
     say "Taking pictures"
     picture root bubble
     take_pictures
+    lay_out_overview
     kill "$client_pid"
     wait "$client_pid" || fail "the client ended with status $?; its output is $out/client.log"
     client_pid=
