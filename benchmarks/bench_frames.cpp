@@ -207,6 +207,8 @@ void compareLoad()
     const Folder folder;
     for (const ExrSample &sample : listSamples(folder.path())) {
         writeSample(sample);
+        TImageLibrary::IImageCore::Probe(
+            sample.path.c_str()); // brings the decoder, and its pool of threads to be kept
         const auto readers = bareReaders(sample);
         const auto fastest =
             std::min_element(readers.begin(), readers.end(), [](const auto &a, const auto &b) {

@@ -188,6 +188,7 @@ int main(int argc, char **argv)
             ->Unit(benchmark::kMillisecond)
             ->UseRealTime();
     }
+    IImageCore::Probe(samples.front().path.c_str()); // brings the decoder, and its pool of threads to be kept
     benchmark::Initialize(&argc, argv);
     for (const ExrSample &sample : samples)
         printRatios(sample);
