@@ -42,6 +42,8 @@ Alertor::Alertor(QWidget *parent)
     , m_sendEntry{this, &sendThrough}
 {
     m_ui->setupUi(this);
+    m_session.setSettings(m_settings.link());
+    m_viewers.setSettings(m_settings);
     m_ui->treeWidget->setModel(&m_model);
     m_ui->treeWidget->installEventFilter(this);
     connect(m_ui->treeWidget, &QWidget::customContextMenuRequested, this, &Alertor::popupMenu);

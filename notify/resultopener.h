@@ -14,7 +14,8 @@ namespace ResultOpener {
 /// Opens the output folders of the events that have one; shows an error for each that cannot be opened.
 void openOutputs(const QList<const NotifyEvent *> &events, QWidget *parent);
 
-/// Starts the application on the first frame of each event that has frames; shows an error for each failure.
+/// Starts the application on the first frame of each event that has frames, or on its mask where no file is named; shows
+/// an error for each failure.
 void openFramesExternally(const QList<const NotifyEvent *> &events, const QString &application,
                           QWidget *parent);
 

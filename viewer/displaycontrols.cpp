@@ -1,6 +1,7 @@
 #include "displaycontrols.h"
 
 #include "ui_imageviewer.h"
+#include "waitcursor.h"
 
 #include <viewer/frames/imageframe.h>
 #include <viewer/session/viewersession.h>
@@ -43,8 +44,10 @@ void DisplayControls::connectPicture()
 
 void DisplayControls::connectSession()
 {
-    connect(m_form.premultipliedButton, &QAbstractButton::toggled, &m_session,
-            &ViewerSession::setPremultiplied);
+    connect(m_form.premultipliedButton, &QAbstractButton::toggled, this, [this](bool on) {
+        const WaitCursor cursor;
+        m_session.setPremultiplied(on);
+    });
     connect(m_form.resizeComboBox, &QComboBox::currentIndexChanged, &m_session,
             &ViewerSession::setDownsampling);
     connect(m_form.layersSelector, &QComboBox::textActivated, &m_session,
@@ -59,7 +62,8 @@ void DisplayControls::connectSession()
 
 void DisplayControls::pickColor(const QString &title, void (imageWidget::*set)(const QColor &), QColor &color)
 {
-    auto *dialog = new QColorDialog(color, m_form.image->window());
+    // Of the window, also while the picture is one of its own.
+    auto *dialog = new QColorDialog(color, m_form.backgroundColorButton->window());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(title);
     imageWidget *image = m_form.image;

@@ -12,8 +12,8 @@ namespace Ui {
 class ImageViewerClass;
 }
 
-/// How the frame is looked at: what lies behind and over it, its channels, its layer and its size. Owned by the window
-/// whose form it fills.
+/// Sets how the frame is looked at: what lies behind and over it, its channels, its layer and its size. Owned by the
+/// window whose form it fills.
 class DisplayControls final : public QObject {
     Q_OBJECT
 

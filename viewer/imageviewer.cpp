@@ -7,6 +7,7 @@
 #include "markingcontrols.h"
 #include "transportcontrols.h"
 #include "ui_imageviewer.h"
+#include "waitcursor.h"
 #include "zoomcontrol.h"
 
 #include <viewer/frames/cachetotals.h>
@@ -23,14 +24,6 @@ namespace {
 constexpr QSize kInitialSize(640, 480);
 constexpr const char *kKeysProperty = "keys";
 
-class WaitCursor {
-    Q_DISABLE_COPY_MOVE(WaitCursor)
-
-public:
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-};
-
 } // namespace
 
 ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QWidget *parent)
@@ -46,7 +39,6 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     m_session = std::make_unique<ViewerSession>(totals, picture());
     m_zoom = new ZoomControl({m_ui->image, m_ui->horizontalScrollBar, m_ui->verticalScrollBar,
                               m_ui->fitPixelSize, m_ui->setPixelSize});
-    m_calibration = m_ui->calibrationPanel;
     m_transport = std::make_unique<TransportControls>(*m_ui, *m_session);
     m_display = std::make_unique<DisplayControls>(*m_ui, *m_session);
     m_markings = std::make_unique<MarkingControls>(*m_ui, *m_session);
@@ -57,7 +49,7 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     connectSession();
     filterKeys();
     retranslate();
-    m_calibration->reset(m_settings.defaultImportGamma);
+    calibration().reset(m_settings.defaultImportGamma);
     enableZoom();
     buildFrame();
     resize(kInitialSize);
@@ -67,13 +59,17 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
 
 ImageViewer::~ImageViewer()
 {
-    m_zoom->disconnect(this);
-    picture().disconnect(this);
+    m_zoom->disconnect(this); // it goes with the picture, whose last changes it would tell
 }
 
 imageWidget &ImageViewer::picture() const
 {
     return *m_ui->image;
+}
+
+CalibrationPanel &ImageViewer::calibration() const
+{
+    return *m_ui->calibrationPanel;
 }
 
 void ImageViewer::connectPath()
@@ -99,8 +95,10 @@ void ImageViewer::connectCalibration()
     imageWidget *image = m_ui->image;
     connect(m_ui->calibrationButton, &QAbstractButton::toggled, m_ui->calibrationHolder,
             &QWidget::setVisible);
-    connect(m_calibration, &CalibrationPanel::calibrationChanged, image, &imageWidget::setCalibration);
-    connect(m_calibration, &CalibrationPanel::inputGammaChanged, image, &imageWidget::setSourceGamma);
+    connect(m_ui->calibrationPanel, &CalibrationPanel::calibrationChanged, image,
+            &imageWidget::setCalibration);
+    connect(m_ui->calibrationPanel, &CalibrationPanel::inputGammaChanged, image,
+            &imageWidget::setSourceGamma);
     for (QToolButton *reset : {m_ui->calibrationReset, m_ui->calibrationResetToDefaults})
         connect(reset, &QAbstractButton::clicked, this, &ImageViewer::resetCalibration);
     connect(m_ui->calibrationSaveAsDefault, &QAbstractButton::clicked, this,
@@ -197,8 +195,8 @@ void ImageViewer::pickFramesPath()
 void ImageViewer::resetCalibration()
 {
     const ImageFrame *frame = picture().frame();
-    m_calibration->reset(frame && frame->formatName == "exr" ? m_settings.exrImportGamma
-                                                             : m_settings.defaultImportGamma);
+    calibration().reset(frame && frame->formatName == "exr" ? m_settings.exrImportGamma
+                                                            : m_settings.defaultImportGamma);
 }
 
 // Kept for the button that is there: a calibration is not remembered.

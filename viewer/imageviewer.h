@@ -22,7 +22,7 @@ namespace Ui {
 class ImageViewerClass;
 }
 
-/// The viewer window: shows what its session is about, and wires the session, the picture and the controls to each other.
+/// The viewer window: builds the form and its panels, and wires session, picture, zoom and calibration to each other.
 /// It deletes itself when closed.
 class ImageViewer final : public QSkinnedDialog {
     Q_OBJECT
@@ -34,7 +34,7 @@ public:
 
     ViewerSession &session() const { return *m_session; }
     imageWidget &picture() const;
-    CalibrationPanel &calibration() const { return *m_calibration; }
+    CalibrationPanel &calibration() const;
 
     /// Before the frames path is set: what it is to be read for. The window's title tells of it.
     void setJob(JobFrames job);
@@ -73,7 +73,6 @@ private:
     const ViewerSettings m_settings;
     std::unique_ptr<ViewerSession> m_session; // ends before the picture that shows its frames
     ZoomControl *m_zoom = nullptr;
-    CalibrationPanel *m_calibration = nullptr;
     // These end before the session.
     std::unique_ptr<TransportControls> m_transport;
     std::unique_ptr<DisplayControls> m_display;

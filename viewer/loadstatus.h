@@ -24,6 +24,7 @@ private:
     struct StatusPictures {
         QPixmap missing;
         QPixmap broken;
+        // Kept for frames of jobs under way: what is shown of them today is that they are missing.
         QPixmap noFileInProgress;
         QPixmap processing;
     };

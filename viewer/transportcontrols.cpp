@@ -105,7 +105,8 @@ void TransportControls::showRange()
     const std::set<long> &frames = m_session.sequence().frames;
     const PlaybackRange &range = m_session.range();
     // Steps stay within the range: the timeline knows of no frame outside it.
-    m_form.timeline->setFrames({frames.lower_bound(range.start), frames.upper_bound(range.end)});
+    const std::vector<std::int32_t> &played = m_session.playedFrames();
+    m_form.timeline->setFrames({played.begin(), played.end()});
     m_form.timeline->setRange(range.start, range.end);
     m_form.timeline->setByFrame(range.step);
     const auto show = [&frames, &range](FrameStrip &strip) {

@@ -28,7 +28,7 @@ public:
     static TDirectoryEnumeration *EnumDirFirstFile(const std::string &folder, std::string &name);
     /// Gives the next entry's bare name; false behind the last.
     static bool EnumDirNextFile(TDirectoryEnumeration *enumeration, std::string &name);
-    /// Ends a listing; null does nothing.
+    /// Ends a listing.
     static void EnumDirClose(TDirectoryEnumeration *enumeration);
 
     /// Gives the path of one frame of a mask: "/a/b.####.exr" and 7 give "/a/b.0007.exr". `#` runs, `@` runs and `%04d`

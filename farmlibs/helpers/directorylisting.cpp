@@ -13,7 +13,8 @@ std::vector<std::string> FarmHelpers::listDirectory(const std::string &folder)
     TFramework::TDirectoryEnumeration *enumeration = TFileSystem::EnumDirFirstFile(folder, name);
     for (bool more = enumeration; more; more = TFileSystem::EnumDirNextFile(enumeration, name))
         names.push_back(name);
-    TFileSystem::EnumDirClose(enumeration);
+    if (enumeration)
+        TFileSystem::EnumDirClose(enumeration);
     std::sort(names.begin(), names.end());
     return names;
 }

@@ -24,7 +24,7 @@ struct SettingsRow {
 
 using SettingsRows = std::span<const SettingsRow>;
 
-/// What viewers need; every other row is in the table of settings.cpp.
+/// The group "imageViewer", which a viewer without the farm reads alone; every other row is in the table of settings.cpp.
 extern const SettingsRows kImageViewerRows;
 
 /// As loadSettings() and saveSettings(), for these rows alone.

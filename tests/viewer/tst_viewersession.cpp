@@ -119,6 +119,8 @@ private Q_SLOTS:
         QVERIFY(m_session->step());
         QVERIFY(!m_session->step());
         QCOMPARE(m_session->frame(), 4);
+        m_session->setFrame(4); // the frame on show is not loaded again
+        QCOMPARE(loads.count(), 2);
     }
 
     void typedRanges_data()
@@ -223,6 +225,9 @@ private Q_SLOTS:
         m_session->mark(2, {.addChunk = true});
         m_session->mark(2, {.addChunk = true});
         m_session->mark(5, {.addChunk = true}); // of no known chunk
+        const auto before = changed.count();
+        m_session->mark(5, {}); // a plain pick
+        QCOMPARE(changed.count(), before);
         m_session->mark(4, {.addFrame = true});
         m_session->mark(1, {.addFrame = true});
         QCOMPARE(marking.markedChunks(), (MarkedChunks{{2, 1}}));

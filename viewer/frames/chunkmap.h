@@ -21,6 +21,16 @@ using MarkedChunk = std::pair<std::int32_t, std::int64_t>;
 using MarkedChunks = QSet<MarkedChunk>;
 using MarkedFrames = QSet<std::int32_t>;
 
+/// What a pick on the timeline asks for beside its frame; nothing by default.
+struct MarkRequest {
+    bool addChunk = false;
+    bool addFrame = false;
+    bool removeChunk = false;
+    bool removeFrame = false;
+
+    bool operator==(const MarkRequest &other) const = default;
+};
+
 /// End of the map for a frame past the last chunk, or between the chunks that are known.
 inline ChunkMap::const_iterator chunkOf(const ChunkMap &chunks, long frame)
 {

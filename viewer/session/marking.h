@@ -5,14 +5,6 @@
 
 #include <vector>
 
-/// What a pick on the timeline asks for beside its frame.
-struct MarkRequest {
-    bool addChunk = false;
-    bool addFrame = false;
-    bool removeChunk = false;
-    bool removeFrame = false;
-};
-
 /// The bad frames and chunks that the user has marked in one viewer window.
 class Marking final {
 public:

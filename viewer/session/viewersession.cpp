@@ -64,10 +64,7 @@ void ViewerSession::open(const FramesRequest &request)
 void ViewerSession::reload()
 {
     if (!m_sequence.framesPath.empty())
-        open({.path = m_sequence.framesPath,
-              .force = true,
-              .preferredFrame = m_frame,
-              .maskIsSequence = m_sequence.isSequence});
+        open({.path = m_sequence.framesPath, .force = true, .maskIsSequence = m_sequence.isSequence});
 }
 
 void ViewerSession::setFrame(long frame)
@@ -190,7 +187,7 @@ void ViewerSession::togglePlaying()
 
 void ViewerSession::mark(int frame, const MarkRequest &request)
 {
-    if (!m_job.isSet())
+    if (!m_job.isSet() || request == MarkRequest{})
         return;
     m_marking.apply(frame, request);
     Q_EMIT marksChanged();

@@ -36,6 +36,8 @@ public:
     std::string file() const { return m_sequence.fileOf(m_frame); }
     /// Lies within the sequence.
     const PlaybackRange &range() const { return m_range; }
+    /// Frames of the sequence within the range, in order: what steps and playback stop at.
+    const std::vector<std::int32_t> &playedFrames() const { return m_played; }
     const LayerList &layers() const { return m_layers; }
     /// Entry of layers().
     const std::string &layer() const { return m_layer; }
@@ -105,7 +107,7 @@ private:
     Marking m_marking;
     JobFrames m_job;
     FrameSequence m_sequence;
-    std::vector<std::int32_t> m_played; // frames of the sequence within the range
+    std::vector<std::int32_t> m_played;
     PlaybackRange m_range;
     LoadResult m_lastLoad;
     LayerList m_layers;

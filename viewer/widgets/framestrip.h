@@ -8,7 +8,7 @@
 
 class QPainter;
 
-/// A thin strip under the timeline, on the same scale: colours each frame and hatches the missing ones. Takes no input;
+/// A thin strip beside the timeline, on the same scale: colours each frame and hatches the missing ones. Takes no input;
 /// setters do not repaint.
 class FrameStrip : public QWidget {
 public:

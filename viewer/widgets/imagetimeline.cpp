@@ -1,5 +1,6 @@
 #include "imagetimeline.h"
 
+#include <viewer/frames/chunkmap.h>
 #include <viewer/frames/framesteps.h>
 
 #include <QtGui/QGuiApplication>
@@ -17,14 +18,7 @@ constexpr int kLineTop = 15;
 constexpr int kBaseline = 10;
 
 /// What the modifier keys that are down make of a pick.
-struct Request {
-    bool addChunk = false;
-    bool addFrame = false;
-    bool removeChunk = false;
-    bool removeFrame = false;
-};
-
-Request currentRequest()
+MarkRequest currentRequest()
 {
     const Qt::KeyboardModifiers keys = QGuiApplication::keyboardModifiers();
     const bool remove = keys.testFlag(Qt::AltModifier);
@@ -148,7 +142,7 @@ void imageTimeline::mouseReleaseEvent(QMouseEvent *event)
         return;
     m_position = frame;
     show(frame);
-    const Request request = currentRequest();
+    const MarkRequest request = currentRequest();
     Q_EMIT frameChanged(frame, request.addChunk, request.addFrame, request.removeChunk, request.removeFrame);
 }
 
@@ -172,7 +166,7 @@ void imageTimeline::dragTo(std::int32_t frame)
     if (frame == m_scrubFrame || !m_scale.contains(frame))
         return;
     show(frame);
-    const Request request = currentRequest();
+    const MarkRequest request = currentRequest();
     Q_EMIT frameScrubbed(frame, request.addChunk, request.addFrame, request.removeChunk, request.removeFrame);
 }
 

@@ -1,0 +1,84 @@
+"""The viewer's own program as a user calls it: what it grabs, by pixels, and how it ends."""
+
+import os
+import subprocess
+import sys
+
+from farmtest import check, equal
+
+VIEW = os.path.abspath(sys.argv[1])
+FOLDER = os.environ["TMPDIR"]
+SIZE = "16x8"
+
+
+def path(name):
+    return os.path.join(FOLDER, name)
+
+
+def oiiotool(*arguments):
+    subprocess.run(["oiiotool", *arguments], check=True, capture_output=True)
+
+
+def make(name, colour, channels="R,G,B,A"):
+    oiiotool("--pattern", f"constant:color={colour}", SIZE, str(channels.count(",") + 1), "--chnames", channels, "-d", "half", "-o", path(name))
+
+
+def view(*arguments, code=0):
+    """What the program prints, both streams; the code is the one that it ends with."""
+    done = subprocess.run([VIEW, *arguments], capture_output=True, text=True, timeout=120)
+    equal(done.returncode, code, f"exit of {arguments}: {done.stdout}{done.stderr}")
+    return done.stdout + done.stderr
+
+
+def pixel(*arguments):
+    """The colour in the middle of what is grabbed, 0 to 255."""
+    view(*arguments, "--grab", path("grab.png"))
+    oiiotool(path("grab.png"), "-o", path("grab.ppm"))
+    with open(path("grab.ppm"), "rb") as file:
+        header, size, most, pixels = file.read().split(b"\n", 3)
+    equal((header, size, most), (b"P6", SIZE.replace("x", " ").encode(), b"255"), "the grabbed file")
+    at = 3 * (4 * 16 + 8)
+    return tuple(pixels[at:at + 3])
+
+
+make("a.exr", "0.5,0.25,1,1")
+make("shot.0001.exr", "0,0,0,1")
+make("shot.0002.exr", "1,1,1,1")
+make("shot.-0001.exr", "0,1,0,1")
+make("layers.exr", "0,0,0,1,1,0.25,0", "R,G,B,A,mask.R,mask.G,mask.B")
+oiiotool("--pattern", "constant:color=0.5,0.25,1", SIZE, "3", "-d", "uint8", "-o", path("a.png"))
+with open(path("broken.exr"), "wb") as broken:
+    broken.write(b"\x76\x2f\x31\x01 and no more")
+os.mkdir(path("empty"))
+
+# 0.5 and 0.25 under EXR's import gamma of 2.2; other formats show as they are.
+equal(pixel(path("a.exr")), (186, 136, 255), "EXR")
+equal(pixel(path("a.png")), (128, 64, 255), "PNG")
+equal(pixel("--gl2", path("a.exr")), (186, 136, 255), "EXR by OpenGL 2.1")
+equal(pixel("--set", "inputGamma=1,outputGamma=1", path("a.exr")), (128, 64, 255), "neutral gamma")
+equal(pixel("--set", "inputGamma=1", "--set", "brightness=0.5", path("a.exr")), (0, 0, 128), "two sets")
+for mode, shown in [("rgba", (186, 136, 255)), ("red", (186,) * 3), ("green", (136,) * 3), ("blue", (255,) * 3), ("alpha", (255,) * 3)]:
+    equal(pixel("--channel", mode, path("a.exr")), shown, mode)
+make("b.exr", "0.25,0.5,0,1")
+equal(pixel("--channel", "luminance", path("b.exr")), (186,) * 3, "luminance, the largest of the three")
+
+mask = path("shot.####.exr")
+equal(pixel(mask), (0, 0, 0), "a mask starts at its first frame")
+equal(pixel("--frame", "2", mask), (255, 255, 255), "the frame that is asked for")
+equal(pixel("--frame", "-1", mask), (0, 255, 0), "a frame below 0")
+equal(pixel("--layer", "mask.RGB", path("layers.exr")), (255, 136, 0), "the layer that is asked for")
+os.mkdir(path("folder"))
+os.rename(path("shot.0002.exr"), path("folder/shot.0002.exr"))
+equal(pixel(path("folder")), (255, 255, 255), "a folder's first sequence")
+os.chdir(path("folder"))
+equal(pixel("shot.0002.exr"), (255, 255, 255), "a path of the working directory")
+
+check("Usage: tarrow-view [options] [PATH]" in " ".join(view("--help").split()), "the usage line")
+for arguments in [["--frame", "x", mask], ["--channel", "cyan", mask], ["--set", "brightness", mask], ["--set", "glow=1", mask],
+                  ["--set", "brightness=nan", mask], ["--unknown"], [mask, mask], ["--frame"]]:
+    view(*arguments, code=2)
+grab = ["--grab", path("none.png")]
+for arguments in [[*grab, path("missing.exr")], [*grab, path("broken.exr")], [*grab, path("empty")], grab,
+                  [*grab, "--layer", "depth", path("a.exr")], ["--grab", path("missing/none.png"), path("a.exr")]]:
+    check(view(*arguments, code=1).strip(), f"{arguments} failed without a word")
+check(not os.path.exists(path("none.png")), "a failed grab left a file")
