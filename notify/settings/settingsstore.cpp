@@ -79,14 +79,18 @@ struct Writer {
     }
 };
 
+/// False of the registry.
+bool isFile(const QSettings &store)
+{
+    return !store.fileName().startsWith(QLatin1String("\\HKEY_"));
+}
+
 /// QSettings does not notice a write that a full disk or a quota cuts off, and puts the torn file in the place of the
 /// old one. So there must be room for the whole file first.
 bool hasRoom(const QSettings &store)
 {
-#ifdef Q_OS_WIN
-    Q_UNUSED(store); // the registry
-    return true;
-#else
+    if (!isFile(store))
+        return true;
     const QFileInfo file(store.fileName());
     if (!QDir().mkpath(file.path()))
         return false;
@@ -94,7 +98,6 @@ bool hasRoom(const QSettings &store)
     const QByteArray ballast(file.size() + kMargin, '\0');
     QTemporaryFile probe(file.filePath() + QStringLiteral(".XXXXXX"));
     return probe.open() && probe.write(ballast) == ballast.size() && probe.flush();
-#endif
 }
 
 /// The file holds a password that the cipher merely hides: it is for its owner alone, from its first byte on. QSettings
@@ -102,15 +105,13 @@ bool hasRoom(const QSettings &store)
 /// has chosen who reads what it points to.
 void keepToOwner(const QSettings &store)
 {
-#ifdef Q_OS_WIN
-    Q_UNUSED(store); // the registry
-#else
+    if (!isFile(store))
+        return;
     constexpr QFile::Permissions kOwner = QFile::ReadOwner | QFile::WriteOwner;
     QFile file(store.fileName());
     const bool isNew = file.open(QIODevice::WriteOnly | QIODevice::NewOnly, kOwner);
     if (!isNew && !QFileInfo(file).isSymLink())
         file.setPermissions(kOwner);
-#endif
 }
 
 } // namespace
