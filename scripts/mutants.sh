@@ -12,4 +12,4 @@ case ${1-} in
     --help) sed -n '2,6s/^# \{0,1\}//p' "$0"; exit 0 ;;
 esac
 install_packages build test
-exec /usr/bin/python3 -B "$root/tests/mutants/mutants.py" "$root" "$@"
+exec /usr/bin/python3 -B "$root/scripts/mutants.py" "$root" "$@"
