@@ -39,6 +39,7 @@ void printPaint(const char *name, long frames, long missing, QWidget &widget)
     widget.resize(kWidth, widget.sizeHint().height());
     QPixmap pixels(widget.size());
     std::vector<double> measured;
+    measured.reserve(kPaints);
     for (int paint = 0; paint < kPaints; ++paint)
         measured.push_back(threadMilliseconds([&] { widget.render(&pixels); }));
     std::nth_element(measured.begin(), measured.begin() + kPaints / 2, measured.end());

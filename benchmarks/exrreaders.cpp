@@ -74,7 +74,7 @@ bool decodeChunks(exr_context_t file, const ExrSample &sample)
     if (exr_get_scanlines_per_chunk(file, 0, &lines) != EXR_ERR_SUCCESS)
         return false;
     const std::map<std::string, Plane> planes = takePlanes(sample);
-    exr_decode_pipeline_t decoder = EXR_DECODE_PIPELINE_INITIALIZER;
+    exr_decode_pipeline_t decoder{};
     bool ok = true;
     for (int y = 0; ok && y < sample.height; y += lines) {
         exr_chunk_info_t chunk{};
@@ -124,7 +124,9 @@ void writeSample(const ExrSample &sample)
     Imf::FrameBuffer buffer;
     const auto size = std::size_t(sample.width) * 2;
     std::vector<std::vector<half>> planes;
-    for (int seed = 0; seed < 4; ++seed)
+    constexpr int kPictures = 4;
+    planes.reserve(kPictures);
+    for (int seed = 0; seed < kPictures; ++seed)
         planes.push_back(picture(sample.width, sample.height, seed));
     for (std::size_t i = 0; i < sample.channels.size(); ++i) {
         header.channels().insert(sample.channels[i], Imf::Channel(Imf::HALF));

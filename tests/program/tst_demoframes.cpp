@@ -16,7 +16,6 @@
 #include <string>
 #include <vector>
 
-using TImageLibrary::CTImage;
 using TImageLibrary::IImageCore;
 
 namespace {
