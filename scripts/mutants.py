@@ -62,11 +62,12 @@ class Copy:
     """The tracked files of the project, and a build of them."""
 
     def __init__(self, root):
-        self.source = os.path.join(root, "build", "mutants", "source")
-        self.build_folder = os.path.join(root, "build", "mutants", "build")
+        self.source = os.path.join(root, "build", "mutants")
+        # Where a checkout has it: what the compiler's cache knows of one serves the other.
+        self.build_folder = os.path.join(self.source, "build", "dev")
         os.makedirs(self.source, exist_ok=True)
         self.take(root)
-        self.run("cmake", "--preset", "dev", "-B", self.build_folder, must=True)
+        self.run("cmake", "--preset", "dev", must=True)
         self.run("cmake", "--build", self.build_folder, must=True)
         self.tests = re.findall(r"Test +#\d+: (\S+)", self.run("ctest", "--test-dir", self.build_folder, "-N", must=True)[1])
 
@@ -80,7 +81,8 @@ class Copy:
                 shutil.copy(original, copy)
 
     def run(self, *command, must=False):
-        done = subprocess.run(command, cwd=self.source, stdin=subprocess.DEVNULL, capture_output=True, text=True, errors="replace")
+        done = subprocess.run(command, cwd=self.source, stdin=subprocess.DEVNULL, capture_output=True, text=True, errors="replace",
+                              env={"CCACHE_BASEDIR": self.source, "CCACHE_NOHASHDIR": "1", **os.environ})
         if must and done.returncode != 0:
             sys.exit(f"{' '.join(command)} failed:\n{(done.stdout + done.stderr)[-4000:]}")
         return done.returncode == 0, done.stdout
