@@ -19,11 +19,11 @@ SLOWEST_TEST = 90  # seconds; a test that stands still has noticed
 
 # The tests that look at a folder most closely; the others run only when these stay green.
 CLOSEST = [
-    ("app/", "tst_templates|tst_startup|program_(start|instance|login|templates)"),
-    ("net/", "tst_messagereader|tst_packets|tst_qlwtcpsocket|tst_dispatchersession|program_(login|protocol|reconnect)"),
+    ("app/", "tst_templates|tst_startup|program_(start|instance|protocol|templates)"),
+    ("net/", "tst_messagereader|tst_packets|tst_qlwtcpsocket|tst_dispatchersession|program_(protocol|reconnect)"),
     ("notify/settings/", "tst_settings|tst_messagereader"),
     ("notify/events/", "tst_events|tst_alertor"),
-    ("notify/", "tst_(alertor|events|preferences|settings)|program_(tray|sound|refusal)"),
+    ("notify/", "tst_(alertor|events|preferences|settings)|program_(tray|sound|protocol)"),
     ("viewer/frames/", "tst_(frame|compositelayers|viewersession)"),
     ("viewer/session/", "tst_viewersession|tst_imageviewer$"),
     ("viewer/widgets/", "tst_(picture|imagewidget|timeline|strips)|tst_imageviewer$"),

@@ -313,9 +313,10 @@ private Q_SLOTS:
         overrides.applyTo(settings);
         QCOMPARE(settings, expected);
 
+        settings.skipDirectoryAuthentication = true;
         overrides = {u"farm"_s, u"me"_s, u""_s, 1};
         overrides.applyTo(settings);
-        QCOMPARE(settings.link(), (LinkSettings{u"farm"_s, 1, u"me"_s, u""_s, false}));
+        QCOMPARE(settings.link(), (LinkSettings{u"farm"_s, 1, u"me"_s, u""_s, true}));
     }
 
 private:
