@@ -1,9 +1,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
-#include <QtCore/QtEndian>
 #include <QtGui/QImageReader>
 #include <QtGui/QPainter>
-#include <QtGui/QRawFont>
 #include <QtSvg/QSvgRenderer>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
@@ -47,13 +45,6 @@ int difference(const QImage &first, const QImage &second)
     return count;
 }
 
-/// The weight in the font's own table: the rasterizer knows no more than regular and bold.
-int weightOf(const QRawFont &font)
-{
-    const QByteArray table = font.fontTable("OS/2");
-    return table.size() < 6 ? -1 : qFromBigEndian<quint16>(table.constData() + 4);
-}
-
 } // namespace
 
 class TestResources : public QObject {
@@ -61,10 +52,6 @@ class TestResources : public QObject {
 
 private Q_SLOTS:
     void iconsDifferInShape();
-    void pictures_data();
-    void pictures();
-    void fonts_data();
-    void fonts();
     void styleSheetsAreRead();
     void styleSheetPicturesExist();
 };
@@ -83,55 +70,6 @@ void TestResources::iconsDifferInShape()
                                     .arg(pixels)));
         }
     }
-}
-
-void TestResources::pictures_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QSize>("size");
-    const auto add = [](const QString &folder, std::initializer_list<const char *> names, QSize size) {
-        for (const char *name : names)
-            QTest::addRow("%s", name) << folder + QLatin1String(name) << size;
-    };
-    add(QStringLiteral(":/Misc/Resources/"), {"splash"}, {596, 320});
-    add(QStringLiteral(":/Wins/Resources/wins/"), {"close", "setsize", "refresh"}, {11, 11});
-    add(QStringLiteral(":/Activity/Resources/"),
-        {"missingfile", "brokenfile", "nofileinprogress", "processing"}, {160, 120});
-    add(QStringLiteral(":/player/"), {"first", "previous", "play", "stop", "next", "last"}, {16, 16});
-}
-
-void TestResources::pictures()
-{
-    QFETCH(QString, path);
-    QFETCH(QSize, size);
-    QImageReader plain(path + QStringLiteral(".png"));
-    QImageReader dense(path + QStringLiteral("@2x.png"));
-    QCOMPARE(plain.format(), QByteArray("png"));
-    QCOMPARE(plain.read().size(), size);
-    QCOMPARE(dense.read().size(), size * 2);
-}
-
-void TestResources::fonts_data()
-{
-    QTest::addColumn<QString>("suffix");
-    QTest::addColumn<int>("weight");
-    const std::pair<const char *, int> faces[] = {
-        {"Hai", 100}, {"Lig", 300}, {"Reg", 400}, {"Bol", 700}, {"Bla", 900}};
-    for (const auto &[name, weight] : faces)
-        QTest::addRow("%s", name) << QString::fromLatin1(name) << weight;
-}
-
-void TestResources::fonts()
-{
-    QFETCH(QString, suffix);
-    QFETCH(int, weight);
-    const QRawFont upright(QStringLiteral(":/Fonts/Resources/fonts/Lato-%1.ttf").arg(suffix), 12);
-    const QRawFont italic(QStringLiteral(":/Fonts/Resources/fonts/Lato-%1Ita.ttf").arg(suffix), 12);
-    QVERIFY(upright.familyName().startsWith(QStringLiteral("Lato")));
-    QCOMPARE(weightOf(upright), weight);
-    QCOMPARE(weightOf(italic), weight);
-    QCOMPARE(upright.style(), QFont::StyleNormal);
-    QVERIFY(italic.style() != QFont::StyleNormal);
 }
 
 /// A sheet with one slip of the pen is dropped whole, with no more than a warning.
