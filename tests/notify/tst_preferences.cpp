@@ -220,32 +220,6 @@ private Q_SLOTS:
             QVERIFY(m_dialog->rect().contains(button->geometry().translated(button->parentWidget()->pos())));
     }
 
-    void tabReachesEverything()
-    {
-        const QWidget *viewport = child<QScrollArea>(u"scrollArea"_s)->viewport();
-        QSet<QWidget *> expected;
-        for (QWidget *widget : m_dialog->findChildren<QWidget *>()) {
-            if (widget->focusPolicy() & Qt::TabFocus && !widget->focusProxy())
-                expected += widget;
-        }
-        QCOMPARE(expected.size(), 18 + 14 + 1 + 6 + 2);
-
-        QWidget *const first = child<QWidget>(u"filterJobStart"_s);
-        first->setFocus();
-        QWidget *previous = first;
-        while (expected.remove(QApplication::focusWidget())) {
-            previous = QApplication::focusWidget();
-            if (viewport->isAncestorOf(previous))
-                QVERIFY2(viewport->rect().contains(previous->geometry().translated(
-                             previous->parentWidget()->mapTo(viewport, QPoint()))),
-                         qPrintable(previous->objectName()));
-            QTest::keyClick(previous, Qt::Key_Tab);
-        }
-        QCOMPARE(expected, QSet<QWidget *>());
-        QCOMPARE(previous->parentWidget()->objectName(), u"buttonBox"_s);
-        QCOMPARE(QApplication::focusWidget(), first);
-    }
-
     void buttonsAndKeysEndIt()
     {
         const QSignalSpy finished(m_dialog.get(), &QDialog::finished);
