@@ -3,8 +3,6 @@
 
 #include <app/templates.h>
 
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
@@ -160,28 +158,6 @@ private Q_SLOTS:
                                        QByteArray("\xff\xfe \n\x01")})
             templates.invokeCustomMessage(0, text);
         QCOMPARE(m_link->payloads(), (QList<QByteArray>{"x:ab", "x:a", "x:", "x:\xff\xfe \n\x01"}));
-    }
-
-    void exampleAnswers()
-    {
-        QVERIFY(QDir().mkpath(userFile(QString())));
-        QVERIFY(QFile::copy(QStringLiteral(TARROW_EXAMPLES "/hostreport.py"), userFile(u"hostreport.py"_qs)));
-        Templates templates;
-        load(templates);
-        templates.invokeCustomMessage(12, R"({"ask": "weather"})");
-        QCOMPARE(m_link->messages.size(), 0);
-        templates.invokeCustomMessage(12, R"({"ask": "host", "number": 7})");
-        QCOMPARE(m_link->messages.size(), 1);
-        QCOMPARE(m_link->messages[0].command, 1204U);
-        QCOMPARE(m_link->messages[0].param, 12U);
-        const QJsonObject answer = QJsonDocument::fromJson(m_link->messages[0].payload).object();
-        QCOMPARE(answer[u"question"_qs].toInt(), 7);
-        QCOMPARE(answer[u"host"_qs].toString(), QSysInfo::machineHostName());
-
-        m_link->accepts = false;
-        CapturedOutput errors(STDERR_FILENO);
-        templates.invokeCustomMessage(12, R"({"ask": "host", "number": 8})");
-        QCOMPARE(errors.take(), QByteArray("Host report: no link to the Dispatcher\n"));
     }
 
 private:

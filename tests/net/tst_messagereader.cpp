@@ -47,17 +47,6 @@ private Q_SLOTS:
         }
     }
 
-    void everyTruncationWaits()
-    {
-        const QByteArray wire = encodeMessage(MessageHeader::Plain, 601, "payload");
-        for (qsizetype cut = 0; cut <= wire.size(); ++cut) {
-            MessageReader reader;
-            reader.append(QByteArrayView{wire}.first(cut));
-            RawMessage message;
-            QCOMPARE(reader.take(message) == MessageReader::Next::Message, cut == wire.size());
-        }
-    }
-
     void negativeLengthBreaksTheStreamUntilCleared()
     {
         MessageReader reader;
