@@ -1,4 +1,5 @@
 #include "fakedisplay.h"
+#include "jobframes.h"
 #include "table.h"
 
 #include <viewer/frames/framebuilder.h>
@@ -12,11 +13,6 @@
 #include <QtGui/QImage>
 #include <QtGui/qopengl.h>
 #include <QtTest/QTest>
-
-#include <ImfChannelList.h>
-#include <ImfFrameBuffer.h>
-#include <ImfHeader.h>
-#include <ImfOutputFile.h>
 
 #include <limits>
 #include <vector>
@@ -43,22 +39,13 @@ std::unique_ptr<ImageFrame> frameOf(const TPlaneFormat &format)
     return buildFrame(makeImage({{"", format}}), std::string());
 }
 
-/// A file of float channels, the first one all 1.0, the second 2.0, and so on.
+/// A file of these channels, the first one all 1.0, the second 2.0, and so on.
 void writeExr(const QString &path, const Bytes &names, int side = 2)
 {
-    Imf::Header header(side, side);
-    Imf::FrameBuffer pixels;
-    std::vector<std::vector<float>> planes;
-    for (const Bytes &name : names.split(' ')) {
-        header.channels().insert(name.constData(), Imf::Channel(Imf::FLOAT));
-        planes.emplace_back(std::size_t(side * side), float(planes.size() + 1));
-        pixels.insert(name.constData(),
-                      Imf::Slice(Imf::FLOAT, reinterpret_cast<char *>(planes.back().data()), sizeof(float),
-                                 sizeof(float) * std::size_t(side)));
-    }
-    Imf::OutputFile file(path.toLocal8Bit().constData(), header);
-    file.setFrameBuffer(pixels);
-    file.writePixels(side);
+    ExrChannels channels;
+    for (const Bytes &name : names.split(' '))
+        channels.emplace_back(name.toStdString(), float(channels.size() + 1));
+    writeFrame(path, {side, side}, channels);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "glpath.h"
+#include "jobframes.h"
 #include "modals.h"
 
 #include <ui/product.h>
@@ -8,8 +9,6 @@
 #include <viewer/imageviewer.h>
 #include <viewer/session/viewersession.h>
 #include <viewer/widgets/imagewidget.h>
-
-#include <ImfRgbaFile.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -26,23 +25,13 @@
 #include <QtWidgets/QToolButton>
 
 #include <memory>
-#include <vector>
 
 using namespace Qt::StringLiterals;
-using TClientLib::TChunk;
 using TClientLib::TJob;
 
 namespace {
 
 constexpr QSize kFrame(64, 48);
-
-void writeFrame(const QString &path, QSize size = kFrame)
-{
-    Imf::RgbaOutputFile file(path.toLocal8Bit().constData(), size.width(), size.height(), Imf::WRITE_RGBA);
-    const std::vector<Imf::Rgba> pixels(std::size_t(size.width() * size.height()), {0.5F, 0.25F, 1, 1});
-    file.setFrameBuffer(pixels.data(), 1, std::size_t(size.width()));
-    file.writePixels(size.height());
-}
 
 TJob jobOf(int first, int last)
 {
@@ -51,15 +40,6 @@ TJob jobOf(int first, int last)
     job.setName("shot");
     job.setFrameRanges({{first, last, 1}});
     return job;
-}
-
-TChunk chunkOf(int id, int first, int last)
-{
-    TChunk chunk;
-    chunk.setChunkId(id);
-    chunk.setJobId(42);
-    chunk.setFrames(first, last, 1);
-    return chunk;
 }
 
 } // namespace
@@ -82,7 +62,7 @@ private Q_SLOTS:
         m_folder = std::make_unique<QTemporaryDir>();
         m_totals = {};
         for (int i = 1; i <= 5; ++i)
-            writeFrame(path(u"shot.%1.exr"_s.arg(i, 4, 10, QLatin1Char('0'))));
+            writeFrame(path(u"shot.%1.exr"_s.arg(i, 4, 10, QLatin1Char('0'))), kFrame);
     }
 
     void cleanup()
@@ -215,7 +195,7 @@ private Q_SLOTS:
         press(Qt::Key_Up); // the keys are still the frames'
         QVERIFY(session().lastLoad().shown());
         press(Qt::Key_Down);
-        writeFrame(missing);
+        writeFrame(missing, kFrame);
         QTRY_VERIFY(session().lastLoad().shown());
         QVERIFY(find("imageWarningWidget")->isHidden());
         QVERIFY(reason->text().isEmpty());
