@@ -22,7 +22,7 @@ isolated() {
 on_client() {
     local script=$1
     shift
-    isolated /usr/bin/python3 -B "$faults/test_$script.py" "$build/bin/tarrow-alertor" "$build/bin/tarrow-demofarm" "$@"
+    PYTHONPATH=$root/tests/program isolated /usr/bin/python3 -B "$faults/test_$script.py" "$build/bin/tarrow-alertor" "$build/bin/tarrow-demofarm" "$@"
 }
 
 install_packages build test

@@ -5,11 +5,9 @@ The disk is mounted for the client alone, which takes a system that lets users d
 import os
 import signal
 
-import faulttest
-
 import farmtest
-from desktop import READY, WINDOW, client_windows, xdotool
-from farmtest import PRODUCT, Program, check, equal, run, wait_for, windows, write_settings
+from desktop import READY, WINDOW, choose_in_menu, xdotool
+from farmtest import PRODUCT, SETTINGS_FILE, Program, check, equal, run, wait_for, windows, write_settings
 
 TEXT = b"[network]\ndispatcherPort=1\n"
 DISKS = {
@@ -20,19 +18,15 @@ DISKS = {
 
 def client_on(disk):
     """The client where its settings folder is such a disk."""
-    path = faulttest.SETTINGS_FILE
     script = f'{{ {DISKS[disk]}; }}; exec "$3"'
-    command = ["unshare", "--map-root-user", "--mount", "sh", "-c", script, os.path.dirname(path), TEXT.decode(), path]
-    return Program("the client", command + [farmtest.CLIENT], {"QT_LOGGING_RULES": "tarrow.app.debug=true"})
+    arguments = [os.path.dirname(SETTINGS_FILE), TEXT.decode(), SETTINGS_FILE, farmtest.CLIENT]
+    command = ["unshare", "--map-root-user", "--mount", "sh", "-c", script, *arguments]
+    return Program("the client", command, {"QT_LOGGING_RULES": "tarrow.app.debug=true"})
 
 
 def accept_the_preferences():
     wait_for(lambda: windows(WINDOW), "the window")
-    shown = client_windows()
-    xdotool("search", "--onlyvisible", "--name", f"^{WINDOW}$", "windowactivate", "--sync")
-    xdotool("key", "alt+m")
-    wait_for(lambda: len(client_windows()) == len(shown) + 1, "the menu")
-    xdotool("key", "c")
+    choose_in_menu("c")
     wait_for(lambda: windows("Alertor Preferences"), "the preferences")
     xdotool("search", "--onlyvisible", "--name", "^Alertor Preferences$", "windowactivate", "--sync")
     xdotool("key", "Return")
@@ -43,7 +37,7 @@ def test():
     for disk in DISKS:
         program = client_on(disk)
         program.expect(READY)
-        inside = f"/proc/{program.pid}/root{faulttest.SETTINGS_FILE}"
+        inside = f"/proc/{program.pid}/root{SETTINGS_FILE}"
         accept_the_preferences()
         wait_for(lambda: windows(PRODUCT), f"the box that tells of a {disk} disk")
         with open(inside, "rb") as file:

@@ -1,7 +1,5 @@
 """The session bus dies under the client: the link, the list and the orderly end do not need it."""
 
-import faulttest  # noqa: F401, before what it makes known
-
 from desktop import READY
 from farmtest import EVENT, Program, client, farm, run
 

@@ -88,6 +88,15 @@ def click_icon(button, times, condition, what):
                 raise
 
 
+def choose_in_menu(key):
+    """Opens the menu of the button that stands in for the tray, and presses the key."""
+    shown = client_windows()
+    xdotool("windowactivate", "--sync", windows(WINDOW)[-1])
+    xdotool("key", "alt+m")
+    wait_for(lambda: len(client_windows()) == len(shown) + 1, "the menu of the button")
+    xdotool("key", key)
+
+
 def client_windows():
     """The client's visible windows, its icon in the tray included."""
     return set(xdotool("search", "--onlyvisible", "--classname", "^tarrow-alertor$"))

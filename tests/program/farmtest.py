@@ -17,6 +17,7 @@ PATIENCE = 60
 with open(os.path.join(os.path.dirname(__file__), "../../CMakeLists.txt"), encoding="utf-8") as project:
     VERSION = re.search(r"VERSION ([\d.]+) LANGUAGES", project.read()).group(1)
 PRODUCT = f"Tarrow {VERSION}"
+SETTINGS_FILE = os.path.join(os.environ["XDG_CONFIG_HOME"], "Loomwright", "Tarrow\\9\\Alertor.conf")
 
 
 class Failure(Exception):
@@ -123,13 +124,18 @@ EVENT = r"^tarrow\.notify: event "
 
 def write_settings(groups):
     """The client's settings file in the home of this test."""
-    folder = os.path.join(os.environ["XDG_CONFIG_HOME"], "Loomwright")
-    os.makedirs(folder, exist_ok=True)
-    with open(os.path.join(folder, "Tarrow\\9\\Alertor.conf"), "w", encoding="utf-8") as file:
+    os.makedirs(os.path.dirname(SETTINGS_FILE), exist_ok=True)
+    with open(SETTINGS_FILE, "w", encoding="utf-8") as file:
         for group, values in groups.items():
             file.write(f"[{group}]\n")
             for key, value in values.items():
                 file.write(f"{key}={value}\n")
+
+
+def stored_settings():
+    """What the settings file holds, and what stands beside it."""
+    with open(SETTINGS_FILE, "rb") as file:
+        return file.read(), os.listdir(os.path.dirname(SETTINGS_FILE))
 
 
 def windows(title):

@@ -4,20 +4,11 @@ import os
 import sys
 
 import accessible
-from desktop import WINDOW, alertor, client_windows, xdotool
+from desktop import WINDOW, alertor, choose_in_menu, xdotool
 from farmtest import EVENT, Program, check, equal, farm, run, wait_for, windows, write_settings
 
 KINDS = {"Success", "Warning", "Error", "Start", "Service", "Alert"}
 COLUMNS = 8
-
-
-def choose_in_menu(key):
-    """The menu of the button that stands in for the tray."""
-    xdotool("windowactivate", "--sync", windows(WINDOW)[-1])
-    shown = client_windows()
-    xdotool("key", "alt+m")
-    wait_for(lambda: len(client_windows()) > len(shown), "the menu")
-    xdotool("key", key)
 
 
 def rows_say_their_state(sent):

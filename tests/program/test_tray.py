@@ -2,7 +2,7 @@
 
 import subprocess
 
-from desktop import WINDOW, alertor, click_icon, client_windows, icon_position, second_start, tray, xdotool
+from desktop import WINDOW, alertor, choose_in_menu, click_icon, client_windows, icon_position, second_start, tray, xdotool
 from farmtest import check, equal, run, wait_for, windows, write_settings
 
 TITLE = f"^{WINDOW}$"
@@ -22,10 +22,7 @@ def close_window():
 def without_a_tray():
     wait_for(lambda: windows(WINDOW), "the window")
     shown = client_windows()
-    xdotool("search", "--onlyvisible", "--name", TITLE, "windowactivate", "--sync")
-    xdotool("key", "alt+m")
-    wait_for(lambda: len(client_windows()) == len(shown) + 1, "the menu of the button")
-    xdotool("key", "Escape")
+    choose_in_menu("Escape")
     wait_for(lambda: client_windows() == shown, "the menu to go")
     close_window()
     wait_for(lambda: "_NET_WM_STATE_HIDDEN" in state_of_window(), "the window to go to the task bar")
