@@ -28,7 +28,7 @@ on_client() {
 install_packages build test
 step configure-faults "Configuring" cmake --preset dev -B "$build" -DCMAKE_BUILD_TYPE=RelWithDebInfo
 step build-faults "Building" cmake --build "$build" --target tst_endurance tarrow-alertor tarrow-demofarm
-step_shown endurance "Restarts, garbage and bursts" \
+step_shown endurance "Restarts and bursts" \
     env TARROW_ENDURANCE=1 QTEST_FUNCTION_TIMEOUT=3600000 "$root/scripts/isolated.sh" --display -- \
     "$build/tests/tst_endurance"
 step_shown signals "Requests to end at any moment" on_client signals 200

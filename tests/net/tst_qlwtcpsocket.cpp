@@ -92,15 +92,6 @@ private Q_SLOTS:
                                      ended("less than announced"), ended("")}));
     }
 
-    void singleBytesAddUp()
-    {
-        Link link;
-        link.peer.link()->setSocketOption(QAbstractSocket::LowDelayOption, 1);
-        for (const char byte : encodeMessage(MessageHeader::Plain, 601, "bit by bit"))
-            link.peer.send(QByteArray(1, byte));
-        QTRY_COMPARE(link.messages, QByteArrayList{ended("bit by bit")});
-    }
-
     void limitOfOneMessage()
     {
         Link link;

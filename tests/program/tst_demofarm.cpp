@@ -1,10 +1,8 @@
 #include <client_lib/tchunk.h>
 #include <client_lib/tjob.h>
 #include <demofarm/farmoptions.h>
-#include <demofarm/garbage.h>
 #include <demofarm/scenario.h>
 #include <framework/stringhelper.h>
-#include <net/protocol/messagereader.h>
 #include <net/protocol/packets.h>
 
 #include <QtTest/QTest>
@@ -132,19 +130,6 @@ private Q_SLOTS:
             whole += event.pause;
         const double rate = double(events.size()) / std::chrono::duration<double>(whole).count();
         QVERIFY2(rate > 45 && rate < 55, qPrintable(QString::number(rate)));
-    }
-
-    void garbageIsWhatItSays()
-    {
-        for (int turn = 0; turn < garbageKinds(); ++turn) {
-            const Garbage piece = garbage(turn);
-            MessageReader reader;
-            reader.append(piece.bytes);
-            RawMessage frame;
-            // What is to be passed over must be a whole frame, or the events behind it would be lost with it.
-            QVERIFY(piece.effect == Garbage::Effect::BreaksLink
-                    || (reader.take(frame) == MessageReader::Next::Message && reader.size() == 0));
-        }
     }
 
     void commandLine()

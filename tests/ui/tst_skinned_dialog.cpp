@@ -109,22 +109,6 @@ private Q_SLOTS:
         }
     }
 
-    void windowManagerGivesTheKeyboard()
-    {
-        QWidget parent;
-        parent.show();
-        Dialog dialog(&parent);
-        auto *edit = new QLineEdit(dialog.content());
-        dialog.show();
-        QTRY_VERIFY(xuser::isManagedAndActive(dialog));
-        xuser::act(QStringLiteral("type frame"));
-        QTRY_COMPARE(edit->text(), QStringLiteral("frame"));
-        dialog.hide();
-        QTRY_VERIFY(xuser::isManagedAndActive(parent));
-        dialog.show();
-        QTRY_VERIFY(xuser::isManagedAndActive(dialog));
-    }
-
     // Moved there later, from a screen of another scale, it would be scaled twice.
     void nativeWindowIsMadeOverTheParent()
     {
