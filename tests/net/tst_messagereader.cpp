@@ -1,3 +1,5 @@
+#include "table.h"
+
 #include <net/protocol/messagereader.h>
 #include <notify/settings/inflate.h>
 
@@ -61,27 +63,25 @@ private Q_SLOTS:
 
     void inflateKeepsToItsBounds_data()
     {
-        QTest::addColumn<QByteArray>("stream");
-        QTest::addColumn<qsizetype>("capacity");
-        QTest::addColumn<qsizetype>("size"); // -1: refused
         const auto stream = [](const QByteArray &plain) {
             return encodeMessage(MessageHeader::Compressed, 601, plain).sliced(MessageHeader::kSize + 4);
         };
         const QByteArray text = QByteArray("frame ").repeated(1000);
-        const QByteArray bomb = stream(QByteArray(kMaxInflatedSize + 1, '\0'));
-        QTest::newRow("exact") << stream(text) << qsizetype(6000) << qsizetype(6000);
-        QTest::newRow("announced larger") << stream(text) << qsizetype(2'000'000'000) << qsizetype(6000);
-        QTest::newRow("announced smaller by one") << stream(text) << qsizetype(5999) << qsizetype(-1);
-        QTest::newRow("announced nothing") << stream(text) << qsizetype(0) << qsizetype(-1);
-        QTest::newRow("nothing in it") << stream({}) << qsizetype(0) << qsizetype(0);
-        QTest::newRow("followed by other bytes")
-            << stream(text) + "tail" << qsizetype(6000) << qsizetype(6000);
-        QTest::newRow("cut off") << stream(text).chopped(1) << qsizetype(6000) << qsizetype(-1);
-        QTest::newRow("no stream") << QByteArray("not zlib") << qsizetype(6000) << qsizetype(-1);
-        QTest::newRow("no bytes") << QByteArray() << qsizetype(6000) << qsizetype(-1);
-        QTest::newRow("bomb at the limit")
-            << stream(QByteArray(kMaxInflatedSize, '\0')) << qsizetype(2'000'000'000) << kMaxInflatedSize;
-        QTest::newRow("bomb over the limit") << bomb << qsizetype(2'000'000'000) << qsizetype(-1);
+        // -1: refused
+        addTable<QByteArray, qsizetype, qsizetype>(
+            {"stream", "capacity", "size"},
+            {{"exact", stream(text), 6000, 6000},
+             {"announced larger", stream(text), 2'000'000'000, 6000},
+             {"announced smaller by one", stream(text), 5999, -1},
+             {"announced nothing", stream(text), 0, -1},
+             {"nothing in it", stream({}), 0, 0},
+             {"followed by other bytes", stream(text) + "tail", 6000, 6000},
+             {"cut off", stream(text).chopped(1), 6000, -1},
+             {"no stream", "not zlib", 6000, -1},
+             {"no bytes", {}, 6000, -1},
+             {"bomb at the limit", stream(QByteArray(kMaxInflatedSize, '\0')), 2'000'000'000,
+              kMaxInflatedSize},
+             {"bomb over the limit", stream(QByteArray(kMaxInflatedSize + 1, '\0')), 2'000'000'000, -1}});
     }
 
     void inflateKeepsToItsBounds()

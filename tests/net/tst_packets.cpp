@@ -1,3 +1,5 @@
+#include "table.h"
+
 #include <net/protocol/packets.h>
 
 #include <QtTest/QTest>
@@ -41,24 +43,17 @@ private Q_SLOTS:
 
     void notificationFields_data()
     {
-        QTest::addColumn<QByteArray>("payload");
-        QTest::addColumn<bool>("accepted");
-        QTest::addColumn<qint64>("type");
-        QTest::addColumn<qint64>("time");
-        QTest::newRow("six fields") << QByteArray("m\n1\n2\nu\n\n") << false << qint64(0) << qint64(0);
-        QTest::newRow("seven fields") << QByteArray("m\n1\n2\nu\n\n\n") << true << qint64(1) << qint64(2);
-        QTest::newRow("more fields") << QByteArray("m\n1\n2\nu\n\n\nx\ny\nz") << true << qint64(1)
-                                     << qint64(2);
-        QTest::newRow("zero byte ends it")
-            << QByteArray("m\n1\n2\nu\n\n\0\n", 12) << false << qint64(0) << qint64(0);
-        QTest::newRow("no numbers") << QByteArray("m\nx\n\nu\n\n\n") << true << qint64(0) << qint64(0);
-        QTest::newRow("wide type is cut")
-            << QByteArray("m\n4294967297\n2\nu\n\n\n") << true << qint64(1) << qint64(2);
-        QTest::newRow("top bit is a sign")
-            << QByteArray("m\n4294967295\n2\nu\n\n\n") << true << qint64(-1) << qint64(2);
-        QTest::newRow("nothing") << QByteArray() << false << qint64(0) << qint64(0);
-        QTest::newRow("a million separators")
-            << QByteArray(1'000'000, '\n') << true << qint64(0) << qint64(0);
+        addTable<QByteArray, bool, qint64, qint64>(
+            {"payload", "accepted", "type", "time"},
+            {{"six fields", "m\n1\n2\nu\n\n", false, 0, 0},
+             {"seven fields", "m\n1\n2\nu\n\n\n", true, 1, 2},
+             {"more fields", "m\n1\n2\nu\n\n\nx\ny\nz", true, 1, 2},
+             {"zero byte ends it", QByteArray("m\n1\n2\nu\n\n\0\n", 12), false, 0, 0},
+             {"no numbers", "m\nx\n\nu\n\n\n", true, 0, 0},
+             {"wide type is cut", "m\n4294967297\n2\nu\n\n\n", true, 1, 2},
+             {"top bit is a sign", "m\n4294967295\n2\nu\n\n\n", true, -1, 2},
+             {"nothing", {}, false, 0, 0},
+             {"a million separators", QByteArray(1'000'000, '\n'), true, 0, 0}});
     }
 
     void notificationFields()

@@ -51,56 +51,52 @@ class TestResources : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void iconsDifferInShape();
-    void styleSheetsAreRead();
-    void styleSheetPicturesExist();
+    /// Who cannot tell the colours apart still tells the icons apart in the smallest tray.
+    void iconsDifferInShape()
+    {
+        for (const char *first : kIcons) {
+            const QImage image = drawnGrey(first);
+            QVERIFY2(!image.isNull(), first);
+            for (const char *second : kIcons) {
+                const int pixels = difference(image, drawnGrey(second));
+                QVERIFY2(first == second || pixels >= 32,
+                         qPrintable(QStringLiteral("%1 and %2 differ in %3 pixels")
+                                        .arg(QLatin1String(first), QLatin1String(second))
+                                        .arg(pixels)));
+            }
+        }
+    }
+
+    /// A sheet with one slip of the pen is dropped whole, with no more than a warning.
+    void styleSheetsAreRead()
+    {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+        qApp->setStyleSheet(text(QStringLiteral(":/Styles/tarrow.qss"))
+                            + text(QStringLiteral(":/Styles/shared.qss")));
+        QDialog dialog;
+        QWidget header(&dialog);
+        header.setObjectName(QStringLiteral("skinnedDialogHeaderLabel"));
+        dialog.ensurePolished();
+        header.ensurePolished();
+        QCOMPARE(dialog.palette().color(QPalette::Window), QColor(0x2b, 0x2b, 0x2b));
+        QCOMPARE(header.palette().color(QPalette::Window), QColor(0x3a, 0x3a, 0x3a));
+        qApp->setStyleSheet({});
+    }
+
+    void styleSheetPicturesExist()
+    {
+        const QRegularExpression url(QStringLiteral("url\\(([^)]*)\\)"));
+        int count = 0;
+        for (const char *name : {":/Styles/tarrow.qss", ":/Styles/shared.qss"}) {
+            auto matches = url.globalMatch(text(QLatin1String(name)));
+            for (; matches.hasNext(); ++count) {
+                const QString path = matches.next().captured(1);
+                QVERIFY2(QImageReader(path).canRead(), qPrintable(path));
+            }
+        }
+        QVERIFY(count > 0);
+    }
 };
-
-/// Who cannot tell the colours apart still tells the icons apart in the smallest tray.
-void TestResources::iconsDifferInShape()
-{
-    for (const char *first : kIcons) {
-        const QImage image = drawnGrey(first);
-        QVERIFY2(!image.isNull(), first);
-        for (const char *second : kIcons) {
-            const int pixels = difference(image, drawnGrey(second));
-            QVERIFY2(first == second || pixels >= 32,
-                     qPrintable(QStringLiteral("%1 and %2 differ in %3 pixels")
-                                    .arg(QLatin1String(first), QLatin1String(second))
-                                    .arg(pixels)));
-        }
-    }
-}
-
-/// A sheet with one slip of the pen is dropped whole, with no more than a warning.
-void TestResources::styleSheetsAreRead()
-{
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
-    qApp->setStyleSheet(text(QStringLiteral(":/Styles/tarrow.qss"))
-                        + text(QStringLiteral(":/Styles/shared.qss")));
-    QDialog dialog;
-    QWidget header(&dialog);
-    header.setObjectName(QStringLiteral("skinnedDialogHeaderLabel"));
-    dialog.ensurePolished();
-    header.ensurePolished();
-    QCOMPARE(dialog.palette().color(QPalette::Window), QColor(0x2b, 0x2b, 0x2b));
-    QCOMPARE(header.palette().color(QPalette::Window), QColor(0x3a, 0x3a, 0x3a));
-    qApp->setStyleSheet({});
-}
-
-void TestResources::styleSheetPicturesExist()
-{
-    const QRegularExpression url(QStringLiteral("url\\(([^)]*)\\)"));
-    int count = 0;
-    for (const char *name : {":/Styles/tarrow.qss", ":/Styles/shared.qss"}) {
-        auto matches = url.globalMatch(text(QLatin1String(name)));
-        for (; matches.hasNext(); ++count) {
-            const QString path = matches.next().captured(1);
-            QVERIFY2(QImageReader(path).canRead(), qPrintable(path));
-        }
-    }
-    QVERIFY(count > 0);
-}
 
 QTEST_MAIN(TestResources)
 #include "tst_resources.moc"

@@ -1,3 +1,5 @@
+#include "table.h"
+
 #include <viewer/frames/compositelayers.h>
 
 #include <QtTest/QTest>
@@ -27,46 +29,36 @@ class CompositeLayersTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void layers_data();
-    void layers();
+    void layers_data()
+    {
+        // The names before the bar; the textures are those of a composite.
+        addTable<QByteArray, QByteArray, bool, QByteArray, QByteArray>(
+            {"entries", "chosen", "fresh", "entry", "textures"},
+            {{"-|Default", "Default", "Default", true, "Default", ""},
+             {"R G B Z|", "RGB Z", "", false, "RGB", "R G B"},
+             {"R G B Z|Default", "RGB Z", "Default", true, "RGB", "R G B"},
+             {"R G B Z|spec.R", "RGB Z", "spec.R", false, "spec.R", ""},
+             {"R G B A p.R p.G p.B -|Default", "p.RGB RGBA Default", "Default", false, "RGBA", "R G B A"},
+             {"R G B A p.R p.G p.B -|spec.R", "p.RGB RGBA Default", "spec.R", true, "RGBA", "R G B A"},
+             {"R G A r g b|G", "A G R b g r", "G", true, "G", ""},
+             {"R G B A Y BY RY|YCbCr", "YCbCr RGBA", "YCbCr", true, "YCbCr", "Y BY RY"},
+             {"d.R d.G d.B d.A spec.R A|", "d.RGBA A spec.R", "", true, "d.RGBA", "d.R d.G d.B d.A"},
+             {"a.R a.G a.B b.Y b.BY b.RY b.A xR xG xB|", "b.YCbCrA a.RGB xB xG xR", "", true, "b.YCbCrA",
+              "b.Y b.BY b.RY b.A"}});
+    }
+
+    void layers()
+    {
+        QFETCH(const QByteArray, chosen);
+        QFETCH(const bool, fresh);
+        const LayerList list = listLayers(namesOf(QByteArray(QTest::currentDataTag()).split('|').first()));
+        QTEST(joined(list.entries), "entries");
+        const std::string entry = list.resolved(chosen.toStdString(), fresh);
+        QTEST(QByteArray::fromStdString(entry), "entry");
+        const CompositeLayer *composite = list.composite(entry);
+        QTEST(composite ? joined(composite->members) : QByteArray(), "textures");
+    }
 };
-
-void CompositeLayersTest::layers_data()
-{
-    QTest::addColumn<QByteArray>("entries");
-    QTest::addColumn<QByteArray>("chosen");
-    QTest::addColumn<bool>("fresh");
-    QTest::addColumn<QByteArray>("entry");
-    QTest::addColumn<QByteArray>("textures"); // of a composite
-    const auto row = [](const char *names, const char *entries, const char *chosen, bool fresh,
-                        const char *entry, const char *textures) {
-        QTest::addRow("%s|%s", names, chosen) << QByteArray(entries) << QByteArray(chosen) << fresh
-                                              << QByteArray(entry) << QByteArray(textures);
-    };
-    row("-", "Default", "Default", true, "Default", "");
-    row("R G B Z", "RGB Z", "", false, "RGB", "R G B");
-    row("R G B Z", "RGB Z", "Default", true, "RGB", "R G B");
-    row("R G B Z", "RGB Z", "spec.R", false, "spec.R", "");
-    row("R G B A p.R p.G p.B -", "p.RGB RGBA Default", "Default", false, "RGBA", "R G B A");
-    row("R G B A p.R p.G p.B -", "p.RGB RGBA Default", "spec.R", true, "RGBA", "R G B A");
-    row("R G A r g b", "A G R b g r", "G", true, "G", "");
-    row("R G B A Y BY RY", "YCbCr RGBA", "YCbCr", true, "YCbCr", "Y BY RY");
-    row("d.R d.G d.B d.A spec.R A", "d.RGBA A spec.R", "", true, "d.RGBA", "d.R d.G d.B d.A");
-    row("a.R a.G a.B b.Y b.BY b.RY b.A xR xG xB", "b.YCbCrA a.RGB xB xG xR", "", true, "b.YCbCrA",
-        "b.Y b.BY b.RY b.A");
-}
-
-void CompositeLayersTest::layers()
-{
-    QFETCH(const QByteArray, chosen);
-    QFETCH(const bool, fresh);
-    const LayerList list = listLayers(namesOf(QByteArray(QTest::currentDataTag()).split('|').first()));
-    QTEST(joined(list.entries), "entries");
-    const std::string entry = list.resolved(chosen.toStdString(), fresh);
-    QTEST(QByteArray::fromStdString(entry), "entry");
-    const CompositeLayer *composite = list.composite(entry);
-    QTEST(composite ? joined(composite->members) : QByteArray(), "textures");
-}
 
 QTEST_APPLESS_MAIN(CompositeLayersTest)
 #include "tst_compositelayers.moc"

@@ -1,3 +1,5 @@
+#include "table.h"
+
 #include <viewer/frames/framesequence.h>
 #include <viewer/frames/framesteps.h>
 
@@ -39,131 +41,114 @@ class FrameSequenceTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void paths_data();
-    void paths();
-    void records_data();
-    void records();
-    void steps();
+    void initTestCase()
+    {
+        for (const char *name :
+             {"shot.03.exr", "shot.04.exr", "shot.05.exr", "shot.07.exr", "shot.08.exr", "lone.0007.exr",
+              "n.-001.exr", "n.000.exr", "end.2147483646.exr", "end.2147483647.exr", "end.2147483648.exr"}) {
+            QFile file(QString::fromStdString(path(name)));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        QVERIFY(QDir(m_folder.path()).mkdir(u"shot.06.exr"_qs)); // a folder is no frame
+    }
+
+    void paths_data()
+    {
+        // A bar ends the path.
+        addTable<int, bool, QByteArray>(
+            {"preferred", "maskIsSequence", "expected"},
+            {{"shot.04.exr", kNone, false, "shot.##.exr: 3 4 5 @4"},
+             {"shot.08.exr", 3, false, "shot.##.exr: 7 8 @8"},
+             {"n.000.exr", kNone, false, "n.###.exr: -1 0 @0"},
+             {"end.2147483647.exr", kNone, false, "end.##########.exr: 2147483646 2147483647 @2147483647"},
+             {"lone.0007.exr", kNone, true, "file lone.0007.exr: 7 @7"},
+             {"logo.png", 5, true, "file logo.png: 1 @1"},
+             {"shot.%02d.exr", 4, true, "shot.%02d.exr: 3 4 5 @4"},
+             {"n.###.exr", -1, true, "n.###.exr: -1 0 @-1"},
+             {"shot.##.exr", 4, false, "file shot.04.exr: 4 @4"},
+             {"shot.##.exr|", kNone, true, "shot.##.exr: 3 4 5 @3"},
+             {"none.##.exr", kNone, true, "file none.00.exr: 0 @0"},
+             {"lone.####.exr", 7, true, "file lone.0007.exr: 7 @7"}});
+    }
+
+    void paths()
+    {
+        QFETCH(const int, preferred);
+        QFETCH(const bool, maskIsSequence);
+        const QByteArray name = QByteArray(QTest::currentDataTag()).split('|').first();
+        FramesRequest request{.path = path(name), .maskIsSequence = maskIsSequence};
+        if (preferred != kNone)
+            request.preferredFrame = preferred;
+        QTEST(text(openFrames(request, {})), "expected");
+    }
+
+    void records_data()
+    {
+        addTable<bool, Numbers, QByteArray, int, QByteArray>(
+            {"isChunk", "ranges", "name", "current", "expected"},
+            {{"chunk", true, {3, 10, 3}, "o.##.exr", 6, "o.##.exr: 3 6 9 @6 by 3"},
+             {"chunk of one frame", true, {7, 7, 1}, "o.##.exr", 1, "file o.07.exr: 7 @7"},
+             {"no step", true, {3, 4, 0}, "o.##.exr", 5, "o.##.exr: 3 4 @3"},
+             {"backwards", true, {4, 3, -1}, "o.##.exr", 4, "o.##.exr: 3 4 @4"},
+             {"unreachable", true, {5, 3, 1}, "o.##.exr", 1, "file o.01.exr: 1 @1"},
+             {"most", true, {1, 1'000'000, 1}, "o.##.exr", 1, "o.##.exr: 1..1000000 @1"},
+             {"too many", true, {0, 1'000'000, 1}, "o.##.exr", 1, "file o.01.exr: 1 @1"},
+             {"all there are", true, {kLowest, kHighest, 1}, "o.##.exr", 1, "file o.01.exr: 1 @1"},
+             {"beyond 32 bits", true, {kHighest - 1, kHighest, 1}, "o.##.exr", 1, "file o.01.exr: 1 @1"},
+             {"enormous step", true, {1, 5, kLowest}, "o.##.exr", 1, "file o.01.exr: 1 @1 by 2147483647"},
+             {"job", false, {1, 3, 2, 9, 9, 1}, "o.##.exr", 2, "o.##.exr: 1 3 9 @2 by 2"},
+             {"job by a file", false, {5, 6, 1}, "o.06.exr", 7, "o.##.exr: 5 6 @5"},
+             {"job by a film", false, {5, 6, 1}, "o.mov", 6, "file o.mov: 1 @1"},
+             {"job of one frame", false, {7, 7, 1}, "o.##.exr", 7, "file o.07.exr: 7 @7"},
+             {"its file", false, {7, 7, 1}, "o.07.exr", 1, "file o.07.exr: 7 @7"},
+             {"no range", false, {}, "o.##.exr", 1, "file o.01.exr: 1 @1"}});
+    }
+
+    void records()
+    {
+        QFETCH(const bool, isChunk);
+        QFETCH(const Numbers, ranges);
+        QFETCH(const QByteArray, name);
+        QFETCH(const int, current);
+        std::vector<TFramesRange> all;
+        for (qsizetype i = 0; i < ranges.size(); i += 3)
+            all.push_back({ranges[i], ranges[i + 1], ranges[i + 2]});
+        TJob job;
+        job.setFrameRanges(all);
+        TChunk chunk;
+        if (isChunk)
+            chunk.setFrames(all[0].start, all[0].end, all[0].step);
+        const FramesRequest request{
+            .path = name.toStdString(), .preferredFrame = current, .maskIsSequence = true};
+        QTEST(text(openFrames(request, {&job, isChunk ? &chunk : nullptr})), "expected");
+    }
+
+    void steps()
+    {
+        constexpr int kHuge = std::numeric_limits<int>::max();
+        // The frames, the step, and where one after the other ends.
+        const std::tuple<std::vector<std::int32_t>, long, QList<std::int64_t>> cases[] = {
+            {{1, 2, 3, 10}, 3, {1, 10, 10}}, // 4 and 7 are stepped on and passed
+            {{1, 2, 3, 10}, -3, {10, 1, 1}},
+            {{1, 2, 3, 4, 9}, 2, {1, 3, 9}},
+            {{1, 2, 3, 4, 9}, -2, {9, 3, 1}},
+            {{-kHuge, kHuge}, kHuge, {-kHuge, kHuge}},
+            {{-kHuge, kHuge}, -kHuge, {kHuge, -kHuge}},
+            {{5, 6, 7}, 1, {-9, 5, 6}},
+            {{5, 6, 7}, -1, {20, 7, 6, 5}},
+        };
+        for (const auto &[frames, step, ends] : cases) {
+            for (qsizetype i = 1; i < ends.size(); ++i)
+                QCOMPARE(steppedFrame(frames, ends[i - 1], step).value(), ends[i]);
+        }
+        QVERIFY(!steppedFrame({}, 3, 1));
+    }
 
 private:
     std::string path(const char *name) const { return m_folder.filePath(QLatin1String(name)).toStdString(); }
 
     QTemporaryDir m_folder;
 };
-
-void FrameSequenceTest::initTestCase()
-{
-    for (const char *name :
-         {"shot.03.exr", "shot.04.exr", "shot.05.exr", "shot.07.exr", "shot.08.exr", "lone.0007.exr",
-          "n.-001.exr", "n.000.exr", "end.2147483646.exr", "end.2147483647.exr", "end.2147483648.exr"}) {
-        QFile file(QString::fromStdString(path(name)));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
-    QVERIFY(QDir(m_folder.path()).mkdir(u"shot.06.exr"_qs)); // a folder is no frame
-}
-
-void FrameSequenceTest::paths_data()
-{
-    QTest::addColumn<int>("preferred");
-    QTest::addColumn<bool>("maskIsSequence");
-    QTest::addColumn<QByteArray>("expected");
-    const auto row = [](const char *name, int preferred, bool isSequence, const char *expected) {
-        QTest::addRow("%s|%d", name, preferred) << preferred << isSequence << QByteArray(expected);
-    };
-    row("shot.04.exr", kNone, false, "shot.##.exr: 3 4 5 @4");
-    row("shot.08.exr", 3, false, "shot.##.exr: 7 8 @8");
-    row("n.000.exr", kNone, false, "n.###.exr: -1 0 @0");
-    row("end.2147483647.exr", kNone, false, "end.##########.exr: 2147483646 2147483647 @2147483647");
-    row("lone.0007.exr", kNone, true, "file lone.0007.exr: 7 @7");
-    row("logo.png", 5, true, "file logo.png: 1 @1");
-    row("shot.%02d.exr", 4, true, "shot.%02d.exr: 3 4 5 @4");
-    row("n.###.exr", -1, true, "n.###.exr: -1 0 @-1");
-    row("shot.##.exr", 4, false, "file shot.04.exr: 4 @4");
-    row("shot.##.exr", kNone, true, "shot.##.exr: 3 4 5 @3");
-    row("none.##.exr", kNone, true, "file none.00.exr: 0 @0");
-    row("lone.####.exr", 7, true, "file lone.0007.exr: 7 @7");
-}
-
-void FrameSequenceTest::paths()
-{
-    QFETCH(const int, preferred);
-    QFETCH(const bool, maskIsSequence);
-    const QByteArray name = QByteArray(QTest::currentDataTag()).split('|').first();
-    FramesRequest request{.path = path(name), .maskIsSequence = maskIsSequence};
-    if (preferred != kNone)
-        request.preferredFrame = preferred;
-    QTEST(text(openFrames(request, {})), "expected");
-}
-
-void FrameSequenceTest::records_data()
-{
-    QTest::addColumn<bool>("isChunk");
-    QTest::addColumn<Numbers>("ranges");
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<int>("current");
-    QTest::addColumn<QByteArray>("expected");
-    const auto row = [](const char *title, bool isChunk, const Numbers &ranges, const char *name, int current,
-                        const char *expected) {
-        QTest::newRow(title) << isChunk << ranges << QByteArray(name) << current << QByteArray(expected);
-    };
-    row("chunk", true, {3, 10, 3}, "o.##.exr", 6, "o.##.exr: 3 6 9 @6 by 3");
-    row("chunk of one frame", true, {7, 7, 1}, "o.##.exr", 1, "file o.07.exr: 7 @7");
-    row("no step", true, {3, 4, 0}, "o.##.exr", 5, "o.##.exr: 3 4 @3");
-    row("backwards", true, {4, 3, -1}, "o.##.exr", 4, "o.##.exr: 3 4 @4");
-    row("unreachable", true, {5, 3, 1}, "o.##.exr", 1, "file o.01.exr: 1 @1");
-    row("most", true, {1, 1'000'000, 1}, "o.##.exr", 1, "o.##.exr: 1..1000000 @1");
-    row("too many", true, {0, 1'000'000, 1}, "o.##.exr", 1, "file o.01.exr: 1 @1");
-    row("all there are", true, {kLowest, kHighest, 1}, "o.##.exr", 1, "file o.01.exr: 1 @1");
-    row("beyond 32 bits", true, {kHighest - 1, kHighest, 1}, "o.##.exr", 1, "file o.01.exr: 1 @1");
-    row("enormous step", true, {1, 5, kLowest}, "o.##.exr", 1, "file o.01.exr: 1 @1 by 2147483647");
-    row("job", false, {1, 3, 2, 9, 9, 1}, "o.##.exr", 2, "o.##.exr: 1 3 9 @2 by 2");
-    row("job by a file", false, {5, 6, 1}, "o.06.exr", 7, "o.##.exr: 5 6 @5");
-    row("job by a film", false, {5, 6, 1}, "o.mov", 6, "file o.mov: 1 @1");
-    row("job of one frame", false, {7, 7, 1}, "o.##.exr", 7, "file o.07.exr: 7 @7");
-    row("its file", false, {7, 7, 1}, "o.07.exr", 1, "file o.07.exr: 7 @7");
-    row("no range", false, {}, "o.##.exr", 1, "file o.01.exr: 1 @1");
-}
-
-void FrameSequenceTest::records()
-{
-    QFETCH(const bool, isChunk);
-    QFETCH(const Numbers, ranges);
-    QFETCH(const QByteArray, name);
-    QFETCH(const int, current);
-    std::vector<TFramesRange> all;
-    for (qsizetype i = 0; i < ranges.size(); i += 3)
-        all.push_back({ranges[i], ranges[i + 1], ranges[i + 2]});
-    TJob job;
-    job.setFrameRanges(all);
-    TChunk chunk;
-    if (isChunk)
-        chunk.setFrames(all[0].start, all[0].end, all[0].step);
-    const FramesRequest request{
-        .path = name.toStdString(), .preferredFrame = current, .maskIsSequence = true};
-    QTEST(text(openFrames(request, {&job, isChunk ? &chunk : nullptr})), "expected");
-}
-
-void FrameSequenceTest::steps()
-{
-    constexpr int kHuge = std::numeric_limits<int>::max();
-    // The frames, the step, and where one after the other ends.
-    const std::tuple<std::vector<std::int32_t>, long, QList<std::int64_t>> cases[] = {
-        {{1, 2, 3, 10}, 3, {1, 10, 10}}, // 4 and 7 are stepped on and passed
-        {{1, 2, 3, 10}, -3, {10, 1, 1}},
-        {{1, 2, 3, 4, 9}, 2, {1, 3, 9}},
-        {{1, 2, 3, 4, 9}, -2, {9, 3, 1}},
-        {{-kHuge, kHuge}, kHuge, {-kHuge, kHuge}},
-        {{-kHuge, kHuge}, -kHuge, {kHuge, -kHuge}},
-        {{5, 6, 7}, 1, {-9, 5, 6}},
-        {{5, 6, 7}, -1, {20, 7, 6, 5}},
-    };
-    for (const auto &[frames, step, ends] : cases) {
-        for (qsizetype i = 1; i < ends.size(); ++i)
-            QCOMPARE(steppedFrame(frames, ends[i - 1], step).value(), ends[i]);
-    }
-    QVERIFY(!steppedFrame({}, 3, 1));
-}
 
 QTEST_APPLESS_MAIN(FrameSequenceTest)
 #include "tst_framesequence.moc"
