@@ -134,19 +134,6 @@ private Q_SLOTS:
         }
     }
 
-    void aDeadLinkLeavesNothingToTheNext()
-    {
-        Link link;
-        QSignalSpy activity(&link.socket, &QLWTCPSocket::rcvActivity);
-        link.peer.send(encodeMessage(MessageHeader::Plain, 601, "half a message").chopped(5));
-        QTRY_COMPARE(activity.size(), 1);
-        link.peer.dropLink();
-        QTRY_COMPARE(link.socket.state(), QAbstractSocket::UnconnectedState);
-        link.connect();
-        link.peer.send(encodeMessage(MessageHeader::Plain, 601, "whole"));
-        QTRY_COMPARE(link.messages, QByteArrayList{ended("whole")});
-    }
-
     void messagesWaitForTheConnectionBehindTheLogin()
     {
         LoopbackPeer peer;

@@ -204,18 +204,17 @@ private Q_SLOTS:
         events.append(buildEvent(directory, 1));
         events.append(buildEvent(service, 2));
         events.append(buildEvent(farm::notification(2, nullptr, &chunk), 3));
-        const auto text = [&model](int row, int column) {
-            return model.index(row, column).data().toString();
+        const auto row = [&model](int number) {
+            QStringList cells;
+            for (int column = 0; column < EventsModel::ColumnCount; ++column)
+                cells += model.index(number, column).data().toString();
+            return cells.join(u'|');
         };
-        QCOMPARE(text(0, EventsModel::Type), u"Success"_s);
         const auto time = QDateTime::fromSecsSinceEpoch(1'700'000'000);
-        QCOMPARE(text(0, EventsModel::Time), QLocale::system().toString(time, QLocale::ShortFormat));
-        QCOMPARE(text(0, EventsModel::User), u"ann(D)"_s);
-        QCOMPARE(text(0, EventsModel::Job), u"Shot010(1234)"_s);
-        QCOMPARE(text(0, EventsModel::Chunk), u"7"_s);
-        QCOMPARE(text(1, EventsModel::User), u"Service"_s);
-        QCOMPARE(text(1, EventsModel::Job), QString());
-        QCOMPARE(text(2, EventsModel::Chunk), QString()); // its job is not known
+        const QString shown = QLocale::system().toString(time, QLocale::ShortFormat);
+        QCOMPARE(row(0), u"Success||%1|event of type 2|ann(D)|Shot010(1234)|7|"_s.arg(shown));
+        QCOMPARE(row(1), u"Service||%1|event of type 512|Service|||"_s.arg(shown));
+        QCOMPARE(row(2), u"||%1|event of type 2|ann|||"_s.arg(shown)); // its job is not known
         QVERIFY(model.index(0, EventsModel::Acknowledged).data(Qt::DecorationRole).isNull());
         QCOMPARE(model.index(0, EventsModel::Acknowledged).data(Qt::AccessibleTextRole).toString(),
                  u"Pending"_s);
