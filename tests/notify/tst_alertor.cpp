@@ -122,9 +122,6 @@ private Q_SLOTS:
         QCOMPARE(
             textsOf(farm.menu("trayMenu")),
             u"&Restore|-|&Acknowledge pending events|&Silent|-|&Open images viewer|-|&Configure|&Quit"_s);
-        QCOMPARE(textsOf(farm.menu("listMenu")),
-                 u"&Acknowledge selection|-|&Open output folder|-|Open &frame(s)|Open frame(s) exter&nally|-|"
-                 "&Remove selection\tDEL|Remove all"_s);
         farm.show();
         farm.alertor.activateWindow();
         QTRY_VERIFY(farm.alertor.isActiveWindow());

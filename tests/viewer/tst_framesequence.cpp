@@ -9,6 +9,7 @@
 #include <QtTest/QTest>
 
 #include <limits>
+#include <optional>
 #include <tuple>
 
 using namespace TClientLib;
@@ -18,7 +19,6 @@ namespace {
 
 constexpr auto kLowest = std::numeric_limits<std::int64_t>::min();
 constexpr auto kHighest = std::numeric_limits<std::int64_t>::max();
-constexpr int kNone = std::numeric_limits<int>::max();
 
 /// "shot.##.exr: 3 4 5 @4", with "file " in front of a single file; more than ten frames as "first..last".
 QByteArray text(const OpenedFrames &opened)
@@ -52,34 +52,27 @@ private Q_SLOTS:
         QVERIFY(QDir(m_folder.path()).mkdir(u"shot.06.exr"_qs)); // a folder is no frame
     }
 
-    void paths_data()
-    {
-        // A bar ends the path.
-        addTable<int, bool, QByteArray>(
-            {"preferred", "maskIsSequence", "expected"},
-            {{"shot.04.exr", kNone, false, "shot.##.exr: 3 4 5 @4"},
-             {"shot.08.exr", 3, false, "shot.##.exr: 7 8 @8"},
-             {"n.000.exr", kNone, false, "n.###.exr: -1 0 @0"},
-             {"end.2147483647.exr", kNone, false, "end.##########.exr: 2147483646 2147483647 @2147483647"},
-             {"lone.0007.exr", kNone, true, "file lone.0007.exr: 7 @7"},
-             {"logo.png", 5, true, "file logo.png: 1 @1"},
-             {"shot.%02d.exr", 4, true, "shot.%02d.exr: 3 4 5 @4"},
-             {"n.###.exr", -1, true, "n.###.exr: -1 0 @-1"},
-             {"shot.##.exr", 4, false, "file shot.04.exr: 4 @4"},
-             {"shot.##.exr|", kNone, true, "shot.##.exr: 3 4 5 @3"},
-             {"none.##.exr", kNone, true, "file none.00.exr: 0 @0"},
-             {"lone.####.exr", 7, true, "file lone.0007.exr: 7 @7"}});
-    }
-
     void paths()
     {
-        QFETCH(const int, preferred);
-        QFETCH(const bool, maskIsSequence);
-        const QByteArray name = QByteArray(QTest::currentDataTag()).split('|').first();
-        FramesRequest request{.path = path(name), .maskIsSequence = maskIsSequence};
-        if (preferred != kNone)
-            request.preferredFrame = preferred;
-        QTEST(text(openFrames(request, {})), "expected");
+        // A name, the frame that is preferred, whether a mask stands for its sequence.
+        const std::tuple<const char *, std::optional<int>, bool, QByteArray> names[] = {
+            {"shot.04.exr", {}, false, "shot.##.exr: 3 4 5 @4"},
+            {"shot.08.exr", 3, false, "shot.##.exr: 7 8 @8"},
+            {"n.000.exr", {}, false, "n.###.exr: -1 0 @0"},
+            {"end.2147483647.exr", {}, false, "end.##########.exr: 2147483646 2147483647 @2147483647"},
+            {"lone.0007.exr", {}, true, "file lone.0007.exr: 7 @7"},
+            {"logo.png", 5, true, "file logo.png: 1 @1"},
+            {"shot.%02d.exr", 4, true, "shot.%02d.exr: 3 4 5 @4"},
+            {"n.###.exr", -1, true, "n.###.exr: -1 0 @-1"},
+            {"shot.##.exr", 4, false, "file shot.04.exr: 4 @4"},
+            {"shot.##.exr", {}, true, "shot.##.exr: 3 4 5 @3"},
+            {"none.##.exr", {}, true, "file none.00.exr: 0 @0"},
+            {"lone.####.exr", 7, true, "file lone.0007.exr: 7 @7"}};
+        for (const auto &[name, preferred, maskIsSequence, expected] : names) {
+            const FramesRequest request{
+                .path = path(name), .preferredFrame = preferred, .maskIsSequence = maskIsSequence};
+            QCOMPARE(text(openFrames(request, {})), expected);
+        }
     }
 
     void records_data()

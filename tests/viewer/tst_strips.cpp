@@ -14,27 +14,26 @@ namespace {
 
 constexpr int kHatchTop = 3;
 
-/// A letter for every frame of 10 pixels: the colour of its column near its right end, in upper case with
-/// the hatched band.
+/// A word for every frame of 10 pixels: the colour of its column near its right end, in capitals with the hatched band.
 QString columns(FrameStrip &strip, int frames)
 {
     strip.resize(frames * 10, 20);
     const QImage image = strip.grab().toImage();
-    const QHash<QRgb, QLatin1Char> names{{qRgb(0, 0, 0), QLatin1Char('b')},
-                                         {qRgb(100, 100, 100), QLatin1Char('g')},
-                                         {qRgb(255, 125, 0), QLatin1Char('o')},
-                                         {qRgb(200, 200, 0), QLatin1Char('y')},
-                                         {qRgb(0, 200, 0), QLatin1Char('v')}};
-    QString result;
+    const QHash<QRgb, QString> names{{qRgb(0, 0, 0), u"black"_qs},
+                                     {qRgb(100, 100, 100), u"grey"_qs},
+                                     {qRgb(255, 125, 0), u"orange"_qs},
+                                     {qRgb(200, 200, 0), u"yellow"_qs},
+                                     {qRgb(0, 200, 0), u"green"_qs}};
+    QStringList result;
     for (int frame = 0; frame < frames; ++frame) {
         const QRgb color = image.pixel(frame * 10 + 8, kHatchTop - 1);
         const QImage band = image.copy(frame * 10, kHatchTop, 10, 14);
         QImage plain(band.size(), band.format());
         plain.fill(color);
-        const QChar name = names.value(color, QLatin1Char('?'));
+        const QString name = names.value(color);
         result += band == plain ? name : name.toUpper();
     }
-    return result;
+    return result.join(u' ');
 }
 
 } // namespace
@@ -48,12 +47,14 @@ private Q_SLOTS:
         imagesMarkerWidget strip;
         strip.setFrames({2, 3, 4, 5, 7, 8, 9, 10});
         strip.setRange(1, 12);
-        QCOMPARE(columns(strip, 12), QLatin1String("BbbbbBbbbbBB"));
+        QCOMPARE(columns(strip, 12),
+                 u"BLACK black black black black BLACK black black black black BLACK BLACK"_qs);
         // 1 to 2 marked, 3 to 5 and 7 to 8 shown for their states, 9 in no chunk, 10 to 11 marked by name only.
         strip.setChunks({{2, {70, 1, 1}}, {5, {71, 3, 1}}, {8, {72, 7, 2}}, {11, {73, 10, 0}}});
         strip.setMarkedChunks({{2, 70}, {11, 99}});
         strip.setMarkedFrames({2, 7, 12});
-        QCOMPARE(columns(strip, 12), QLatin1String("OygggBybbbBB"));
+        QCOMPARE(columns(strip, 12),
+                 u"ORANGE yellow grey grey grey BLACK yellow black black black BLACK BLACK"_qs);
     }
 
     void cachedFrames()
@@ -71,9 +72,9 @@ private Q_SLOTS:
         strip.setFrames({2, 3, 4});
         strip.setRange(2, 6);
         strip.setFileMask("/f.####.exr");
-        QCOMPARE(columns(strip, 5), QLatin1String("bbbBB"));
+        QCOMPARE(columns(strip, 5), u"black black black BLACK BLACK"_qs);
         strip.setCache(&cache);
-        QCOMPARE(columns(strip, 5), QLatin1String("bvyBY"));
+        QCOMPARE(columns(strip, 5), u"black green yellow BLACK YELLOW"_qs);
     }
 
     void crowdedFrames()

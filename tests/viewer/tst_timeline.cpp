@@ -15,11 +15,11 @@ namespace {
 
 constexpr long kHuge = std::numeric_limits<int>::max();
 
-/// A letter for the brightest colour of each column, between two rows.
-QString letters(imageTimeline &timeline, int columnWidth, int top, int bottom)
+/// The brightest thing in each column, between two rows.
+QStringList columns(imageTimeline &timeline, int columnWidth, int top, int bottom)
 {
     const QImage image = timeline.grab().toImage();
-    QString result;
+    QStringList result;
     for (int left = 0; left + columnWidth <= image.width(); left += columnWidth) {
         int grey = 0;
         bool red = false;
@@ -30,7 +30,11 @@ QString letters(imageTimeline &timeline, int columnWidth, int top, int bottom)
                 grey = std::max(grey, qGreen(colour));
             }
         }
-        result += QLatin1Char(red ? 'r' : grey == 0 ? '.' : grey == 100 ? '#' : grey == 200 ? 't' : 'n');
+        result += red     ? u"line"_qs
+            : grey == 0   ? u"none"_qs
+            : grey == 100 ? u"gap"_qs
+            : grey == 200 ? u"tick"_qs
+                          : u"number"_qs;
     }
     return result;
 }
@@ -115,16 +119,22 @@ private Q_SLOTS:
         timeline.setFrames({10, 11, 12, 13, 14, 17, 18, 19});
         timeline.setRange(11, 18);
         timeline.setPosition(14);
-        const auto bands = [&] {
-            return letters(timeline, frame, 1, 13) + u' ' + letters(timeline, frame, 16, 45) + u' '
-                + letters(timeline, frame, 49, 52);
+        const auto looks = [&timeline, frame](const QString &numbers, const QString &middle,
+                                              const QString &ticks) {
+            QCOMPARE(columns(timeline, frame, 1, 13).join(u' '), numbers);
+            QCOMPARE(columns(timeline, frame, 16, 45).join(u' '), middle);
+            QCOMPARE(columns(timeline, frame, 49, 52).join(u' '), ticks);
         };
-        QCOMPARE(bands(), QLatin1String("n.n.##n. n.nr##n. ntnr##nt"));
+        looks(u"number none number none gap gap number none"_qs,
+              u"number none number line gap gap number none"_qs,
+              u"number tick number line gap gap number tick"_qs);
         timeline.setPosition(19);
-        QCOMPARE(bands(), QLatin1String("n.n.##n. n.n.##n. ntnt##nt"));
+        looks(u"number none number none gap gap number none"_qs,
+              u"number none number none gap gap number none"_qs,
+              u"number tick number tick gap gap number tick"_qs);
         QVERIFY(timeline.grab().toImage().pixel(8 * frame - 1, 30) != qRgb(255, 10, 10));
         timeline.resize(8 * 3, 60); // a tick needs four pixels
-        QCOMPARE(letters(timeline, 3, 49, 52), QLatin1String("n.t.##t."));
+        QCOMPARE(columns(timeline, 3, 49, 52).join(u' '), u"number none tick none gap gap tick none"_qs);
     }
 
     void crowdedFrames()
@@ -137,12 +147,13 @@ private Q_SLOTS:
         for (int frame = 1; frame <= 9'990; ++frame)
             frames.insert(frame);
         timeline.setFrames(frames);
-        const QString whole = letters(timeline, 1, 16, 45); // between the numbers and the short ticks
-        QVERIFY(!whole.contains(u'#'));
-        const auto column = whole.indexOf(u'.', 51);
+        QStringList whole = columns(timeline, 1, 16, 45); // between the numbers and the short ticks
+        QVERIFY(!whole.contains(u"gap"_qs));
+        const auto column = whole.indexOf(u"none"_qs, 51);
         frames.erase(column * 999 / 10 + 23);
         timeline.setFrames(frames);
-        QCOMPARE(letters(timeline, 1, 16, 45), QString(whole).replace(column, 1, u'#'));
+        whole[column] = u"gap"_qs;
+        QCOMPARE(columns(timeline, 1, 16, 45), whole);
         // A pixel gives the frame that it can.
         timeline.setFrames({57, 9'985});
         QSignalSpy changed(&timeline, &imageTimeline::frameChanged);

@@ -1,6 +1,5 @@
 #include "fakedisplay.h"
 #include "jobframes.h"
-#include "table.h"
 
 #include <viewer/session/viewersession.h>
 
@@ -11,6 +10,7 @@
 #include <QtTest/QTest>
 
 #include <memory>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 using TClientLib::TJob;
@@ -107,27 +107,24 @@ private Q_SLOTS:
         QCOMPARE(loads.count(), 2);
     }
 
-    void typedRanges_data()
-    {
-        // A field that stays has nothing written to it.
-        addTable<QStringList, QList<int>>({"written", "range"},
-                                          {{"10 20 2", {{}, {}, {}}, {10, 20, 2}},
-                                           {"9 21 11", {u"10"_s, u"20"_s, {}}, {10, 20, 11}},
-                                           {"21 20 12", {u"20"_s, {}, u"3"_s}, {20, 20, 3}},
-                                           {"15 14 0", {{}, u"20"_s, u"3"_s}, {15, 15, 3}},
-                                           {"x 99999999999 -1", {u"10"_s, u"20"_s, u"3"_s}, {10, 10, 3}}});
-    }
-
     void typedRanges()
     {
-        const QStringList typed = QString::fromLatin1(QTest::currentDataTag()).split(u' ');
-        QFETCH(const QList<int>, range);
         FrameSequence sequence;
         sequence.frames = {10, 13, 20};
         sequence.byFrame = 3;
-        const RangeEdit edit = correctedRange(sequence, typed[0], typed[1], typed[2]);
-        QTEST((QStringList{edit.start, edit.end, edit.step}), "written");
-        QCOMPARE(edit.range, (PlaybackRange{range[0], range[1], range[2]}));
+        // What is typed, what the fields get, null where they stay, and the range.
+        const std::tuple<QStringList, QStringList, PlaybackRange> edits[] = {
+            {{u"10"_s, u"20"_s, u"2"_s}, {{}, {}, {}}, {10, 20, 2}},
+            {{u"9"_s, u"21"_s, u"11"_s}, {u"10"_s, u"20"_s, {}}, {10, 20, 11}},
+            {{u"21"_s, u"20"_s, u"12"_s}, {u"20"_s, {}, u"3"_s}, {20, 20, 3}},
+            {{u"15"_s, u"14"_s, u"0"_s}, {{}, u"20"_s, u"3"_s}, {15, 15, 3}},
+            {{u"x"_s, u"99999999999"_s, u"-1"_s}, {u"10"_s, u"20"_s, u"3"_s}, {10, 10, 3}},
+        };
+        for (const auto &[typed, written, range] : edits) {
+            const RangeEdit edit = correctedRange(sequence, typed[0], typed[1], typed[2]);
+            QCOMPARE((QStringList{edit.start, edit.end, edit.step}), written);
+            QCOMPARE(edit.range, range);
+        }
     }
 
     void looksAgainForFramesThatAreMissingOrBroken()
