@@ -206,7 +206,7 @@ private Q_SLOTS:
         m_session->toggleFrameMark();
         QCOMPARE(marking.markedFrames(), MarkedFrames());
         m_session->setJob({});
-        QVERIFY(marking.markedChunks().isEmpty());
+        QVERIFY(marking.markedChunks().isEmpty() && marking.chunks().empty());
     }
 
 private:
