@@ -3,7 +3,6 @@
 #include <QtCore/QtEndian>
 #include <QtTest/QTest>
 
-#include <algorithm>
 #include <map>
 
 #include <sys/resource.h>

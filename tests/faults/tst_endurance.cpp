@@ -10,6 +10,7 @@
 #include <QtCore/QRegularExpression>
 #include <QtWidgets/QApplication>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
