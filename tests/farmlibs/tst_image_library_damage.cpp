@@ -4,6 +4,7 @@
 #include <QtTest/QTest>
 
 #include <map>
+#include <random>
 
 #include <sys/resource.h>
 #include <zlib.h>
@@ -128,6 +129,34 @@ private Q_SLOTS:
             QVERIFY(writeBytes(path, bytes.left(cut)));
             QVERIFY2(!loadsAndHolds(path) || cut > pixelsEnd, qPrintable(QString::number(cut)));
         }
+    }
+
+    void flippedBytes_data() { cutFiles_data(); }
+
+    void flippedBytes()
+    {
+        QFETCH(const QByteArray, name);
+        QFETCH(const QByteArray, bytes);
+        const ImageFolder folder;
+        const std::string path = folder(name.constData());
+        std::mt19937 random(20);
+        const auto below = [&random](qsizetype limit) { return qsizetype(random() % unsigned(limit)); };
+        const qsizetype before = peakMemory();
+        int refused = 0;
+        constexpr int kFiles = 150;
+        for (int i = 0; i < kFiles; ++i) {
+            QByteArray damaged = bytes;
+            for (qsizetype flips = 1 + below(4); flips > 0; --flips) {
+                // Half of them in the header, where they do most.
+                const qsizetype at = below(flips % 2 ? bytes.size() : std::min<qsizetype>(bytes.size(), 500));
+                damaged[at] = flips % 3 ? char(random()) : '\xff';
+            }
+            QVERIFY(writeBytes(path, damaged));
+            refused += loadsAndHolds(path) ? 0 : 1;
+        }
+        QVERIFY(refused > 0);
+        QVERIFY2(peakMemory() - before < 700 * kMegabyte,
+                 qPrintable(QString::number((peakMemory() - before) / kMegabyte)));
     }
 
     void lyingSizes_data()
