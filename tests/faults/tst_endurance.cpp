@@ -6,13 +6,16 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QPointer>
 #include <QtCore/QProcess>
+#include <QtCore/QRandomGenerator>
 #include <QtCore/QRegularExpression>
 #include <QtWidgets/QApplication>
 
 #include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <vector>
 
 #include <unistd.h>
 
@@ -126,6 +129,31 @@ private Q_SLOTS:
         QCOMPARE(openFiles(), files);
         std::printf("%d restarts, %d events, %d open files\n", restarts, int(alertor.events().size()),
                     int(files));
+    }
+
+    void megabytesOfGarbage()
+    {
+        auto peer = std::make_unique<LoopbackPeer>();
+        const quint16 port = peer->port();
+        Alertor alertor;
+        setPort(alertor, port);
+        const int rounds = amount(5, 200);
+        for (int round = 1; round <= rounds; ++round) {
+            logIn(alertor, *peer);
+            const QPointer<QTcpSocket> link = peer->link();
+            std::vector<quint32> garbage(1 << 18);
+            QRandomGenerator(quint32(round)).fillRange(garbage.data(), qsizetype(garbage.size()));
+            peer->send({reinterpret_cast<const char *>(garbage.data()), 1 << 20});
+            // The client hangs up on what it cannot believe, or waits for the rest of a long frame.
+            QTRY_VERIFY(link->bytesToWrite() == 0 || link->state() != QAbstractSocket::ConnectedState);
+            peer.reset();
+            QTRY_VERIFY(!isConnected(alertor));
+            peer = std::make_unique<LoopbackPeer>(port);
+        }
+        logIn(alertor, *peer);
+        const auto before = alertor.events().size();
+        peer->send(farm::frame(farm::notification(JobStarted)));
+        QTRY_COMPARE(alertor.events().size(), before + 1);
     }
 
     /// Bursts on a window that is shown and hidden in turn; what they took is given back once they are acknowledged and removed.
