@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtGui/QCursor>
 #include <QtGui/QGuiApplication>
 
 /// Shows the wait cursor for as long as it stands.
