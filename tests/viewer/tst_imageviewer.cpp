@@ -146,6 +146,10 @@ private Q_SLOTS:
     void fields()
     {
         open(u"shot.0003.exr"_s);
+        type("byFrame", u"2"_s);
+        click("stepBackward");
+        QCOMPARE(frame(), 1);
+        type("byFrame", u"1"_s);
         QCOMPARE(type("currentFrame", u"99"_s), u"5"_s);
         QCOMPARE(frame(), 5);
         type("endFrame", u"3"_s);
