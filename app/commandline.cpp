@@ -2,15 +2,26 @@
 
 #include <ui/product.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <string_view>
+
+namespace {
+
+bool takesValue(std::string_view option)
+{
+    constexpr std::string_view kOptions[] = {"-server", "-user", "-pass", "-port", "--language", "-language"};
+    return std::find(std::begin(kOptions), std::end(kOptions), option) != std::end(kOptions);
+}
+
+} // namespace
 
 CommandLine CommandLine::parse(std::span<char *const> arguments)
 {
     CommandLine line;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string_view argument = arguments[i];
-        const char *value = i + 1 < arguments.size() ? arguments[i + 1] : nullptr;
+        const char *value = takesValue(argument) && i + 1 < arguments.size() ? arguments[++i] : nullptr;
         if (argument == "-forcegl2")
             line.forceGl2 = true;
         else if (argument == "--help")
@@ -23,7 +34,7 @@ CommandLine CommandLine::parse(std::span<char *const> arguments)
             line.overrides.user = QString::fromLocal8Bit(value);
         else if (argument == "-pass" && value)
             line.overrides.password = QString::fromLocal8Bit(value);
-        else if ((argument == "--language" || argument == "-language") && value)
+        else if (argument.ends_with("-language") && value)
             line.language = QString::fromLocal8Bit(value);
         else if (argument == "-port" && value)
             line.overrides.port = std::atoi(value);

@@ -8,6 +8,7 @@
 #include <system/tdesktop.h>
 #include <ui/glprobe.h>
 #include <ui/language.h>
+#include <ui/logfile.h>
 #include <ui/look.h>
 #include <ui/product.h>
 #include <ui/tappstate.h>
@@ -89,6 +90,7 @@ int main(int argc, char *argv[])
         application.sendMessage(QStringLiteral("wakeup"), kWakeUpTimeout);
         return 0;
     }
+    const LogFile log;
     quitOnTermination(application, termination, isEnding);
     if (!installLanguage(line.language) && !line.language.isEmpty())
         std::fprintf(stderr, "Cannot find texts in the language %s; --help lists the languages\n",

@@ -1,3 +1,3 @@
 #include "netlog.h"
 
-Q_LOGGING_CATEGORY(lcNet, "tarrow.net")
+Q_LOGGING_CATEGORY(lcNet, "tarrow.net", QtInfoMsg)

@@ -4,10 +4,12 @@
 
 #include <notify/settings/inflate.h>
 #include <notify/settings/settings.h>
+#include <system/tcpconnection.h>
 
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtCore/QtEndian>
+#include <QtNetwork/QNetworkProxy>
 
 #include <algorithm>
 #include <chrono>
@@ -23,6 +25,28 @@ constexpr qint64 kReadAhead = qint64(512) * 1024;
 // What the toolkit may hold of our queue: its own write buffer knows no limit.
 constexpr qint64 kWriteAhead = qint64(64) * 1024;
 constexpr auto kHeartbeatCheck = std::chrono::seconds(5);
+// For how long a queue that is full waits for a connection that is merely slower than a burst.
+constexpr auto kPatience = std::chrono::milliseconds(500);
+
+constexpr TcpConnection::Watch kWatch{std::chrono::seconds(60), std::chrono::seconds(15), 4,
+                                      std::chrono::seconds(120)};
+// Long enough for a wireless network to be back.
+constexpr TcpConnection::Watch kProbe{std::chrono::seconds(5), std::chrono::seconds(5), 3,
+                                      std::chrono::seconds(20)};
+
+/// Gives the first word of a server that talks in text, as "SSH" or "HTTP"; empty for other bytes.
+QString greeting(QByteArrayView bytes)
+{
+    const auto isText = [](char c) { return c >= ' ' && c <= '~'; };
+    const auto isWord = [](char c) {
+        return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+    };
+    const auto head = bytes.first(std::min(bytes.size(), MessageHeader::kSize));
+    const auto end = std::find_if_not(head.begin(), head.end(), isWord);
+    const bool talks =
+        end != head.begin() && std::all_of(head.begin(), std::min(end + 1, head.end()), isText);
+    return talks ? QString::fromLatin1(head.data(), end - head.begin()) : QString();
+}
 
 } // namespace
 
@@ -36,13 +60,17 @@ QLWTCPSocket::QLWTCPSocket(QObject *parent)
     m_receiveBuffer.reserve(kBufferLimit);
     m_sendBuffer.reserve(kBufferLimit);
     setReadBufferSize(kReadAhead);
+    setProxy(QNetworkProxy::NoProxy);
     connect(this, &QIODevice::readyRead, this, &QLWTCPSocket::readReady);
     connect(this, &QIODevice::bytesWritten, this, &QLWTCPSocket::writeReady);
-    connect(this, &QAbstractSocket::disconnected, this, [this] { m_sendBuffer.resize(0); });
+    connect(this, &QAbstractSocket::disconnected, this, [this] { m_sendBuffer.clear(); });
     connect(this, &QAbstractSocket::stateChanged, this, [this](SocketState state) {
         // Not at the end of the old link: what came whole before it can still be taken out.
-        if (state == ConnectingState)
-            m_receiveBuffer.clear();
+        if (state != ConnectingState)
+            return;
+        m_receiveBuffer.clear();
+        m_isDispatcher = false;
+        m_isStalled = false;
     });
 }
 
@@ -54,27 +82,49 @@ QLWTCPSocket::~QLWTCPSocket()
 
 bool QLWTCPSocket::sendMessage(uint command, const QByteArray &payload, uint param)
 {
-    return queueMessage(m_sendBuffer.size(), command, payload, param);
+    return queueMessage(Place::Back, command, payload, param);
 }
 
 bool QLWTCPSocket::sendFirst(uint command, const QByteArray &payload, uint param)
 {
-    return queueMessage(0, command, payload, param);
+    return queueMessage(Place::Front, command, payload, param);
 }
 
-bool QLWTCPSocket::queueMessage(qsizetype position, uint command, const QByteArray &payload, uint param)
+bool QLWTCPSocket::queueMessage(Place place, uint command, const QByteArray &payload, uint param)
 {
-    const qint64 messageSize = MessageHeader::kSize + payload.size();
-    if (m_maxSendSize != 0 && m_sendBuffer.size() + messageSize > m_maxSendSize) {
+    if (const qsizetype size = MessageHeader::kSize + payload.size(); !fits(size) && !makeRoom(size)) {
         Q_EMIT sendBufferOverflow();
-        clearBuffers();
+        emptyBuffers({LinkTrouble::Kind::NotRead, {}, {}, {}});
         return false;
     }
-    m_sendBuffer.insert(position, encodeMessage(command, payload, param));
+    const QByteArray message = encodeMessage(command, payload, param);
+    place == Place::Front ? m_sendBuffer.prepend(message) : m_sendBuffer.append(message);
     Q_EMIT sendActivity();
     writeQueued();
     m_lastActivity = m_clock();
     return true;
+}
+
+bool QLWTCPSocket::fits(qsizetype messageSize) const
+{
+    return m_maxSendSize == 0 || m_sendBuffer.size() + messageSize <= m_maxSendSize;
+}
+
+bool QLWTCPSocket::makeRoom(qsizetype messageSize)
+{
+    const auto waiting = [this] { return m_sendBuffer.size() + bytesToWrite(); };
+    while (!fits(messageSize) && !m_sendBuffer.isEmpty() && state() == ConnectedState) {
+        const qint64 before = waiting();
+        writeQueued();
+        flush();
+        if (waiting() < before)
+            continue;
+        // Not the toolkit's own wait: that reads as well, and would call a template from within itself.
+        m_isStalled = m_isStalled || !TcpConnection::WaitUntilWritable(socketDescriptor(), kPatience);
+        if (m_isStalled)
+            break;
+    }
+    return fits(messageSize);
 }
 
 void QLWTCPSocket::writeQueued()
@@ -85,14 +135,15 @@ void QLWTCPSocket::writeQueued()
     const qint64 offered = std::min<qint64>(m_sendBuffer.size(), kWriteAhead - bytesToWrite());
     if (offered <= 0)
         return;
-    const qint64 taken = write(m_sendBuffer.constData(), offered);
+    const qint64 taken = write(m_sendBuffer.bytes().data(), offered);
     if (taken > 0)
-        m_sendBuffer.remove(0, taken);
+        m_sendBuffer.remove(taken);
 }
 
 void QLWTCPSocket::writeReady(qint64 lastBytesWritten)
 {
     Q_UNUSED(lastBytesWritten);
+    m_isStalled = false;
     Q_EMIT sendActivity();
     writeQueued();
 }
@@ -108,7 +159,10 @@ void QLWTCPSocket::readReady()
         Q_EMIT rcvActivity();
         if (m_maxReceiveSize != 0 && m_receiveBuffer.size() + got > m_maxReceiveSize) {
             Q_EMIT rcvBufferOverflow();
-            clearBuffers();
+            m_receiveBuffer.commit(got);
+            emptyBuffers({LinkTrouble::Kind::TooLarge, {}, {}, {}});
+            // The toolkit, its own buffer full, may not tell of it again.
+            QMetaObject::invokeMethod(this, &QLWTCPSocket::readReady, Qt::QueuedConnection);
             break;
         }
         m_receiveBuffer.commit(got);
@@ -129,9 +183,10 @@ bool QLWTCPSocket::getMessage(uint *command, QByteArray *data, uint *param)
     if (found != MessageReader::Next::Message) {
         data->resize(0);
         if (found == MessageReader::Next::Broken)
-            breakStream("a message of negative length");
+            breakStream("a message has a length that no Dispatcher sends");
         return false;
     }
+    m_isDispatcher = true;
     *command = message.header.command;
     if (message.header.type == MessageHeader::Compressed)
         return inflateMessage(message, data);
@@ -155,7 +210,7 @@ bool QLWTCPSocket::inflateMessage(const RawMessage &message, QByteArray *data)
     if (message.header.length >= kSizeField) {
         const auto announced = qFromLittleEndian<qint32>(message.payload.data());
         if (announced < 0) {
-            breakStream("a payload of negative size");
+            breakStream("a payload has a negative size");
             return false;
         }
         // The stream is offered one byte less than the payload's length, counted from behind the size: it ends by
@@ -165,8 +220,9 @@ bool QLWTCPSocket::inflateMessage(const RawMessage &message, QByteArray *data)
         inflated = inflateStream(QByteArrayView{message.payload.data() + kSizeField, offered}, announced);
     }
     if (!inflated) {
+        const qint64 own = MessageHeader::kSize + message.header.length;
         Q_EMIT zDecompressError();
-        clearBuffers();
+        emptyBuffers({LinkTrouble::Kind::Damaged, {}, {own, 1}, {}});
         return false;
     }
     *data = *std::move(inflated);
@@ -176,15 +232,57 @@ bool QLWTCPSocket::inflateMessage(const RawMessage &message, QByteArray *data)
 
 void QLWTCPSocket::breakStream(const char *why)
 {
-    qCWarning(lcNet, "Dropped the connection: the Dispatcher sent %s", why);
-    clearBuffers();
+    LinkTrouble trouble;
+    if (!m_isDispatcher)
+        trouble.detail = greeting(m_receiveBuffer.held());
+    trouble.kind = trouble.detail.isEmpty() ? LinkTrouble::Kind::Broken : LinkTrouble::Kind::Foreign;
+    trouble.received.bytes = m_receiveBuffer.size();
+    trouble.unsent = m_sendBuffer.drop();
+    m_receiveBuffer.clear();
+    report(trouble, why);
     abort();
 }
 
-void QLWTCPSocket::clearBuffers()
+void QLWTCPSocket::emptyBuffers(LinkTrouble trouble)
 {
-    m_receiveBuffer.clear();
-    m_sendBuffer.resize(0);
+    const Loss received = m_receiveBuffer.drop();
+    trouble.received.bytes += received.bytes;
+    trouble.received.messages += received.messages;
+    trouble.unsent = m_sendBuffer.drop();
+    constexpr const char *kWhy[] = {"a message is over 1 MiB", "a compressed message is damaged",
+                                    "the queue of what it does not read is full"};
+    report(trouble, kWhy[int(trouble.kind)]);
+    if (m_receiveBuffer.next() == MessageReader::Next::Broken)
+        breakStream("a message has a length that no Dispatcher sends");
+}
+
+void QLWTCPSocket::report(const LinkTrouble &trouble, const char *why)
+{
+    const bool ends = trouble.kind == LinkTrouble::Kind::Broken || trouble.kind == LinkTrouble::Kind::Foreign;
+    const QByteArray sent =
+        trouble.detail.isEmpty() ? QByteArray() : " (it sent " + trouble.detail.toUtf8() + ')';
+    qCWarning(
+        lcNet,
+        "%s the Dispatcher: %s%s; lost %lld bytes in %d messages from it, %lld bytes in %d messages to it",
+        ends ? "Hung up on" : "Lost messages of", why, sent.constData(), trouble.received.bytes,
+        trouble.received.messages, trouble.unsent.bytes, trouble.unsent.messages);
+    if (m_troubleHandler)
+        m_troubleHandler(trouble);
+}
+
+void QLWTCPSocket::watchConnection()
+{
+    if (state() == ConnectedState)
+        TcpConnection::SetWatch(socketDescriptor(), kWatch);
+}
+
+void QLWTCPSocket::probeConnection()
+{
+    if (state() != ConnectedState)
+        return;
+    TcpConnection::SetWatch(socketDescriptor(), kProbe);
+    sendMessage(m_heartbeatCommand, {}, 0);
+    QTimer::singleShot(2 * kProbe.unanswered, this, &QLWTCPSocket::watchConnection);
 }
 
 void QLWTCPSocket::startHeartbeat()

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "linktrouble.h"
+
 #include <net/protocol/messagereader.h>
+#include <net/protocol/sendqueue.h>
 
 #include <QtCore/QDateTime>
 #include <QtNetwork/QTcpSocket>
@@ -13,13 +16,15 @@ class QTimer;
 /// payloads, and sends a heartbeat after a time of send silence. Knows nothing of what the commands mean.
 ///
 /// Both directions are buffered within limits; what passes a limit empties both buffers, reports it by a signal and
-/// leaves the connection open. A stream whose header cannot be believed is aborted. The buffers do not outlive the
-/// connection whose bytes they hold.
+/// leaves the connection open. Both directions stay in step: what is still to come of dropped messages is skipped, and a
+/// message that has begun to leave leaves whole. A stream whose header cannot be believed is aborted. The buffers do not
+/// outlive the connection whose bytes they hold. The farm is on the studio's own network: no proxy is used.
 class QLWTCPSocket final : public QTcpSocket {
     Q_OBJECT
 
 public:
     using Clock = std::function<QDateTime()>;
+    using TroubleHandler = std::function<void(const LinkTrouble &trouble)>;
 
     /// Reads "network/heartbeat_resolution" from the settings.
     explicit QLWTCPSocket(QObject *parent = nullptr);
@@ -27,7 +32,8 @@ public:
 
     bool hasMessage() const { return m_receiveBuffer.next() != MessageReader::Next::NeedMore; }
 
-    /// Queues a message and writes what the connection takes now. False when it was refused for overflow.
+    /// Queues a message and writes what the connection takes now. Where the queue is full, the connection gets half a
+    /// second to take some of it; false when it took too little, which empties both buffers.
     bool sendMessage(uint command, const QByteArray &payload, uint param);
     /// Queues a message in front of all that waits: the log-in must be the first on a connection.
     bool sendFirst(uint command, const QByteArray &payload, uint param);
@@ -39,8 +45,14 @@ public:
     void setHeartbeatCommand(uint command) { m_heartbeatCommand = command; }
     void startHeartbeat();
     void stopHeartbeat();
+    /// Has the system notice within two minutes that the other end is gone.
+    void watchConnection();
+    /// Has it notice within 20 seconds, once: the link may have died while the machine slept.
+    void probeConnection();
     /// Sets the source of the time for the heartbeat.
     void setClock(Clock clock) { m_clock = std::move(clock); }
+    /// Sets who hears of what was lost; the log hears of it in any case.
+    void setTroubleHandler(TroubleHandler handler) { m_troubleHandler = std::move(handler); }
 
     /// Closes the connection and deletes the socket once nothing of it is running any more.
     void retire();
@@ -60,21 +72,29 @@ public Q_SLOTS:
     void checkHeartBeat();
 
 private:
-    bool queueMessage(qsizetype position, uint command, const QByteArray &payload, uint param);
+    enum class Place { Front, Back };
+
+    bool queueMessage(Place place, uint command, const QByteArray &payload, uint param);
+    bool fits(qsizetype messageSize) const;
+    bool makeRoom(qsizetype messageSize);
     void writeQueued();
     bool inflateMessage(const RawMessage &message, QByteArray *data);
     void breakStream(const char *why);
-    void clearBuffers();
+    void emptyBuffers(LinkTrouble trouble);
+    void report(const LinkTrouble &trouble, const char *why);
 
     qint64 m_maxReceiveSize;
     qint64 m_maxSendSize;
     MessageReader m_receiveBuffer;
-    QByteArray m_sendBuffer;
+    SendQueue m_sendBuffer;
     QDateTime m_lastActivity;
     QTimer *m_heartbeatTimer = nullptr;
     qint32 m_heartbeatResolution;
     quint32 m_heartbeatCommand = 0;
     Clock m_clock;
+    TroubleHandler m_troubleHandler;
+    bool m_isDispatcher = false; // a whole message came over this connection
+    bool m_isStalled = false; // the connection takes no more; not waited for again until it does
     bool m_reading = false;
     bool m_retired = false;
 };

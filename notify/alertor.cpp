@@ -1,5 +1,7 @@
 #include "alertor.h"
 
+#include "emptylist.h"
+#include "linkdisplay.h"
 #include "menus.h"
 #include "messages.h"
 #include "notifylog.h"
@@ -42,13 +44,13 @@ Alertor::Alertor(QWidget *parent)
     , m_sendEntry{this, &sendThrough}
 {
     m_ui->setupUi(this);
-    m_session.setSettings(m_settings.link());
-    m_viewers.setSettings(m_settings);
     m_ui->treeWidget->setModel(&m_model);
     m_ui->treeWidget->installEventFilter(this);
     connect(m_ui->treeWidget, &QWidget::customContextMenuRequested, this, &Alertor::popupMenu);
     buildMenus();
     connectSession();
+    m_session.setSettings(m_settings.link());
+    m_viewers.setSettings(m_settings);
     connect(&m_tray, &QSystemTrayIcon::activated, this, &Alertor::iconActivated);
     m_tray.setContextMenu(m_trayMenu);
     connect(&m_timer, &QTimer::timeout, this, qOverload<>(&Alertor::timerEvent));
@@ -74,6 +76,7 @@ void Alertor::buildMenus()
     connect(m_trayMenu->silent, &QAction::triggered, this, &Alertor::actIsSilent);
     connect(m_trayMenu->openViewer, &QAction::triggered, this, &Alertor::openImageViewer);
     connect(m_trayMenu->configure, &QAction::triggered, this, &Alertor::configure);
+    connect(m_trayMenu->about, &QAction::triggered, this, [this] { Messages::showAbout(this); });
     connect(m_trayMenu->quit, &QAction::triggered, this, &Alertor::onQuit);
     m_ui->menuButton->setMenu(m_trayMenu);
 
@@ -93,12 +96,20 @@ void Alertor::connectSession()
     connect(&m_session, &DispatcherSession::connected, this, &Alertor::socketConnected);
     connect(&m_session, &DispatcherSession::disconnected, this, &Alertor::socketDisconnected);
     connect(&m_session, &DispatcherSession::messageReady, this, &Alertor::socketMessage);
+    connect(&m_session, &DispatcherSession::reportChanged, this, [this] { updateIcon(true); });
+    auto *emptyList = new EmptyList(m_ui->treeWidget);
+    connect(emptyList, &EmptyList::configureRequested, this, &Alertor::configure);
+    connect(m_ui->linkStatus, &LinkStatus::connectRequested, this,
+            [this] { m_session.reconnect(m_settings.link()); });
+    m_linkDisplay = new LinkDisplay(m_session, {m_tray, *m_ui->linkStatus, *emptyList}, this);
 }
 
 void Alertor::loadSettings()
 {
     m_settings = ::loadSettings();
     m_commandLineOverrides.applyTo(m_settings);
+    m_isConfigured = anySettingStored() || m_commandLineOverrides.any();
+    m_linkDisplay->setConfigured(m_isConfigured);
     m_session.setSettings(m_settings.link());
     m_viewers.setSettings(m_settings);
 }
@@ -161,7 +172,7 @@ bool Alertor::sendMessage(uint command, const QByteArray &payload, uint param)
 
 void Alertor::updateIcon(bool normal)
 {
-    m_tray.update(m_session.state(), m_pendingLevel, normal);
+    m_tray.update(m_session.report().state, m_pendingLevel, normal);
 }
 
 void Alertor::processCommand(uint cmd, QByteArray *payload)
@@ -371,9 +382,13 @@ void Alertor::configure()
 
 void Alertor::applySettings(const Settings &edited)
 {
-    const bool reconnect = edited.link() != m_settings.link();
+    const bool isOtherLink = edited.link() != m_settings.link();
     m_settings = edited;
-    if (reconnect) {
+    if (isOtherLink)
+        m_linkDisplay->forgetLink();
+    if (isOtherLink || !m_isConfigured || !m_session.autoReconnect()) {
+        m_isConfigured = true;
+        m_linkDisplay->setConfigured(true);
         m_session.reconnect(m_settings.link());
         updateIcon(false);
     }
@@ -385,9 +400,11 @@ void Alertor::applySettings(const Settings &edited)
 void Alertor::timerEvent()
 {
     updateIcon(m_tick % kFlashTicks != 0);
+    m_session.checkAfterSleep();
     if (m_tick % kConnectionTicks == 0) {
         standInForTray();
-        if (m_session.autoReconnect())
+        m_linkDisplay->attempt(kConnectionTicks * kTick);
+        if (m_isConfigured && m_session.autoReconnect())
             checkLocalConnection();
     }
     ++m_tick;

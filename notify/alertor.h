@@ -18,6 +18,7 @@
 #include <memory>
 
 class ImageViewer;
+class LinkDisplay;
 class ListMenu;
 class TrayMenu;
 
@@ -121,6 +122,7 @@ private:
     SoundPlayer m_sounds;
     Tray m_tray;
     ViewerWindows m_viewers{*this};
+    LinkDisplay *m_linkDisplay = nullptr;
     TrayMenu *m_trayMenu = nullptr;
     ListMenu *m_listMenu = nullptr;
     QPointer<QDialog> m_refusal;
@@ -128,6 +130,7 @@ private:
     quint32 m_tick = 0;
     PendingLevel m_pendingLevel = NothingPending;
     quint64 m_nextEventId = 1;
+    bool m_isConfigured = true;
     bool m_silent = false;
     bool m_firstHideHint = true;
 };

@@ -25,6 +25,7 @@ public:
     QAction *const silent;
     QAction *const openViewer;
     QAction *const configure;
+    QAction *const about;
     QAction *const quit;
 };
 

@@ -1,8 +1,10 @@
 #include "messages.h"
 
+#include <ui/logfile.h>
 #include <ui/product.h>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
 #include <QtWidgets/QMessageBox>
 
 void Messages::showError(QWidget *parent, const QString &text)
@@ -11,6 +13,17 @@ void Messages::showError(QWidget *parent, const QString &text)
     // Paths come from the farm: they are no markup.
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::Ok);
+    box.exec();
+}
+
+void Messages::showAbout(QWidget *parent)
+{
+    const QString text =
+        QCoreApplication::translate("Messages", "Tarrow Alertor %1 (build %2)\n\nLog: %3")
+            .arg(product::kVersion, product::kBuildNumber, QDir::toNativeSeparators(LogFile::path()));
+    QMessageBox box(QMessageBox::Information, product::kProductTitle, text, QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.exec();
 }
 

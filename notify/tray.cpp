@@ -13,11 +13,17 @@ QString iconPath(const char *name)
     return QStringLiteral(":/icons/") + QLatin1String(name);
 }
 
-QString stateIcon(std::optional<QAbstractSocket::SocketState> state)
+QString stateIcon(LinkReport::State state)
 {
-    if (state == QAbstractSocket::ConnectingState)
+    switch (state) {
+    case LinkReport::State::LookingUp:
+    case LinkReport::State::Connecting:
         return iconPath("connectingIcon");
-    return iconPath(state == QAbstractSocket::UnconnectedState ? "unconnectedIcon" : "mainIcon");
+    case LinkReport::State::Connected:
+        return iconPath("mainIcon");
+    default:
+        return iconPath("unconnectedIcon");
+    }
 }
 
 const char *levelIcon(PendingLevel level)
@@ -47,16 +53,20 @@ Tray::Tray(QObject *parent)
     for (const char *name : {"mainIcon", "connectingIcon", "unconnectedIcon", "service", "itemStart",
                              "itemCompleted", "itemWarning", "itemError"})
         m_icons.emplace(iconPath(name), svgIcon(iconPath(name)));
-    showIcon(kNormal);
+    showIcon(stateIcon(LinkReport::State::Idle));
 }
 
-void Tray::update(std::optional<QAbstractSocket::SocketState> state, PendingLevel level, bool normal)
+void Tray::update(LinkReport::State state, PendingLevel level, bool normal)
 {
     const char *severity = normal ? nullptr : levelIcon(level);
     showIcon(severity ? iconPath(severity) : stateIcon(state));
-    const QString tip = state == QAbstractSocket::ConnectedState ? tr("Tarrow Alertor")
-                                                                 : tr("Tarrow Alertor (not connected)");
-    if (toolTip() != tip)
+}
+
+void Tray::explain(LinkReport::State state, const QString &words)
+{
+    const QString name =
+        state == LinkReport::State::Connected ? tr("Tarrow Alertor") : tr("Tarrow Alertor (not connected)");
+    if (const QString tip = name + u'\n' + words; toolTip() != tip)
         setToolTip(tip);
 }
 

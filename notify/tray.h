@@ -1,13 +1,12 @@
 #pragma once
 
+#include <net/linkreport.h>
 #include <notify/events/eventkind.h>
 
 #include <QtGui/QIcon>
-#include <QtNetwork/QAbstractSocket>
 #include <QtWidgets/QSystemTrayIcon>
 
 #include <map>
-#include <optional>
 
 /// The icon in the system tray: shows the state of the link, flashes what is pending, shows bubbles.
 class Tray final : public QSystemTrayIcon {
@@ -20,9 +19,10 @@ public:
     /// Resource path of the icon that is shown.
     const QString &shownIcon() const { return m_shown; }
 
-    /// Shows the state's icon, or with `normal` false that of the level; sets nothing that is shown already.
-    /// `state` is that of the Dispatcher's socket, null without one.
-    void update(std::optional<QAbstractSocket::SocketState> state, PendingLevel level, bool normal);
+    /// Shows the link's icon, or with `normal` false that of the level; sets nothing that is shown already.
+    void update(LinkReport::State state, PendingLevel level, bool normal);
+    /// Says how the link stands below the program's name.
+    void explain(LinkReport::State state, const QString &words);
     /// Shows the bubble for new events, once for all that come before control returns to the event loop.
     void showNewEvent();
     void showBackgroundHint();

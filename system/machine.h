@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 
@@ -12,9 +13,15 @@ std::filesystem::path userSettingsFolder();
 std::filesystem::path sharedSettingsFolder();
 /// Finds the running program's file.
 std::filesystem::path executable();
+/// Gives the user's own folder for what a program keeps of its runs, as logs: $XDG_STATE_HOME or ~/.local/state,
+/// %LOCALAPPDATA% on Windows.
+std::filesystem::path userStateFolder();
 /// Gives the machine's name in the network, in UTF-8.
 std::string hostName();
 /// Names the system as folders of compiled packages have it: "linux", "windows".
 std::string platformName();
+
+/// Tells how long this machine has slept since it was started; zero where the system does not tell.
+std::chrono::milliseconds timeAsleep();
 
 } // namespace Machine

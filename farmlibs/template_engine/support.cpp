@@ -54,7 +54,7 @@ def load(name, path, folders):
 
 def identity(module):
     number = getattr(module, "TEMPLATE_ID", None)
-    if number is not None and not (isinstance(number, int) and -2**31 <= number < 2**31):
+    if number is not None and not (isinstance(number, int) and not isinstance(number, bool) and -2**31 <= number < 2**31):
         raise TypeError("TEMPLATE_ID must be a 32-bit integer")
     title = getattr(module, "TEMPLATE_NAME", None)
     if title is not None and not isinstance(title, str):

@@ -1,5 +1,6 @@
 #include "messagereader.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -31,8 +32,46 @@ char *MessageReader::room(qsizetype bytes)
     return m_bytes.data() + m_held;
 }
 
+Loss MessageReader::drop()
+{
+    Loss loss;
+    while (size() >= MessageHeader::kSize) {
+        const MessageHeader header = MessageHeader::decode(m_bytes.constData() + m_taken);
+        if (!isBelievable(header))
+            return loss;
+        const qsizetype length = MessageHeader::kSize + header.length;
+        loss.bytes += length;
+        ++loss.messages;
+        const qsizetype here = std::min(length, size());
+        m_taken += here;
+        m_toSkip = length - here;
+    }
+    if (size() > 0 && !m_headCut) {
+        m_headCut = true;
+        loss.bytes += size();
+        ++loss.messages;
+    }
+    return loss;
+}
+
+void MessageReader::skipDropped()
+{
+    if (m_headCut && size() >= MessageHeader::kSize) {
+        m_headCut = false;
+        const MessageHeader header = MessageHeader::decode(m_bytes.constData() + m_taken);
+        if (!isBelievable(header))
+            return;
+        m_toSkip = MessageHeader::kSize + header.length;
+    }
+    const qsizetype here = std::min(m_toSkip, size());
+    m_taken += here;
+    m_toSkip -= here;
+}
+
 void MessageReader::clear()
 {
     m_held = 0;
     m_taken = 0;
+    m_toSkip = 0;
+    m_headCut = false;
 }

@@ -76,6 +76,11 @@ Settings loadSettings()
     return loadRows({kRows, kImageViewerRows});
 }
 
+bool anySettingStored()
+{
+    return anyRowStored({kRows, kImageViewerRows});
+}
+
 bool saveSettings(const Settings &settings)
 {
     return saveRows({kRows, kImageViewerRows}, settings);
@@ -83,5 +88,7 @@ bool saveSettings(const Settings &settings)
 
 int loadHeartbeatResolution()
 {
-    return QSettings().value(QStringLiteral("network/heartbeat_resolution"), 600).toInt();
+    constexpr int kDefault = 600;
+    const int seconds = QSettings().value(QStringLiteral("network/heartbeat_resolution"), kDefault).toInt();
+    return seconds > 0 ? seconds : kDefault;
 }

@@ -56,13 +56,16 @@ struct CommandLineOverrides {
     std::optional<QString> password;
     std::optional<int> port;
 
+    bool any() const { return server || user || password || port; }
     void applyTo(Settings &settings) const;
 };
 
 /// Reads every key from the default settings store. A key that is missing, or whose value is not of its type, has its
 /// default; all that could not be read is reported in one warning.
 Settings loadSettings();
-/// The same for the keys of the group "imageViewer" alone: needs no cipher.
+/// False where the program was never configured, neither by the user nor for all users.
+bool anySettingStored();
+/// As loadSettings() for the keys of the group "imageViewer" alone: needs no cipher.
 Settings loadImageViewerSettings();
 
 /// Writes every key. False, with one warning, when the store cannot be written.

@@ -9,6 +9,7 @@
 #include <QtCore/QTemporaryFile>
 #include <QtCore/QVariant>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -134,6 +135,15 @@ Settings loadRows(std::initializer_list<SettingsRows> tables)
         qCWarning(lcSettings, "Cannot read %s in %s; using the defaults",
                   qUtf8Printable(unreadable.join(QStringLiteral(", "))), qUtf8Printable(store.fileName()));
     return settings;
+}
+
+bool anyRowStored(std::initializer_list<SettingsRows> tables)
+{
+    const QSettings store;
+    return std::any_of(tables.begin(), tables.end(), [&store](SettingsRows table) {
+        return std::any_of(table.begin(), table.end(),
+                           [&store](const SettingsRow &row) { return store.contains(keyOf(row)); });
+    });
 }
 
 bool saveRows(std::initializer_list<SettingsRows> tables, const Settings &settings)

@@ -27,6 +27,7 @@ using SettingsRows = std::span<const SettingsRow>;
 /// The group "imageViewer", which a viewer without the farm reads alone; every other row is in the table of settings.cpp.
 extern const SettingsRows kImageViewerRows;
 
-/// As loadSettings() and saveSettings(), for these rows alone.
+/// As loadSettings(), anySettingStored() and saveSettings(), for these rows alone.
 Settings loadRows(std::initializer_list<SettingsRows> tables);
+bool anyRowStored(std::initializer_list<SettingsRows> tables);
 bool saveRows(std::initializer_list<SettingsRows> tables, const Settings &settings);

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdlib>
+#include <ctime>
 #include <system_error>
 
 #include <pwd.h>
@@ -22,6 +23,15 @@ std::filesystem::path Machine::sharedSettingsFolder()
     return "/etc";
 }
 
+std::filesystem::path Machine::userStateFolder()
+{
+    const char *set = std::getenv("XDG_STATE_HOME");
+    if (set && *set == '/')
+        return set;
+    const std::filesystem::path home = userSettingsFolder();
+    return home.empty() ? home : home / ".local" / "state";
+}
+
 std::filesystem::path Machine::executable()
 {
     std::error_code error;
@@ -35,6 +45,19 @@ std::string Machine::hostName()
     if (gethostname(buffer.data(), buffer.size() - 1) != 0)
         return {};
     return buffer.data();
+}
+
+std::chrono::milliseconds Machine::timeAsleep()
+{
+#ifdef CLOCK_BOOTTIME
+    // The one goes on while the machine sleeps, the other does not.
+    timespec always{};
+    timespec awake{};
+    if (clock_gettime(CLOCK_MONOTONIC, &awake) == 0 && clock_gettime(CLOCK_BOOTTIME, &always) == 0)
+        return std::chrono::milliseconds((always.tv_sec - awake.tv_sec) * 1000
+                                         + (always.tv_nsec - awake.tv_nsec) / 1'000'000);
+#endif
+    return {};
 }
 
 std::string Machine::platformName()

@@ -35,6 +35,11 @@ std::filesystem::path Machine::sharedSettingsFolder()
     return environmentFolder(L"PROGRAMDATA");
 }
 
+std::filesystem::path Machine::userStateFolder()
+{
+    return environmentFolder(L"LOCALAPPDATA");
+}
+
 std::filesystem::path Machine::executable()
 {
     std::array<wchar_t, 32768> buffer{};
@@ -50,6 +55,14 @@ std::string Machine::hostName()
     if (!GetComputerNameExW(ComputerNameDnsHostname, buffer.data(), &length))
         return {};
     return utf8({buffer.data(), length});
+}
+
+std::chrono::milliseconds Machine::timeAsleep()
+{
+    ULONGLONG awake = 0; // in 100 ns
+    if (!QueryUnbiasedInterruptTime(&awake))
+        return {};
+    return std::chrono::milliseconds(static_cast<long long>(GetTickCount64() - awake / 10'000));
 }
 
 std::string Machine::platformName()

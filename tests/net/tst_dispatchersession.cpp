@@ -7,6 +7,10 @@
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
+
 class TestDispatcherSession final : public QObject {
     Q_OBJECT
 
@@ -40,8 +44,18 @@ private Q_SLOTS:
                  (LoginPacket{QStringLiteral("ann\u00fc"), QStringLiteral("secret"), true,
                               QString::fromStdString(TFramework::GetHostName())}));
         QCOMPARE(heartbeatTimers(session), 1);
-        QCOMPARE(session.findChild<QTcpSocket *>()->socketOption(QAbstractSocket::KeepAliveOption).toInt(),
-                 1);
+        QCOMPARE(session.report().state, LinkReport::State::Connected);
+        // A Dispatcher that is gone without a word is missed within two minutes.
+        const auto socket = session.findChild<QTcpSocket *>();
+        QCOMPARE(socket->socketOption(QAbstractSocket::KeepAliveOption).toInt(), 1);
+        for (const auto &[option, wanted] :
+             {std::pair(TCP_KEEPIDLE, 60), std::pair(TCP_KEEPINTVL, 15), std::pair(TCP_KEEPCNT, 4),
+              std::pair(TCP_USER_TIMEOUT, 120'000)}) {
+            int value = 0;
+            socklen_t size = sizeof value;
+            QCOMPARE(getsockopt(int(socket->socketDescriptor()), IPPROTO_TCP, option, &value, &size), 0);
+            QCOMPARE(value, wanted);
+        }
 
         peer.dropLink();
         QTRY_COMPARE(*session.state(), QAbstractSocket::UnconnectedState);
@@ -65,10 +79,18 @@ private Q_SLOTS:
         QTRY_COMPARE(errors.size(), 1);
         QTRY_COMPARE(*session.state(), QAbstractSocket::UnconnectedState);
         QVERIFY(session.autoReconnect());
+        QCOMPARE(session.report().state, LinkReport::State::Waiting);
+        QCOMPARE(session.report().detail, QStringLiteral("Connection refused"));
         LoopbackPeer back(port);
         QVERIFY(back.listening());
         session.checkLocalConnection();
         QTRY_COMPARE(back.received().size(), 1);
+        QCOMPARE(session.report().reason, LinkReport::Reason::None);
+        connect(&session, &DispatcherSession::messageReady, this,
+                [&session] { session.drain([](uint, QByteArray *) {}); });
+        back.send("HTTP/1.1 400 Bad Request\r\n");
+        QTRY_COMPARE(session.report().reason, LinkReport::Reason::Foreign);
+        QCOMPARE(session.report().detail, QStringLiteral("HTTP"));
     }
 
     void refusalStopsUntilOtherSettings()
@@ -81,6 +103,7 @@ private Q_SLOTS:
         session.refuse();
         QTRY_COMPARE(*session.state(), QAbstractSocket::UnconnectedState);
         QVERIFY(!session.autoReconnect());
+        QCOMPARE(session.report().state, LinkReport::State::Refused);
         LinkSettings other = settingsFor(peer);
         other.user = QStringLiteral("ben");
         session.reconnect(other);

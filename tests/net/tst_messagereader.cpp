@@ -1,6 +1,7 @@
 #include "table.h"
 
 #include <net/protocol/messagereader.h>
+#include <net/protocol/sendqueue.h>
 #include <notify/settings/inflate.h>
 
 #include <QtTest/QTest>
@@ -49,16 +50,77 @@ private Q_SLOTS:
         }
     }
 
-    void negativeLengthBreaksTheStreamUntilCleared()
+    void lengthsThatCannotBeBelievedBreakTheStreamUntilCleared()
     {
         MessageReader reader;
-        reader.append(bytesOf("01 ffffffff 00000000 59020000") + encodeMessage(402, ""));
         RawMessage message;
-        QCOMPARE(reader.take(message), MessageReader::Next::Broken);
-        QCOMPARE(reader.take(message), MessageReader::Next::Broken);
+        for (const char *length : {"ffffffff", "01000004", "53534820"}) {
+            reader.append(bytesOf("01") + bytesOf(length) + bytesOf("00000000 59020000")
+                          + encodeMessage(402, ""));
+            QCOMPARE(reader.take(message), MessageReader::Next::Broken);
+            QCOMPARE(reader.take(message), MessageReader::Next::Broken);
+            reader.clear();
+        }
+        reader.append(bytesOf("01 00000004 00000000 59020000")); // 64 MiB
+        QCOMPARE(reader.take(message), MessageReader::Next::NeedMore);
         reader.clear();
         reader.append(encodeMessage(402, ""));
         QCOMPARE(reader.take(message), MessageReader::Next::Message);
+    }
+
+    void staysInStepWhereverItDrops()
+    {
+        const QByteArrayList messages{encodeMessage(1, "first"), encodeMessage(2, ""),
+                                      encodeMessage(3, "third"), encodeMessage(4, "x")};
+        const QByteArray wire = messages.join();
+        for (qsizetype cut = 0; cut <= wire.size(); ++cut) {
+            MessageReader reader;
+            reader.append(QByteArrayView{wire}.first(cut));
+            const Loss loss = reader.drop();
+            QCOMPARE(reader.drop().messages, 0);
+            QList<uint> seen;
+            for (const char byte : wire.sliced(cut)) {
+                reader.append({&byte, 1});
+                RawMessage message;
+                while (reader.take(message) == MessageReader::Next::Message)
+                    seen += message.header.command;
+            }
+            // What began before the cut is lost, and nothing else.
+            QList<uint> wanted;
+            qsizetype start = 0;
+            for (qsizetype i = 0; i < messages.size(); start += messages[i++].size()) {
+                if (start >= cut)
+                    wanted += uint(i + 1);
+            }
+            QCOMPARE(seen, wanted);
+            QCOMPARE(loss.messages, messages.size() - wanted.size());
+            QCOMPARE(reader.size(), 0);
+        }
+    }
+
+    void whatHasBegunToLeaveLeavesWhole()
+    {
+        const QByteArray wire = encodeMessage(1, "first") + encodeMessage(2, "") + encodeMessage(3, "third");
+        for (qsizetype cut = 0; cut <= wire.size(); ++cut) {
+            SendQueue queue;
+            queue.append(encodeMessage(1, "first"));
+            queue.append(encodeMessage(2, "") + encodeMessage(3, "third"));
+            queue.remove(cut / 2);
+            queue.remove(cut - cut / 2);
+            const Loss loss = queue.drop();
+            queue.append(encodeMessage(5, "last"));
+            queue.prepend(encodeMessage(4, "first of all"));
+            MessageReader peer;
+            peer.append(wire.first(cut) + queue.bytes().toByteArray());
+            QList<uint> seen;
+            RawMessage message;
+            while (peer.take(message) == MessageReader::Next::Message)
+                seen += message.header.command;
+            const qsizetype left = seen.size() - 2;
+            QCOMPARE(left + loss.messages, 3);
+            QCOMPARE(seen.sliced(left), (QList<uint>{4, 5}));
+            QCOMPARE(peer.size(), 0);
+        }
     }
 
     void inflateKeepsToItsBounds_data()

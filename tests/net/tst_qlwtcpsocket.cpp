@@ -103,8 +103,12 @@ private Q_SLOTS:
         link.peer.send(encodeMessage(MessageHeader::Plain, 601, largest + 'x'));
         QTRY_COMPARE(overflow.size(), 1);
         QCOMPARE(link.messages.size(), 1);
-        QVERIFY(link.up());
         QVERIFY(!link.socket.hasMessage());
+        link.peer.send(encodeMessage(MessageHeader::Plain, 601, QByteArray(3 * kLimit, 'x'))
+                       + encodeMessage(MessageHeader::Plain, 601, "after"));
+        QTRY_COMPARE(link.messages.value(1), ended("after"));
+        QCOMPARE(overflow.size(), 2);
+        QVERIFY(link.up());
     }
 
     void aMessageStillInflatesAfterADamagedOne()
@@ -113,9 +117,11 @@ private Q_SLOTS:
         QSignalSpy damaged(&link.socket, &QLWTCPSocket::zDecompressError);
         link.peer.send(encodeMessage(MessageHeader::Plain, 601, "before") + headerOf(2, 8) + "garbage!");
         QTRY_COMPARE(damaged.size(), 1);
-        link.peer.send(headerOf(2, 3) + "abc"); // too short for its size field
+        link.peer.send(headerOf(2, 3) + "abc" // too short for its size field
+                       + encodeMessage(MessageHeader::Plain, 601, "goes with it").chopped(3));
         QTRY_COMPARE(damaged.size(), 2);
-        link.peer.send(compressedMessage(QByteArray(100'000, 'b'), 99'999)); // holds more than announced
+        link.peer.send(QByteArray(" it")
+                       + compressedMessage(QByteArray(100'000, 'b'), 99'999)); // holds more than announced
         QTRY_COMPARE(damaged.size(), 3);
         link.peer.send(encodeMessage(MessageHeader::Compressed, 601, "after"));
         QTRY_COMPARE(link.messages, (QByteArrayList{ended("before"), ended("after")}));
@@ -125,9 +131,10 @@ private Q_SLOTS:
     void brokenStreamsAreAborted()
     {
         for (const QByteArray &bytes : {headerOf(1, -1), headerOf(0, std::numeric_limits<qint32>::min()),
-                                        compressedMessage("text", -1)}) {
+                                        headerOf(1, 64 * 1024 * 1024 + 1), compressedMessage("text", -1)}) {
             Link link;
-            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Dropped the connection")));
+            QTest::ignoreMessage(QtWarningMsg,
+                                 QRegularExpression(QStringLiteral("Hung up on the Dispatcher")));
             link.peer.send(bytes + encodeMessage(MessageHeader::Plain, 601, "never seen"));
             QTRY_COMPARE(link.socket.state(), QAbstractSocket::UnconnectedState);
             QVERIFY(!link.socket.hasMessage() && link.messages.isEmpty());
@@ -150,7 +157,17 @@ private Q_SLOTS:
         QCOMPARE(peer.received()[2].payload, large);
     }
 
-    void aPeerThatNeverReadsFillsTheSendBufferAndNoMore()
+    void aBurstLargerThanTheQueueArrivesWhole()
+    {
+        Link link;
+        for (int i = 0; i < 1500; ++i)
+            QVERIFY(link.socket.sendMessage(uint(i), QByteArray(1000, 'p'), 0));
+        QTRY_COMPARE(link.peer.received().size(), 1500);
+        for (int i = 0; i < 1500; ++i)
+            QCOMPARE(link.peer.received()[i].command, uint(i));
+    }
+
+    void aPeerThatDoesNotReadFillsTheSendBufferAndTearsNoMessage()
     {
         Link link;
         link.peer.stopReading();
@@ -166,7 +183,10 @@ private Q_SLOTS:
         QVERIFY(accepted < 1000);
         QVERIFY(link.socket.bytesToWrite() <= 65'536);
         QVERIFY(link.up());
-        QVERIFY(link.socket.sendMessage(700, payload, 0)); // the refusal emptied the buffer
+        QVERIFY(link.socket.sendMessage(701, payload, 0)); // the refusal emptied the buffer
+        link.peer.resumeReading();
+        QTRY_COMPARE(link.peer.received().value(link.peer.received().size() - 1).command, 701U);
+        QVERIFY(link.peer.received().size() <= accepted + 1);
     }
 
     void sendLimitCountsTheHeader()
@@ -201,7 +221,7 @@ private Q_SLOTS:
 
     void heartbeatRunsByItsTimer()
     {
-        QSettings().setValue(QStringLiteral("network/heartbeat_resolution"), 0);
+        QSettings().setValue(QStringLiteral("network/heartbeat_resolution"), 1);
         Link link;
         QSettings().remove(QStringLiteral("network/heartbeat_resolution"));
         link.socket.setHeartbeatCommand(402);

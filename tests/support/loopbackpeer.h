@@ -23,7 +23,7 @@ inline qsizetype heartbeatTimers(const QObject &owner)
 class LoopbackPeer final : public QObject {
 public:
     struct Received {
-        quint32 command;
+        quint32 command = 0;
         QByteArray payload;
     };
 
@@ -51,6 +51,12 @@ public:
     {
         m_link->disconnect(this);
         m_link->setReadBufferSize(1);
+    }
+    void resumeReading()
+    {
+        m_link->setReadBufferSize(0);
+        connect(m_link, &QIODevice::readyRead, this, [this] { read(); });
+        read();
     }
     void dropLink() { m_link->abort(); }
 

@@ -1,0 +1,96 @@
+#include "linkwords.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDateTime>
+#include <QtCore/QLocale>
+
+namespace {
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(LinkWords)
+};
+
+QString shortTime(const QDateTime &time)
+{
+    return QLocale::system().toString(time.time(), QLocale::ShortFormat);
+}
+
+QString server(const LinkReport &report)
+{
+    const QString form = report.address.contains(u':') ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2");
+    return form.arg(report.address, QString::number(report.port));
+}
+
+QString reason(const LinkReport &report)
+{
+    switch (report.reason) {
+    case LinkReport::Reason::System:
+        return report.detail;
+    case LinkReport::Reason::Foreign:
+        return Words::tr("Not a Dispatcher: it sent %1").arg(report.detail);
+    case LinkReport::Reason::BrokenStream:
+        return Words::tr("The Dispatcher's stream was damaged");
+    case LinkReport::Reason::None:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+QString LinkWords::state(const LinkReport &report, const QDateTime &nextAttempt)
+{
+    using State = LinkReport::State;
+    const QString why = reason(report);
+    switch (report.state) {
+    case State::Idle:
+        return Words::tr("Not connected");
+    case State::LookingUp:
+        return Words::tr("Looking up %1").arg(report.address);
+    case State::Connecting:
+        return Words::tr("Connecting to %1 as %2").arg(server(report), report.user);
+    case State::Connected:
+        return Words::tr("Connected to %1 as %2").arg(server(report), report.user);
+    case State::Refused:
+        return Words::tr("Log-in refused by %1 for %2").arg(server(report), report.user);
+    case State::Closing:
+    case State::Waiting:
+        break;
+    }
+    QString text = Words::tr("Not connected to %1 as %2").arg(server(report), report.user);
+    if (!why.isEmpty())
+        text = Words::tr("%1: %2", "state of the link and why").arg(text, why);
+    if (report.state == State::Waiting && nextAttempt.isValid())
+        text += QStringLiteral(". ")
+            + Words::tr("Next try at %1")
+                  .arg(QLocale::system().toString(nextAttempt.time(), QStringLiteral("HH:mm:ss")));
+    return text;
+}
+
+QString LinkWords::outage(const QDateTime &from, const QDateTime &to)
+{
+    return Words::tr("Link was down %1 to %2; events of that time are not sent again")
+        .arg(shortTime(from), shortTime(to));
+}
+
+QString LinkWords::loss(const LinkTrouble &trouble, const QDateTime &when)
+{
+    QString why;
+    switch (trouble.kind) {
+    case LinkTrouble::Kind::TooLarge:
+        why = Words::tr("larger than 1 MiB");
+        break;
+    case LinkTrouble::Kind::Damaged:
+        why = Words::tr("damaged");
+        break;
+    case LinkTrouble::Kind::NotRead:
+        return Words::tr("%n message(s) to the Dispatcher lost at %1: it does not read", nullptr,
+                         trouble.unsent.messages)
+            .arg(shortTime(when));
+    case LinkTrouble::Kind::Broken:
+    case LinkTrouble::Kind::Foreign:
+        return {};
+    }
+    return Words::tr("%n message(s) of the Dispatcher lost at %1: %2", nullptr, trouble.received.messages)
+        .arg(shortTime(when), why);
+}
