@@ -74,7 +74,11 @@ void DispatcherSession::openConnection()
     connect(m_socket, &QAbstractSocket::errorOccurred, this,
             [this] { explain(LinkReport::Reason::System, m_socket->errorString()); });
     connect(m_socket, &QAbstractSocket::errorOccurred, this, &DispatcherSession::dropConnection);
-    connect(m_socket, &QAbstractSocket::stateChanged, this, &DispatcherSession::updateReport);
+    connect(m_socket, &QAbstractSocket::stateChanged, this, [this](QAbstractSocket::SocketState state) {
+        if (state == QAbstractSocket::ConnectedState)
+            m_reason = LinkReport::Reason::None;
+        updateReport();
+    });
     connect(m_socket, &QAbstractSocket::stateChanged, this, &DispatcherSession::stateChanged);
     connect(m_socket, &QAbstractSocket::errorOccurred, this, &DispatcherSession::errorOccurred);
     connect(m_socket, &QLWTCPSocket::messageReady, this, &DispatcherSession::messageReady);
@@ -167,9 +171,9 @@ void DispatcherSession::updateReport()
     if (report == m_report)
         return;
     // The same failure every few seconds is told once.
-    const bool tells = report.state == LinkReport::State::Connected
-        || report.state == LinkReport::State::Refused
-        || (report.state == LinkReport::State::Waiting && report != m_told);
+    const bool tells = report != m_told
+        && (report.state == LinkReport::State::Waiting || report.state == LinkReport::State::Refused
+            || (report.state == LinkReport::State::Connected && report.state != m_told.state));
     m_report = report;
     if (tells) {
         m_told = report;
@@ -209,7 +213,6 @@ void DispatcherSession::logIn()
         m_socket->sendFirst(CMD_LOGIN, payload, 0);
     m_socket->setHeartbeatCommand(CMD_HEARTBEAT);
     m_socket->startHeartbeat();
-    explain(LinkReport::Reason::None);
     Q_EMIT connected();
 }
 

@@ -233,9 +233,9 @@ bool QLWTCPSocket::inflateMessage(const RawMessage &message, QByteArray *data)
 void QLWTCPSocket::breakStream(const char *why)
 {
     LinkTrouble trouble;
-    if (!m_isDispatcher)
-        trouble.detail = greeting(m_receiveBuffer.held());
-    trouble.kind = trouble.detail.isEmpty() ? LinkTrouble::Kind::Broken : LinkTrouble::Kind::Foreign;
+    trouble.detail = greeting(m_receiveBuffer.held());
+    const bool isForeign = !m_isDispatcher && !trouble.detail.isEmpty();
+    trouble.kind = isForeign ? LinkTrouble::Kind::Foreign : LinkTrouble::Kind::Broken;
     trouble.received.bytes = m_receiveBuffer.size();
     trouble.unsent = m_sendBuffer.drop();
     m_receiveBuffer.clear();

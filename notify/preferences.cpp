@@ -3,6 +3,7 @@
 #include "ui_preferences.h"
 
 #include <notify/settings/settings.h>
+#include <ui/fieldmark.h>
 
 #include <QtCore/QPointer>
 #include <QtGui/QScreen>
@@ -121,6 +122,7 @@ preferences::preferences(QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->imageViewerMode->installEventFilter(this);
+    connect(m_ui->dispatcherPort, &QLineEdit::textChanged, this, &preferences::checkPort);
     connect(m_ui->pickImageViewer, &QToolButton::clicked, this, &preferences::selectViewer);
     connect(m_ui->pickErrorSound, &QToolButton::clicked, this, &preferences::selectErrorSound);
     connect(m_ui->pickWarningSound, &QToolButton::clicked, this, &preferences::selectWarningSound);
@@ -172,6 +174,14 @@ void preferences::setValues(const Settings &settings)
     m_ui->dispatcherPort->setText(QString::number(settings.dispatcherPort));
     // A stored mode that the box does not offer shows as the integrated viewer.
     m_ui->imageViewerMode->setCurrentIndex(settings.imageViewerMode == 1 ? 1 : 0);
+}
+
+void preferences::checkPort(const QString &text)
+{
+    constexpr int kLastPort = 65'535;
+    const int port = text.toInt();
+    const bool isPort = port > 0 && port <= kLastPort;
+    markField(m_ui->dispatcherPort, isPort ? QString() : tr("A port is a number from 1 to 65535"));
 }
 
 void preferences::selectViewer()

@@ -12,7 +12,7 @@ namespace Ui {
 class preferencesClass;
 }
 
-/// Edits all options. Checks nothing: takes a number that does not parse for 0.
+/// Edits all options. Marks a port that is none, and refuses nothing: takes a number that does not parse for 0.
 /// On a screen lower than the dialog its options scroll, above buttons that stay in sight.
 class preferences final : public QDialog {
     Q_OBJECT
@@ -42,6 +42,7 @@ protected:
 
 private:
     void fitToScreen();
+    void checkPort(const QString &text);
 
     std::unique_ptr<Ui::preferencesClass> m_ui;
 };

@@ -15,8 +15,6 @@ namespace {
 
 /// Events from one piece of garbage to the next.
 constexpr int kEventsPerGarbage = 7;
-/// The client drops what it has buffered along with some garbage: nothing good may follow at once.
-constexpr std::chrono::milliseconds kGarbageQuiet{500};
 
 } // namespace
 
@@ -167,8 +165,6 @@ void FarmServer::deliverGarbage()
         else
             link->send(piece.bytes);
     }
-    if (piece.effect == Garbage::Effect::DropsBuffers)
-        m_due = now() + kGarbageQuiet;
 }
 
 void FarmServer::endNight()

@@ -20,7 +20,15 @@ Garbage notZlib()
         QByteArray::fromHex("40000000") + QByteArrayLiteral("this is no compressed stream");
     return {QStringLiteral("payload that does not inflate"),
             rawMessage(MessageHeader::Compressed, qint32(wire.size()), CMD_NOTIFICATION, wire),
-            Garbage::Effect::DropsBuffers};
+            Garbage::Effect::Ignored};
+}
+
+Garbage tooLarge()
+{
+    constexpr qsizetype kTwoMegabytes = 2'000'000;
+    return {QStringLiteral("message over 1 MiB"),
+            encodeMessage(MessageHeader::Plain, CMD_NOTIFICATION, QByteArray(kTwoMegabytes, 'x')),
+            Garbage::Effect::Ignored};
 }
 
 Garbage unknownCommand()
@@ -43,6 +51,13 @@ Garbage negativeLength()
             Garbage::Effect::BreaksLink};
 }
 
+Garbage hugeLength()
+{
+    return {QStringLiteral("header that announces 790 MB"),
+            rawMessage(MessageHeader::Plain, 790'000'000, CMD_NOTIFICATION, QByteArray(64, 'x')),
+            Garbage::Effect::BreaksLink};
+}
+
 Garbage negativeInflatedSize()
 {
     const QByteArray wire = QByteArray::fromHex("ffffffff789c030000000001");
@@ -58,8 +73,8 @@ Garbage noPayloadType()
             Garbage::Effect::Ignored};
 }
 
-constexpr Garbage (*kKinds[])() = {unknownCommand, notZlib,       shortNotification,
-                                   negativeLength, noPayloadType, negativeInflatedSize};
+constexpr Garbage (*kKinds[])() = {unknownCommand, notZlib,  shortNotification, negativeLength,
+                                   noPayloadType,  tooLarge, hugeLength,        negativeInflatedSize};
 
 } // namespace
 

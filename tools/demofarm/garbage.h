@@ -5,8 +5,8 @@
 
 /// Bytes that a sound farm would not send.
 struct Garbage {
-    /// What the client is to do about it: pass over it, drop what it has buffered along with it, or hang up.
-    enum class Effect { Ignored, DropsBuffers, BreaksLink };
+    /// What the client is to do about it: pass over it, maybe with what it has buffered, or hang up.
+    enum class Effect { Ignored, BreaksLink };
 
     QString what;
     QByteArray bytes;
