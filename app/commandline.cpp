@@ -21,20 +21,22 @@ CommandLine CommandLine::parse(std::span<char *const> arguments)
     CommandLine line;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string_view argument = arguments[i];
-        const char *value = takesValue(argument) && i + 1 < arguments.size() ? arguments[++i] : nullptr;
+        const char *value = i + 1 < arguments.size() ? arguments[i + 1] : nullptr;
+        // A password may look like anything; it does not keep the client from starting.
+        const bool isValue = i > 0 && takesValue(arguments[i - 1]);
         if (argument == "-forcegl2")
             line.forceGl2 = true;
         else if (argument == "--help")
-            line.help = true;
+            line.help = line.help || !isValue;
         else if (argument == "--version")
-            line.version = true;
+            line.version = line.version || !isValue;
         else if (argument == "-server" && value)
             line.overrides.server = QString::fromLocal8Bit(value);
         else if (argument == "-user" && value)
             line.overrides.user = QString::fromLocal8Bit(value);
         else if (argument == "-pass" && value)
             line.overrides.password = QString::fromLocal8Bit(value);
-        else if (argument.ends_with("-language") && value)
+        else if ((argument == "--language" || argument == "-language") && value)
             line.language = QString::fromLocal8Bit(value);
         else if (argument == "-port" && value)
             line.overrides.port = std::atoi(value);

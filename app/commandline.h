@@ -6,8 +6,8 @@
 
 #include <span>
 
-/// The options of the program. They are matched exactly, anywhere among the arguments; the argument
-/// behind one that takes a value is that value, whatever it looks like; as the last argument such an option is ignored.
+/// The options of the program. They are matched exactly, anywhere among the arguments; an option that takes a value takes the
+/// next argument, whatever it looks like, and is ignored as the last.
 struct CommandLine {
     CommandLineOverrides overrides; ///< "-server", "-user", "-pass", "-port"
     QString language; ///< "--language" or "-language": code of the texts' language

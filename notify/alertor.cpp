@@ -76,7 +76,7 @@ void Alertor::buildMenus()
     connect(m_trayMenu->silent, &QAction::triggered, this, &Alertor::actIsSilent);
     connect(m_trayMenu->openViewer, &QAction::triggered, this, &Alertor::openImageViewer);
     connect(m_trayMenu->configure, &QAction::triggered, this, &Alertor::configure);
-    connect(m_trayMenu->about, &QAction::triggered, this, [this] { Messages::showAbout(this); });
+    connect(m_ui->aboutButton, &QPushButton::clicked, this, [this] { Messages::showAbout(this); });
     connect(m_trayMenu->quit, &QAction::triggered, this, &Alertor::onQuit);
     m_ui->menuButton->setMenu(m_trayMenu);
 

@@ -11,14 +11,12 @@ TrayMenu::TrayMenu(QWidget *parent)
     , silent(new QAction(tr("&Silent"), this))
     , openViewer(new QAction(tr("&Open images viewer"), this))
     , configure(new QAction(tr("&Configure"), this))
-    , about(new QAction(tr("A&bout"), this))
     , quit(new QAction(tr("&Quit"), this))
 {
     setObjectName(QStringLiteral("trayMenu"));
     silent->setCheckable(true);
     // The roles keep the entries in this menu on systems that would move them into an application menu.
     configure->setMenuRole(QAction::NoRole);
-    about->setMenuRole(QAction::NoRole);
     quit->setMenuRole(QAction::NoRole);
     addAction(restore);
     addSeparator();
@@ -26,7 +24,7 @@ TrayMenu::TrayMenu(QWidget *parent)
     addSeparator();
     addAction(openViewer);
     addSeparator();
-    addActions({configure, about, quit});
+    addActions({configure, quit});
 }
 
 void TrayMenu::follow(const State &state)

@@ -25,7 +25,6 @@ public:
     QAction *const silent;
     QAction *const openViewer;
     QAction *const configure;
-    QAction *const about;
     QAction *const quit;
 };
 

@@ -11,6 +11,8 @@ constexpr qsizetype kAlignment = 64; // a line of the processor's cache
 
 void MessageReader::append(QByteArrayView bytes)
 {
+    if (bytes.isEmpty())
+        return;
     std::memcpy(room(bytes.size()), bytes.data(), std::size_t(bytes.size()));
     commit(bytes.size());
 }

@@ -78,6 +78,7 @@ private Q_SLOTS:
             {"--language de -language fr_CA", "language=fr_CA"},
             {"-port 1 --help", "port=1 help"},
             {"--version", "version"},
+            {"-pass --version -user --help", "user=--help pass=--version"},
         };
         for (const auto &[arguments, given] : lines)
             QCOMPARE(summary(parsed(arguments)), QString::fromUtf8(given));

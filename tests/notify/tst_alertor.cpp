@@ -57,6 +57,16 @@ struct Farm {
         }
         QTRY_COMPARE(alertor.events().size(), before + statuses.size());
     }
+    void tick(int times)
+    {
+        while (times-- > 0)
+            QMetaObject::invokeMethod(&alertor, "timerEvent");
+    }
+    QString text(const char *label) const
+    {
+        const auto *found = alertor.findChild<QLabel *>(QLatin1String(label));
+        return found->isVisible() ? found->text() : QString();
+    }
     EventsView *list() const { return alertor.findChild<EventsView *>(u"treeWidget"_s); }
     QMenu *menu(const char *name) const { return alertor.findChild<QMenu *>(QLatin1String(name)); }
     void show()
@@ -155,9 +165,62 @@ private Q_SLOTS:
         QCOMPARE(farm.alertor.events().size(), 1); // the rest of the drain was not held up
         QTest::keyClick(box, Qt::Key_Return);
         QTRY_VERIFY(!QApplication::activeModalWidget());
-        for (int tick = 0; tick < 40; ++tick)
-            QMetaObject::invokeMethod(&farm.alertor, "timerEvent");
+        farm.tick(40);
         QCOMPARE(farm.peer.connections(), 1);
+        farm.show();
+        QVERIFY(farm.text("linkState").startsWith(u"Log-in refused"_s));
+        QTest::mouseClick(farm.alertor.findChild<QPushButton *>(u"connectNow"_s), Qt::LeftButton);
+        QTRY_COMPARE(farm.peer.received().size(), 2);
+        QTRY_VERIFY(farm.text("linkState").startsWith(u"Connected to 127.0.0.1:"_s));
+    }
+
+    void theLinkIsToldOf()
+    {
+        Farm farm;
+        farm.show();
+        QTRY_VERIFY(farm.text("linkState").startsWith(u"Connected to"_s));
+        QVERIFY(farm.alertor.tray().toolTip().startsWith(u"Tarrow Alertor\nConnected to"_s));
+        farm.tick(17);
+        farm.peer.send(encodeMessage(MessageHeader::Plain, 601, QByteArray(2'000'000, 'x')));
+        QTRY_VERIFY(farm.text("linkHistory").contains(u"larger than 1 MiB"_s));
+        farm.peer.listen(false);
+        farm.peer.dropLink();
+        QTRY_VERIFY(farm.text("linkState").startsWith(u"Not connected"_s));
+        farm.tick(16);
+        QTRY_VERIFY(farm.text("linkState").contains(u"Connection refused. Next try at"_s));
+        QVERIFY(
+            farm.alertor.tray().toolTip().startsWith(u"Tarrow Alertor (not connected)\nNot connected to"_s));
+        QCOMPARE(farm.alertor.tray().shownIcon(), u":/icons/unconnectedIcon"_s);
+        farm.peer.listen(true);
+        farm.tick(16);
+        QTRY_VERIFY(farm.text("linkState").startsWith(u"Connected to"_s));
+        farm.tick(16);
+        QVERIFY(farm.text("linkHistory").startsWith(u"Link was down"_s));
+    }
+
+    void nothingIsTriedBeforeAnythingIsConfigured()
+    {
+        LoopbackPeer peer;
+        Alertor alertor;
+        alertor.loadSettings();
+        alertor.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&alertor));
+        for (int tick = 0; tick < 17; ++tick)
+            QMetaObject::invokeMethod(&alertor, "timerEvent");
+        QVERIFY(!alertor.findChild<QTcpSocket *>());
+        QCOMPARE(alertor.tray().shownIcon(), u":/icons/unconnectedIcon"_s);
+        whenModalOpens([&peer](QWidget *modal) {
+            modal->findChild<QLineEdit *>(u"dispatcherAddress"_s)
+                ->setText(u" 127.0.0.1:%1 "_s.arg(peer.port()));
+            QTest::keyClick(modal, Qt::Key_Return);
+        });
+        QTest::mouseClick(alertor.findChild<QPushButton *>(u"configureButton"_s), Qt::LeftButton);
+        QTRY_COMPARE(peer.received().size(), 1);
+        auto *emptyList = alertor.findChild<QWidget *>(u"emptyList"_s);
+        QVERIFY(emptyList->isVisible());
+        peer.send(farm::frame(farm::notification(512)));
+        QTRY_VERIFY(!emptyList->isVisible());
+        QSettings().clear();
     }
 
     void customMessagesReachTheirHandler()

@@ -58,6 +58,14 @@ public:
         connect(m_link, &QIODevice::readyRead, this, [this] { read(); });
         read();
     }
+    /// Refuses connections, or takes them again.
+    void listen(bool listens)
+    {
+        const quint16 port = m_server.serverPort();
+        m_port = port ? port : m_port;
+        m_server.close();
+        QVERIFY(!listens || m_server.listen(QHostAddress::LocalHost, m_port));
+    }
     void dropLink() { m_link->abort(); }
 
 private:
@@ -84,6 +92,7 @@ private:
     MessageReader m_reader;
     QList<Received> m_received;
     qint64 m_bytesReceived = 0;
+    quint16 m_port = 0;
     int m_connections = 0;
     bool m_listening = false;
 };
