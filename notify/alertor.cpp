@@ -44,6 +44,8 @@ Alertor::Alertor(QWidget *parent)
     , m_sendEntry{this, &sendThrough}
 {
     m_ui->setupUi(this);
+    m_ui->linkStatus->addButton(m_ui->aboutButton);
+    m_ui->linkStatus->addButton(m_ui->menuButton);
     m_ui->treeWidget->setModel(&m_model);
     m_ui->treeWidget->installEventFilter(this);
     connect(m_ui->treeWidget, &QWidget::customContextMenuRequested, this, &Alertor::popupMenu);

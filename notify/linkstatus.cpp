@@ -25,6 +25,7 @@ LinkStatus::LinkStatus(QWidget *parent)
     : QWidget(parent)
     , m_state(plainLabel(QStringLiteral("linkState"), this))
     , m_history(plainLabel(QStringLiteral("linkHistory"), this))
+    , m_row(new QHBoxLayout)
     , m_connect(new QPushButton(tr("Connect &now"), this))
 {
     m_connect->setObjectName(QStringLiteral("connectNow"));
@@ -32,15 +33,19 @@ LinkStatus::LinkStatus(QWidget *parent)
     m_connect->setAutoDefault(false);
     m_connect->hide();
     m_history->hide();
-    auto *texts = new QVBoxLayout;
-    texts->setSpacing(2);
-    texts->addWidget(m_state);
-    texts->addWidget(m_history);
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins({});
-    row->addLayout(texts, 1);
-    row->addWidget(m_connect);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->addWidget(m_state);
+    column->addLayout(m_row);
+    m_row->addWidget(m_history, 1);
+    m_row->addStretch();
+    addButton(m_connect);
     connect(m_connect, &QPushButton::clicked, this, &LinkStatus::connectRequested);
+}
+
+void LinkStatus::addButton(QPushButton *button)
+{
+    m_row->addWidget(button);
 }
 
 void LinkStatus::showState(const LinkReport &report, const QString &words, bool canConnect)

@@ -172,6 +172,13 @@ private Q_SLOTS:
         QTest::mouseClick(farm.alertor.findChild<QPushButton *>(u"connectNow"_s), Qt::LeftButton);
         QTRY_COMPARE(farm.peer.received().size(), 2);
         QTRY_VERIFY(farm.text("linkState").startsWith(u"Connected to 127.0.0.1:"_s));
+        farm.peer.send(refusal);
+        QTRY_VERIFY(QApplication::activeModalWidget());
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+        QTRY_VERIFY(!QApplication::activeModalWidget());
+        whenModalOpens([](QWidget *modal) { QTest::keyClick(modal, Qt::Key_Return); });
+        farm.alertor.configure();
+        QTRY_COMPARE(farm.peer.received().size(), 3);
     }
 
     void theLinkIsToldOf()
