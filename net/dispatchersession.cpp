@@ -207,10 +207,7 @@ void DispatcherSession::logIn()
     login.password = m_settings.password;
     login.skipDirectoryAuthentication = m_settings.skipDirectoryAuthentication;
     login.hostName = QString::fromStdString(TFramework::GetHostName());
-    const QByteArray payload = encodeLogin(login);
-    // Refused only where waiting messages filled the buffer; the refusal has emptied it.
-    if (!m_socket->sendFirst(CMD_LOGIN, payload, 0))
-        m_socket->sendFirst(CMD_LOGIN, payload, 0);
+    m_socket->sendFirst(CMD_LOGIN, encodeLogin(login), 0);
     m_socket->setHeartbeatCommand(CMD_HEARTBEAT);
     m_socket->startHeartbeat();
     Q_EMIT connected();

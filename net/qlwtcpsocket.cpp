@@ -82,27 +82,27 @@ QLWTCPSocket::~QLWTCPSocket()
 
 bool QLWTCPSocket::sendMessage(uint command, const QByteArray &payload, uint param)
 {
-    return queueMessage(Place::Back, command, payload, param);
-}
-
-bool QLWTCPSocket::sendFirst(uint command, const QByteArray &payload, uint param)
-{
-    return queueMessage(Place::Front, command, payload, param);
-}
-
-bool QLWTCPSocket::queueMessage(Place place, uint command, const QByteArray &payload, uint param)
-{
     if (const qsizetype size = MessageHeader::kSize + payload.size(); !fits(size) && !makeRoom(size)) {
         Q_EMIT sendBufferOverflow();
         emptyBuffers({LinkTrouble::Kind::NotRead, {}, {}, {}});
         return false;
     }
-    const QByteArray message = encodeMessage(command, payload, param);
-    place == Place::Front ? m_sendBuffer.prepend(message) : m_sendBuffer.append(message);
+    m_sendBuffer.append(encodeMessage(command, payload, param));
+    sendQueued();
+    return true;
+}
+
+void QLWTCPSocket::sendFirst(uint command, const QByteArray &payload, uint param)
+{
+    m_sendBuffer.prepend(encodeMessage(command, payload, param));
+    sendQueued();
+}
+
+void QLWTCPSocket::sendQueued()
+{
     Q_EMIT sendActivity();
     writeQueued();
     m_lastActivity = m_clock();
-    return true;
 }
 
 bool QLWTCPSocket::fits(qsizetype messageSize) const

@@ -35,8 +35,8 @@ public:
     /// Queues a message and writes what the connection takes now. Where the queue is full, the connection gets half a
     /// second to take some of it; false when it took too little, which empties both buffers.
     bool sendMessage(uint command, const QByteArray &payload, uint param);
-    /// Queues a message in front of all that waits: the log-in must be the first on a connection.
-    bool sendFirst(uint command, const QByteArray &payload, uint param);
+    /// Queues a message in front of all that waits, however full the queue is: the log-in must be the first on a connection.
+    void sendFirst(uint command, const QByteArray &payload, uint param);
     /// Takes the first message out. `data` becomes the payload and a terminating zero byte, or empty for a message that
     /// delivers none; `param` may be null. False when no whole message is buffered, inflating failed (both buffers are
     /// then empty) or the stream is broken (the connection is then aborted as well).
@@ -72,9 +72,7 @@ public Q_SLOTS:
     void checkHeartBeat();
 
 private:
-    enum class Place { Front, Back };
-
-    bool queueMessage(Place place, uint command, const QByteArray &payload, uint param);
+    void sendQueued();
     bool fits(qsizetype messageSize) const;
     bool makeRoom(qsizetype messageSize);
     void writeQueued();

@@ -4,6 +4,7 @@
 #include <net/dispatchersession.h>
 #include <net/protocol/packets.h>
 
+#include <QtCore/QSettings>
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 
@@ -63,6 +64,22 @@ private Q_SLOTS:
         session.checkLocalConnection();
         QTRY_COMPARE(peer.received().size(), 2);
         QCOMPARE(peer.connections(), 2);
+    }
+
+    void theLogInIsFirstBehindAFullQueueAndHeartbeatsFollow()
+    {
+        LoopbackPeer peer;
+        DispatcherSession session;
+        session.setSettings(settingsFor(peer));
+        QSettings().setValue(QStringLiteral("network/heartbeat_resolution"), 1);
+        session.checkLocalConnection();
+        QSettings().clear();
+        QVERIFY(session.send(700, QByteArray(1024 * 1024 - 13, 'w'), 0));
+        QTRY_COMPARE(peer.received().size(), 2);
+        QCOMPARE(peer.received()[0].command, uint(CMD_LOGIN));
+        QCOMPARE(peer.received()[1].command, 700U);
+        QTRY_COMPARE_WITH_TIMEOUT(peer.received().size(), 3, 8000);
+        QCOMPARE(peer.received()[2].command, uint(CMD_HEARTBEAT));
     }
 
     void aMissingDispatcherIsTriedAgain()

@@ -86,10 +86,11 @@ private Q_SLOTS:
                        + encodeMessage(MessageHeader::Type(7), 601, "other")
                        + encodeMessage(MessageHeader::Compressed, 601, "inflated")
                        + compressedMessage("less than announced", 1000)
-                       + encodeMessage(MessageHeader::Plain, 601, ""));
+                       + encodeMessage(MessageHeader::Plain, 601, "")
+                       + encodeMessage(MessageHeader::Compressed, 601, ""));
         QTRY_COMPARE(link.messages,
                      (QByteArrayList{ended("plain"), "", ended("other"), ended("inflated"),
-                                     ended("less than announced"), ended("")}));
+                                     ended("less than announced"), ended(""), ended("")}));
     }
 
     void limitOfOneMessage()
@@ -149,7 +150,7 @@ private Q_SLOTS:
         QVERIFY(socket.sendMessage(700, "waits", 0));
         socket.connectToHost(QStringLiteral("127.0.0.1"), peer.port());
         QTRY_COMPARE(socket.state(), QAbstractSocket::ConnectedState);
-        QVERIFY(socket.sendFirst(401, "first", 0));
+        socket.sendFirst(401, "first", 0);
         QVERIFY(socket.sendMessage(700, large, 0));
         QTRY_COMPARE(peer.received().size(), 3);
         QCOMPARE(peer.received()[0].payload, "first");
@@ -189,6 +190,30 @@ private Q_SLOTS:
         QVERIFY(link.peer.received().size() <= accepted + 1);
     }
 
+    void whatWasHalfDoneEndsWithItsLink()
+    {
+        Link link;
+        const QByteArray half = encodeMessage(MessageHeader::Plain, 601, "cut by the overflow");
+        link.peer.send(half.first(20));
+        QSignalSpy read(&link.socket, &QLWTCPSocket::rcvActivity);
+        QTRY_COMPARE(read.size(), 1);
+        link.peer.stopReading();
+        while (link.socket.sendMessage(700, QByteArray(60'000, 'p'), 0)) { }
+        link.peer.send(half.sliced(20) + encodeMessage(MessageHeader::Plain, 601, "next"));
+        QTRY_COMPARE(link.messages, QByteArrayList{ended("next")});
+        QVERIFY(link.socket.sendMessage(700, QByteArray(60'000, 'p'), 0)); // begins to leave
+        link.peer.send(half.first(20));
+        QTRY_VERIFY(read.size() >= 3);
+        link.peer.dropLink();
+        QTRY_COMPARE(link.socket.state(), QAbstractSocket::UnconnectedState);
+        link.connect();
+        link.socket.sendFirst(401, "log-in", 0);
+        QTRY_COMPARE(link.peer.received().size(), 1);
+        QCOMPARE(link.peer.received()[0].payload, "log-in");
+        link.peer.send(encodeMessage(MessageHeader::Plain, 601, "anew"));
+        QTRY_COMPARE(link.messages.value(1), ended("anew"));
+    }
+
     void sendLimitCountsTheHeader()
     {
         QLWTCPSocket socket;
@@ -217,20 +242,6 @@ private Q_SLOTS:
         for (const LoopbackPeer::Received &received : link.peer.received())
             commands += received.command;
         QCOMPARE(commands, QList<uint>({1, 1, 402, 1, 402, 1}));
-    }
-
-    void heartbeatRunsByItsTimer()
-    {
-        QSettings().setValue(QStringLiteral("network/heartbeat_resolution"), 1);
-        Link link;
-        QSettings().remove(QStringLiteral("network/heartbeat_resolution"));
-        link.socket.setHeartbeatCommand(402);
-        link.socket.startHeartbeat();
-        link.socket.startHeartbeat();
-        QTRY_COMPARE_WITH_TIMEOUT(link.peer.received().size(), 1, 8000);
-        QCOMPARE(link.peer.received()[0].command, 402U);
-        link.socket.stopHeartbeat();
-        QCOMPARE(heartbeatTimers(link.socket), 0);
     }
 
     void maybeRetiredWhileItDelivers()
