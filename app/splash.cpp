@@ -1,5 +1,6 @@
 #include "splash.h"
 
+#include <ui/plaintext.h>
 #include <ui/product.h>
 #include <ui/windowshadow.h>
 
@@ -21,5 +22,5 @@ Splash::Splash()
 
 void Splash::say(const QString &what)
 {
-    showMessage(what, Qt::AlignLeft, Qt::white);
+    showMessage(keptPlain(shortened(what)), Qt::AlignLeft, Qt::white);
 }

@@ -14,6 +14,7 @@
 #include <notify/events/notifyevent.h>
 #include <system/tdesktop.h>
 #include <ui/managedwindow.h>
+#include <ui/plaintext.h>
 #include <viewer/imageviewer.h>
 
 #include <QtCore/QPointer>
@@ -215,7 +216,7 @@ void Alertor::handleNewEvent(std::unique_ptr<NotifyEvent> event)
     if (!m_events.append(std::move(event)))
         return;
     qCInfo(lcNotify, "event %llu type %lld \"%s\"", kept.eventId, kept.eventType,
-           qUtf8Printable(kept.text(EventKey::kMessage)));
+           qUtf8Printable(shortened(kept.text(EventKey::kMessage))));
     // The check boxes of the preferences do not count here: a path that is set is played.
     if (!m_silent && handling.sound)
         m_sounds.play(m_settings.*handling.sound);

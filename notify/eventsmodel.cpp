@@ -3,6 +3,7 @@
 #include <notify/events/eventkind.h>
 #include <notify/events/eventslist.h>
 #include <notify/events/notifyevent.h>
+#include <ui/plaintext.h>
 #include <ui/svgicon.h>
 
 #include <QtCore/QDateTime>
@@ -70,8 +71,11 @@ QVariant EventsModel::data(const QModelIndex &index, int role) const
     const NotifyEvent &event = m_events.at(index.row());
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return text(event, index.column());
+    case Qt::ToolTipRole:
+        return plainToolTip(text(event, index.column()));
+    case kWholeTextRole:
+        return text(event, index.column(), Extent::Whole);
     case Qt::DecorationRole:
         return decoration(event, index.column());
     case Qt::AccessibleTextRole:
@@ -96,33 +100,43 @@ QVariant EventsModel::headerData(int section, Qt::Orientation orientation, int r
     return {};
 }
 
-QString EventsModel::text(const NotifyEvent &event, int column) const
+QString EventsModel::text(const NotifyEvent &event, int column, Extent extent) const
 {
+    // The view asks for each cell several times a paint: a long text must cost no more than a short one.
+    const auto said = [&event, extent](const QString &key) {
+        return extent == Extent::Whole ? event.text(key) : shortened(event.text(key));
+    };
     switch (column) {
     case Type:
         return lookOf(event).typeText;
     case Time:
         return timeText(event.eventTime);
     case Message:
-        return event.text(EventKey::kMessage);
+        return said(EventKey::kMessage);
     case User: {
         const QString marker = QStringLiteral("@directory@");
-        QString user = event.text(EventKey::kUser);
+        QString user = said(EventKey::kUser);
         if (user.contains(marker))
             return user.remove(marker) + QStringLiteral("(D)");
         return user.isEmpty() ? tr("Service") : user;
     }
     case Job:
-        return event.job ? QStringLiteral("%1(%2)").arg(QString::fromStdString(event.job->getName()),
-                                                        QString::number(event.job->getJobId()))
-                         : QString();
+        return event.job ? jobText(*event.job, extent) : QString();
     case Chunk:
         return event.job && event.chunk ? QString::number(event.chunk->getChunkId()) : QString();
     case OutputPath:
-        return event.text(EventKey::kFramesPath);
+        return said(EventKey::kFramesPath);
     default:
         return {};
     }
+}
+
+QString EventsModel::jobText(const TClientLib::TJob &job, Extent extent)
+{
+    const std::string &name = job.getName();
+    return QStringLiteral("%1(%2)").arg(extent == Extent::Whole ? QString::fromStdString(name)
+                                                                : shortened(name),
+                                        QString::number(job.getJobId()));
 }
 
 QVariant EventsModel::decoration(const NotifyEvent &event, int column) const

@@ -2,6 +2,9 @@
 
 #include "eventsmodel.h"
 
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 
@@ -53,6 +56,17 @@ QList<quint64> EventsView::selectedIds() const
     for (const QModelIndex &row : rows)
         ids += idAt(row);
     return ids;
+}
+
+void EventsView::keyPressEvent(QKeyEvent *event)
+{
+    if (!event->matches(QKeySequence::Copy)) {
+        QTreeView::keyPressEvent(event);
+        return;
+    }
+    const QString text = currentIndex().data(EventsModel::kWholeTextRole).toString();
+    if (!text.isEmpty())
+        QGuiApplication::clipboard()->setText(text);
 }
 
 void EventsView::rowsInserted(const QModelIndex &parent, int start, int end)

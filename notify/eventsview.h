@@ -16,6 +16,8 @@ public:
     QList<quint64> selectedIds() const;
 
 protected:
+    /// Copies the whole text of the current cell, of which the cell may show the beginning.
+    void keyPressEvent(QKeyEvent *event) override;
     void rowsInserted(const QModelIndex &parent, int start, int end) override;
 
 private:

@@ -41,6 +41,7 @@ QDialog *Messages::openRefusal(QWidget *parent)
         "Dispatcher denied Alertor connection. Please double check the login and password in the Alertor "
         "applet configuration dialog!");
     auto *box = new QMessageBox(QMessageBox::Warning, product::kProductTitle, text, QMessageBox::Ok, parent);
+    box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::ApplicationModal);
     box->show();

@@ -4,6 +4,7 @@
 
 #include <notify/events/notifyevent.h>
 #include <system/tdesktop.h>
+#include <ui/plaintext.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
@@ -52,9 +53,9 @@ void ResultOpener::openOutputs(const QList<const NotifyEvent *> &events, QWidget
         pathsOf(events, [](const NotifyEvent &event) { return event.text(EventKey::kFramesPath); });
     for (const QString &folder : folders) {
         if (!openFolder(folder))
-            Messages::showError(
-                parent,
-                QCoreApplication::translate("ResultOpener", "Cannot open output folder %1").arg(folder));
+            Messages::showError(parent,
+                                QCoreApplication::translate("ResultOpener", "Cannot open output folder %1")
+                                    .arg(shortened(folder)));
     }
 }
 

@@ -1,5 +1,7 @@
 #include "qheaderlabel.h"
 
+#include "plaintext.h"
+
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QStylePainter>
 
@@ -14,8 +16,8 @@ QHeaderLabel::QHeaderLabel(const QString &text, QWidget *parent)
 
 void QHeaderLabel::setText(const QString &text)
 {
-    m_text = text;
-    setAccessibleName(text);
+    m_text = shortened(text);
+    setAccessibleName(m_text);
     update();
 }
 
@@ -28,7 +30,7 @@ void QHeaderLabel::paintEvent(QPaintEvent *)
 
     painter.setFont(fittedFont());
     const QString shown = painter.fontMetrics().elidedText(m_text, Qt::ElideRight, width());
-    const QString hidden = shown == m_text ? QString() : m_text;
+    const QString hidden = shown == m_text ? QString() : plainToolTip(m_text);
     if (toolTip() != hidden)
         setToolTip(hidden);
     painter.drawItemText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, palette(),

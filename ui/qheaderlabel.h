@@ -3,7 +3,7 @@
 #include <QtWidgets/QWidget>
 
 /// The title of a skinned dialog: one line no higher than the header allows, elided at the right; the tooltip shows
-/// the whole of an elided title.
+/// the whole of an elided title. Plain text, shortened.
 class QHeaderLabel final : public QWidget {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 #include "qskinneddialog.h"
 
 #include "managedwindow.h"
+#include "plaintext.h"
 #include "product.h"
 #include "qheaderlabel.h"
 #include "qskinneddialogborder.h"
@@ -84,8 +85,9 @@ void QSkinnedDialog::setBorderWidth(int width)
         applyBorderWidth();
 }
 
-void QSkinnedDialog::setTitle(const QString &title)
+void QSkinnedDialog::setTitle(const QString &text)
 {
+    const QString title = shortened(text);
     m_content->setWindowTitle(title);
     if (m_headerLabel)
         m_headerLabel->setText(title);

@@ -35,7 +35,8 @@ public:
     void setEscapeCloses(bool closes);
     /// In pixels.
     void setBorderWidth(int width);
-    void setTitle(const QString &title);
+    /// Shown as plain text; the first line of it, where it is long its beginning.
+    void setTitle(const QString &text);
 
     /// Takes the content in and puts the frame round it; a second call does nothing.
     void buildFrame();

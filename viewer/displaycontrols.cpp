@@ -3,6 +3,7 @@
 #include "ui_imageviewer.h"
 #include "waitcursor.h"
 
+#include <ui/plaintext.h>
 #include <viewer/frames/imageframe.h>
 #include <viewer/session/viewersession.h>
 
@@ -50,8 +51,9 @@ void DisplayControls::connectSession()
     });
     connect(m_form.resizeComboBox, &QComboBox::currentIndexChanged, &m_session,
             &ViewerSession::setDownsampling);
-    connect(m_form.layersSelector, &QComboBox::textActivated, &m_session,
-            [this](const QString &entry) { m_session.setLayer(entry.toStdString()); });
+    connect(m_form.layersSelector, &QComboBox::activated, &m_session, [this](int index) {
+        m_session.setLayer(m_form.layersSelector->itemData(index).toString().toStdString());
+    });
     connect(&m_session, &ViewerSession::opened, this, [this] { setChannelViewMode(0); });
     connect(&m_session, &ViewerSession::loaded, this, [this] {
         if (m_session.lastLoad().layers)
@@ -101,7 +103,8 @@ void DisplayControls::showLayers()
     QComboBox &selector = *m_form.layersSelector;
     const QSignalBlocker blocker(selector);
     selector.clear();
-    selector.addItems(entries);
+    for (const QString &entry : std::as_const(entries))
+        selector.addItem(shortened(entry), entry);
     selector.setCurrentIndex(std::max(0, int(entries.indexOf(QString::fromStdString(m_session.layer())))));
 }
 

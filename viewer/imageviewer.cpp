@@ -10,6 +10,7 @@
 #include "waitcursor.h"
 #include "zoomcontrol.h"
 
+#include <ui/plaintext.h>
 #include <viewer/frames/cachetotals.h>
 #include <viewer/frames/imageframe.h>
 #include <viewer/session/viewersession.h>
@@ -149,7 +150,7 @@ void ImageViewer::showTitle()
     const JobFrames &opened = m_session->job();
     const QString chunkTitle = tr("Images viewer on job %1 (%2) chunk ID %3");
     const QString jobTitle = tr("Images viewer on job %1 (%2)");
-    const QString name = opened.job ? QString::fromStdString(opened.job->getName()) : QString();
+    const QString name = opened.job ? shortened(opened.job->getName()) : QString();
     if (opened.chunk)
         setTitle(chunkTitle.arg(name, QString::number(opened.chunk->getJobId()),
                                 QString::number(opened.chunk->getChunkId())));

@@ -2,6 +2,7 @@
 
 #include "ui_imageviewer.h"
 
+#include <ui/plaintext.h>
 #include <viewer/session/viewersession.h>
 
 #include <QtGui/QGuiApplication>
@@ -38,7 +39,7 @@ void LoadStatus::showOutcome()
         const bool missing = load.outcome == LoadOutcome::NotFound;
         const QString text = missing ? tr("File not found at path: %1") : tr("Corrupted file at path: %1");
         m_form.imageWarningLabel->setPixmap(missing ? m_pictures.missing : m_pictures.broken);
-        m_form.imageWarningReason->setText(text.arg(QString::fromStdString(m_session.file())));
+        m_form.imageWarningReason->setText(text.arg(shortened(m_session.file())));
         // The focus would go to the next field with the picture, and take the keys of the frames along: the form takes it.
         if (m_form.image->hasFocus())
             m_form.imageContainer->parentWidget()->setFocus();

@@ -4,10 +4,18 @@
 
 namespace TFramework {
 
+namespace {
+
+// Bytes, and longer than any path that a system opens. Each folder in a path takes memory of its own, and a farm may name
+// millions.
+constexpr std::size_t kLongestPath = 4096;
+
+} // namespace
+
 std::filesystem::path toNativePath(const std::string &text)
 {
-    // The system would read such a text up to its zero only, and so name another file.
-    if (text.find('\0') != std::string::npos)
+    // The system would read a text with a zero up to there only, and so name another file.
+    if (text.size() > kLongestPath || text.find('\0') != std::string::npos)
         return {};
     try {
         return std::filesystem::path(std::u8string(text.begin(), text.end()));

@@ -105,6 +105,7 @@ private Q_SLOTS:
             QCOMPARE(bytes(TFileSystem::JoinPath(folder, name)), bytes(path));
             QCOMPARE(bytes(TFileSystem::GetFilePath(path)), bytes(folderAgain));
         }
+        QCOMPARE(TFileSystem::GetFilePath("/a/" + std::string(5000, 'x')), ""); // no system has it
     }
 
     void foldersAndFiles()

@@ -1,12 +1,15 @@
 #include "table.h"
 
+#include <ui/plaintext.h>
 #include <ui/svgicon.h>
 #include <ui/windowplacement.h>
 
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QPainter>
+#include <QtGui/QTextDocumentFragment>
 #include <QtSvg/QSvgRenderer>
 #include <QtTest/QTest>
+#include <QtWidgets/QLabel>
 
 #include <limits>
 
@@ -81,6 +84,52 @@ private Q_SLOTS:
         QFETCH(QRect, expected);
         QCOMPARE(fittedToAreas(wanted, {{0, 24, 1920, 1056}, {1920, 200, 1280, 1024}}), expected);
         QCOMPARE(fittedToAreas(wanted, {}), wanted);
+    }
+
+    void textIsShortened_data()
+    {
+        const QString full(500, u'x');
+        const QString smile = QStringLiteral("\U0001F600");
+        addTable<QString, QString>(
+            {"text", "shown"},
+            {{"none", {}, {}},
+             {"at the limit", full, full},
+             {"beyond it", full + u'x', full + u'\u2026'},
+             {"far beyond it", full.repeated(9), full + u'\u2026'},
+             {"first line", u"one\r\ntwo"_qs, u"one\u2026"_qs},
+             {"nothing but its end", u"one\n"_qs, u"one"_qs},
+             {"behind empty lines", u"\n\u2028one"_qs, u"one"_qs},
+             {"control characters", u"a\x1b[31m\0b"_qs, u"a [31m b"_qs},
+             {"through a character", full.chopped(1) + smile, full.chopped(1) + u'\u2026'},
+             {"wide characters", QString(9999, u'\u20ac'), QString(500, u'\u20ac') + u'\u2026'}});
+    }
+
+    void textIsShortened()
+    {
+        QFETCH(QString, text);
+        QTEST(shortened(text), "shown");
+        QTEST(shortened(text.toStdString()), "shown");
+    }
+
+    void toolTipsAreWrappedAndNoMarkup_data()
+    {
+        addTable<QString>({"text"},
+                          {{"words", u"four <img src=x> "_qs.repeated(28)},
+                           {"one word", QString(499, u'x')},
+                           {"entities", u"&lt;b&gt; & <i>"_qs},
+                           {"document", u"<?xml?><!DOCTYPE a>"_qs}});
+    }
+
+    void toolTipsAreWrappedAndNoMarkup()
+    {
+        QFETCH(QString, text);
+        QLabel tip(plainToolTip(text)); // guesses as tooltips do
+        tip.setFont(QFont(QStringLiteral("monospace"), 10));
+        QVERIFY(tip.sizeHint().width() < tip.fontMetrics().horizontalAdvance(QString(110, u'x')));
+        const QString shown = Qt::mightBeRichText(tip.text())
+            ? QTextDocumentFragment::fromHtml(tip.text()).toPlainText()
+            : tip.text();
+        QCOMPARE(QString(shown).remove(u'\n'), text);
     }
 
 private:

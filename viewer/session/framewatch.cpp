@@ -8,6 +8,8 @@ namespace {
 
 // A file that is being written changes with every block; one look at it per so much is enough.
 constexpr auto kSettleTime = std::chrono::milliseconds(100);
+// Longer than any path that a system opens: nothing will ever be there.
+constexpr qsizetype kLongestPath = 4096;
 
 } // namespace
 
@@ -33,6 +35,8 @@ void FrameWatch::watch(const QString &file)
     if (file == m_file)
         return;
     stop();
+    if (file.size() > kLongestPath)
+        return;
     m_file = file;
     arm();
 }
