@@ -131,10 +131,7 @@ void Alertor::checkLocalConnection()
     updateIcon(false);
 }
 
-void Alertor::socketStateChanged(QAbstractSocket::SocketState state)
-{
-    Q_UNUSED(state);
-}
+void Alertor::socketStateChanged([[maybe_unused]] QAbstractSocket::SocketState state) { }
 
 void Alertor::socketError(QAbstractSocket::SocketError error)
 {

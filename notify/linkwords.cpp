@@ -84,13 +84,12 @@ QString LinkWords::loss(const LinkTrouble &trouble, const QDateTime &when)
         why = Words::tr("damaged");
         break;
     case LinkTrouble::Kind::NotRead:
-        return Words::tr("%n message(s) to the Dispatcher lost at %1: it does not read", nullptr,
-                         trouble.unsent.messages)
-            .arg(shortTime(when));
+        return Words::tr("Messages to the Dispatcher lost at %1: %2 (it does not read)")
+            .arg(shortTime(when), QString::number(trouble.unsent.messages));
     case LinkTrouble::Kind::Broken:
     case LinkTrouble::Kind::Foreign:
         return {};
     }
-    return Words::tr("%n message(s) of the Dispatcher lost at %1: %2", nullptr, trouble.received.messages)
-        .arg(shortTime(when), why);
+    return Words::tr("Messages of the Dispatcher lost at %1: %2 (%3)")
+        .arg(shortTime(when), QString::number(trouble.received.messages), why);
 }

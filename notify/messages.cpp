@@ -7,13 +7,24 @@
 #include <QtCore/QDir>
 #include <QtWidgets/QMessageBox>
 
+namespace {
+
+/// A box with one answer. Its text may hold what a farm or a file says: it is no markup.
+class PlainBox final : public QMessageBox {
+public:
+    PlainBox(Icon icon, const QString &text, QWidget *parent)
+        : QMessageBox(icon, product::kProductTitle, text, Ok, parent)
+    {
+        setTextFormat(Qt::PlainText);
+        setDefaultButton(Ok);
+    }
+};
+
+} // namespace
+
 void Messages::showError(QWidget *parent, const QString &text)
 {
-    QMessageBox box(QMessageBox::Critical, product::kProductTitle, text, QMessageBox::Ok, parent);
-    // Paths come from the farm: they are no markup.
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::Ok);
-    box.exec();
+    PlainBox(QMessageBox::Critical, text, parent).exec();
 }
 
 void Messages::showAbout(QWidget *parent)
@@ -21,8 +32,7 @@ void Messages::showAbout(QWidget *parent)
     const QString text =
         QCoreApplication::translate("Messages", "Tarrow Alertor %1 (build %2)\n\nLog: %3")
             .arg(product::kVersion, product::kBuildNumber, QDir::toNativeSeparators(LogFile::path()));
-    QMessageBox box(QMessageBox::Information, product::kProductTitle, text, QMessageBox::Ok, parent);
-    box.setTextFormat(Qt::PlainText);
+    PlainBox box(QMessageBox::Information, text, parent);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.exec();
 }
@@ -40,8 +50,7 @@ QDialog *Messages::openRefusal(QWidget *parent)
         "Messages",
         "Dispatcher denied Alertor connection. Please double check the login and password in the Alertor "
         "applet configuration dialog!");
-    auto *box = new QMessageBox(QMessageBox::Warning, product::kProductTitle, text, QMessageBox::Ok, parent);
-    box->setTextFormat(Qt::PlainText);
+    auto *box = new PlainBox(QMessageBox::Warning, text, parent);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowModality(Qt::ApplicationModal);
     box->show();

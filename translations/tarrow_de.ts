@@ -26,6 +26,14 @@
         <source>&amp;Menu</source>
         <translation>&amp;Menü</translation>
     </message>
+    <message>
+        <source>Shows the version, and where the log is</source>
+        <translation>Zeigt die Version und wo das Protokoll liegt</translation>
+    </message>
+    <message>
+        <source>A&amp;bout</source>
+        <translation>Übe&amp;r</translation>
+    </message>
 </context>
 <context>
     <name>CacheTotals</name>
@@ -93,6 +101,23 @@
     <message>
         <source>HUD colour</source>
         <translation>HUD-Farbe</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyList</name>
+    <message>
+        <source>&amp;Configure</source>
+        <translation>&amp;Konfigurieren</translation>
+    </message>
+    <message>
+        <source>Opens the preferences: where the Dispatcher is, and who logs in</source>
+        <translation>Öffnet die Einstellungen: wo der Dispatcher ist und wer sich anmeldet</translation>
+    </message>
+    <message>
+        <source>Nothing has happened yet.
+What the farm tells of your jobs appears here.</source>
+        <translation>Es ist noch nichts geschehen.
+Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
     </message>
 </context>
 <context>
@@ -619,6 +644,81 @@
     </message>
 </context>
 <context>
+    <name>LinkStatus</name>
+    <message>
+        <source>Connect &amp;now</source>
+        <translation>Jetzt &amp;verbinden</translation>
+    </message>
+    <message>
+        <source>Tries to connect to the Dispatcher at once</source>
+        <translation>Versucht sofort, sich mit dem Dispatcher zu verbinden</translation>
+    </message>
+</context>
+<context>
+    <name>LinkWords</name>
+    <message>
+        <source>Not a Dispatcher: it sent %1</source>
+        <translation>Kein Dispatcher: er sandte %1</translation>
+    </message>
+    <message>
+        <source>The Dispatcher&apos;s stream was damaged</source>
+        <translation>Der Datenstrom des Dispatchers war beschädigt</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>Looking up %1</source>
+        <translation>%1 wird gesucht</translation>
+    </message>
+    <message>
+        <source>Connecting to %1 as %2</source>
+        <translation>Verbindung zu %1 als %2 wird hergestellt</translation>
+    </message>
+    <message>
+        <source>Connected to %1 as %2</source>
+        <translation>Verbunden mit %1 als %2</translation>
+    </message>
+    <message>
+        <source>Log-in refused by %1 for %2</source>
+        <translation>Anmeldung bei %1 als %2 abgelehnt</translation>
+    </message>
+    <message>
+        <source>Not connected to %1 as %2</source>
+        <translation>Nicht verbunden mit %1 als %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>state of the link and why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Next try at %1</source>
+        <translation>Nächster Versuch um %1</translation>
+    </message>
+    <message>
+        <source>Link was down %1 to %2; events of that time are not sent again</source>
+        <translation>Keine Verbindung von %1 bis %2; Ereignisse dieser Zeit werden nicht nachgesandt</translation>
+    </message>
+    <message>
+        <source>larger than 1 MiB</source>
+        <translation>größer als 1 MiB</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>beschädigt</translation>
+    </message>
+    <message>
+        <source>Messages to the Dispatcher lost at %1: %2 (it does not read)</source>
+        <translation>An den Dispatcher um %1 verlorene Nachrichten: %2 (er liest nicht)</translation>
+    </message>
+    <message>
+        <source>Messages of the Dispatcher lost at %1: %2 (%3)</source>
+        <translation>Vom Dispatcher um %1 verlorene Nachrichten: %2 (%3)</translation>
+    </message>
+</context>
+<context>
     <name>ListMenu</name>
     <message>
         <source>&amp;Acknowledge selection</source>
@@ -680,6 +780,14 @@
     <message>
         <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
         <translation>Der Dispatcher hat die Verbindung abgelehnt. Bitte prüfen Sie Anmeldename und Passwort in den Alertor-Einstellungen!</translation>
+    </message>
+    <message>
+        <source>Tarrow Alertor %1 (build %2)
+
+Log: %3</source>
+        <translation>Tarrow Alertor %1 (Build %2)
+
+Protokoll: %3</translation>
     </message>
 </context>
 <context>
@@ -891,6 +999,10 @@ Ein Rechtsklick auf dieses Symbol öffnet das Kontextmenü, ein Doppelklick holt
     <message>
         <source>All files (*)</source>
         <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>A port is a number from 1 to 65535</source>
+        <translation>Ein Port ist eine Zahl von 1 bis 65535</translation>
     </message>
 </context>
 <context>

@@ -26,6 +26,14 @@
         <source>&amp;Menu</source>
         <translation>&amp;Menú</translation>
     </message>
+    <message>
+        <source>Shows the version, and where the log is</source>
+        <translation>Muestra la versión y dónde está el registro</translation>
+    </message>
+    <message>
+        <source>A&amp;bout</source>
+        <translation>&amp;Acerca de</translation>
+    </message>
 </context>
 <context>
     <name>CacheTotals</name>
@@ -93,6 +101,23 @@
     <message>
         <source>HUD colour</source>
         <translation>Color del HUD</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyList</name>
+    <message>
+        <source>&amp;Configure</source>
+        <translation>&amp;Configurar</translation>
+    </message>
+    <message>
+        <source>Opens the preferences: where the Dispatcher is, and who logs in</source>
+        <translation>Abre las preferencias: dónde está el Dispatcher y quién inicia sesión</translation>
+    </message>
+    <message>
+        <source>Nothing has happened yet.
+What the farm tells of your jobs appears here.</source>
+        <translation>Aún no ha pasado nada.
+Lo que la granja diga de sus trabajos aparece aquí.</translation>
     </message>
 </context>
 <context>
@@ -619,6 +644,81 @@
     </message>
 </context>
 <context>
+    <name>LinkStatus</name>
+    <message>
+        <source>Connect &amp;now</source>
+        <translation>Conectar a&amp;hora</translation>
+    </message>
+    <message>
+        <source>Tries to connect to the Dispatcher at once</source>
+        <translation>Intenta conectarse al Dispatcher de inmediato</translation>
+    </message>
+</context>
+<context>
+    <name>LinkWords</name>
+    <message>
+        <source>Not a Dispatcher: it sent %1</source>
+        <translation>No es un Dispatcher: envió %1</translation>
+    </message>
+    <message>
+        <source>The Dispatcher&apos;s stream was damaged</source>
+        <translation>El flujo del Dispatcher estaba dañado</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>No conectado</translation>
+    </message>
+    <message>
+        <source>Looking up %1</source>
+        <translation>Buscando %1</translation>
+    </message>
+    <message>
+        <source>Connecting to %1 as %2</source>
+        <translation>Conectando con %1 como %2</translation>
+    </message>
+    <message>
+        <source>Connected to %1 as %2</source>
+        <translation>Conectado con %1 como %2</translation>
+    </message>
+    <message>
+        <source>Log-in refused by %1 for %2</source>
+        <translation>Inicio de sesión rechazado por %1 para %2</translation>
+    </message>
+    <message>
+        <source>Not connected to %1 as %2</source>
+        <translation>No conectado con %1 como %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>state of the link and why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Next try at %1</source>
+        <translation>Próximo intento a las %1</translation>
+    </message>
+    <message>
+        <source>Link was down %1 to %2; events of that time are not sent again</source>
+        <translation>Sin enlace de %1 a %2; los eventos de ese tiempo no se envían de nuevo</translation>
+    </message>
+    <message>
+        <source>larger than 1 MiB</source>
+        <translation>mayores de 1 MiB</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>dañados</translation>
+    </message>
+    <message>
+        <source>Messages to the Dispatcher lost at %1: %2 (it does not read)</source>
+        <translation>Mensajes al Dispatcher perdidos a las %1: %2 (no lee)</translation>
+    </message>
+    <message>
+        <source>Messages of the Dispatcher lost at %1: %2 (%3)</source>
+        <translation>Mensajes del Dispatcher perdidos a las %1: %2 (%3)</translation>
+    </message>
+</context>
+<context>
     <name>ListMenu</name>
     <message>
         <source>&amp;Acknowledge selection</source>
@@ -680,6 +780,14 @@
     <message>
         <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
         <translation>El Dispatcher ha rechazado la conexión del Alertor. Compruebe el usuario y la contraseña en las preferencias del Alertor.</translation>
+    </message>
+    <message>
+        <source>Tarrow Alertor %1 (build %2)
+
+Log: %3</source>
+        <translation>Tarrow Alertor %1 (compilación %2)
+
+Registro: %3</translation>
     </message>
 </context>
 <context>
@@ -891,6 +999,10 @@ Haga clic derecho en este icono para abrir el menú o doble clic para mostrar la
     <message>
         <source>All files (*)</source>
         <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>A port is a number from 1 to 65535</source>
+        <translation>Un puerto es un número de 1 a 65535</translation>
     </message>
 </context>
 <context>

@@ -26,6 +26,14 @@
         <source>&amp;Menu</source>
         <translation>&amp;Menu</translation>
     </message>
+    <message>
+        <source>Shows the version, and where the log is</source>
+        <translation>Affiche la version et l’emplacement du journal</translation>
+    </message>
+    <message>
+        <source>A&amp;bout</source>
+        <translation>À &amp;propos</translation>
+    </message>
 </context>
 <context>
     <name>CacheTotals</name>
@@ -93,6 +101,23 @@
     <message>
         <source>HUD colour</source>
         <translation>Couleur du HUD</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyList</name>
+    <message>
+        <source>&amp;Configure</source>
+        <translation>&amp;Configurer</translation>
+    </message>
+    <message>
+        <source>Opens the preferences: where the Dispatcher is, and who logs in</source>
+        <translation>Ouvre les préférences : où se trouve le Dispatcher et qui se connecte</translation>
+    </message>
+    <message>
+        <source>Nothing has happened yet.
+What the farm tells of your jobs appears here.</source>
+        <translation>Rien ne s’est encore passé.
+Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
 </context>
 <context>
@@ -619,6 +644,81 @@
     </message>
 </context>
 <context>
+    <name>LinkStatus</name>
+    <message>
+        <source>Connect &amp;now</source>
+        <translation>Connecter &amp;maintenant</translation>
+    </message>
+    <message>
+        <source>Tries to connect to the Dispatcher at once</source>
+        <translation>Essaie de se connecter au Dispatcher tout de suite</translation>
+    </message>
+</context>
+<context>
+    <name>LinkWords</name>
+    <message>
+        <source>Not a Dispatcher: it sent %1</source>
+        <translation>Pas un Dispatcher : il a envoyé %1</translation>
+    </message>
+    <message>
+        <source>The Dispatcher&apos;s stream was damaged</source>
+        <translation>Le flux du Dispatcher était endommagé</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Non connecté</translation>
+    </message>
+    <message>
+        <source>Looking up %1</source>
+        <translation>Recherche de %1</translation>
+    </message>
+    <message>
+        <source>Connecting to %1 as %2</source>
+        <translation>Connexion à %1 en tant que %2</translation>
+    </message>
+    <message>
+        <source>Connected to %1 as %2</source>
+        <translation>Connecté à %1 en tant que %2</translation>
+    </message>
+    <message>
+        <source>Log-in refused by %1 for %2</source>
+        <translation>Connexion refusée par %1 pour %2</translation>
+    </message>
+    <message>
+        <source>Not connected to %1 as %2</source>
+        <translation>Non connecté à %1 en tant que %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>state of the link and why</comment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Next try at %1</source>
+        <translation>Prochain essai à %1</translation>
+    </message>
+    <message>
+        <source>Link was down %1 to %2; events of that time are not sent again</source>
+        <translation>Liaison coupée de %1 à %2 ; les événements de ce temps ne sont pas renvoyés</translation>
+    </message>
+    <message>
+        <source>larger than 1 MiB</source>
+        <translation>plus de 1 Mio</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>endommagés</translation>
+    </message>
+    <message>
+        <source>Messages to the Dispatcher lost at %1: %2 (it does not read)</source>
+        <translation>Messages au Dispatcher perdus à %1 : %2 (il ne lit pas)</translation>
+    </message>
+    <message>
+        <source>Messages of the Dispatcher lost at %1: %2 (%3)</source>
+        <translation>Messages du Dispatcher perdus à %1 : %2 (%3)</translation>
+    </message>
+</context>
+<context>
     <name>ListMenu</name>
     <message>
         <source>&amp;Acknowledge selection</source>
@@ -680,6 +780,14 @@
     <message>
         <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
         <translation>Le Dispatcher a refusé la connexion de l&apos;Alertor. Vérifiez l&apos;identifiant et le mot de passe dans les préférences de l&apos;Alertor&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Tarrow Alertor %1 (build %2)
+
+Log: %3</source>
+        <translation>Tarrow Alertor %1 (build %2)
+
+Journal : %3</translation>
     </message>
 </context>
 <context>
@@ -891,6 +999,10 @@ Cliquez avec le bouton droit sur cette icône pour le menu contextuel ou double-
     <message>
         <source>All files (*)</source>
         <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>A port is a number from 1 to 65535</source>
+        <translation>Un port est un nombre de 1 à 65535</translation>
     </message>
 </context>
 <context>

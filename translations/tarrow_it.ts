@@ -26,6 +26,14 @@
         <source>&amp;Menu</source>
         <translation>&amp;Menu</translation>
     </message>
+    <message>
+        <source>Shows the version, and where the log is</source>
+        <translation>Mostra la versione e dove si trova il registro</translation>
+    </message>
+    <message>
+        <source>A&amp;bout</source>
+        <translation>&amp;Informazioni</translation>
+    </message>
 </context>
 <context>
     <name>CacheTotals</name>
@@ -93,6 +101,23 @@
     <message>
         <source>HUD colour</source>
         <translation>Colore HUD</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyList</name>
+    <message>
+        <source>&amp;Configure</source>
+        <translation>&amp;Configura</translation>
+    </message>
+    <message>
+        <source>Opens the preferences: where the Dispatcher is, and who logs in</source>
+        <translation>Apre le preferenze: dove si trova il Dispatcher e chi accede</translation>
+    </message>
+    <message>
+        <source>Nothing has happened yet.
+What the farm tells of your jobs appears here.</source>
+        <translation>Non è ancora successo nulla.
+Ciò che la farm dice dei tuoi lavori appare qui.</translation>
     </message>
 </context>
 <context>
@@ -619,6 +644,81 @@
     </message>
 </context>
 <context>
+    <name>LinkStatus</name>
+    <message>
+        <source>Connect &amp;now</source>
+        <translation>Connetti &amp;ora</translation>
+    </message>
+    <message>
+        <source>Tries to connect to the Dispatcher at once</source>
+        <translation>Prova subito a connettersi al Dispatcher</translation>
+    </message>
+</context>
+<context>
+    <name>LinkWords</name>
+    <message>
+        <source>Not a Dispatcher: it sent %1</source>
+        <translation>Non è un Dispatcher: ha inviato %1</translation>
+    </message>
+    <message>
+        <source>The Dispatcher&apos;s stream was damaged</source>
+        <translation>Il flusso del Dispatcher era danneggiato</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>Non connesso</translation>
+    </message>
+    <message>
+        <source>Looking up %1</source>
+        <translation>Ricerca di %1</translation>
+    </message>
+    <message>
+        <source>Connecting to %1 as %2</source>
+        <translation>Connessione a %1 come %2</translation>
+    </message>
+    <message>
+        <source>Connected to %1 as %2</source>
+        <translation>Connesso a %1 come %2</translation>
+    </message>
+    <message>
+        <source>Log-in refused by %1 for %2</source>
+        <translation>Accesso rifiutato da %1 per %2</translation>
+    </message>
+    <message>
+        <source>Not connected to %1 as %2</source>
+        <translation>Non connesso a %1 come %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>state of the link and why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Next try at %1</source>
+        <translation>Prossimo tentativo alle %1</translation>
+    </message>
+    <message>
+        <source>Link was down %1 to %2; events of that time are not sent again</source>
+        <translation>Collegamento interrotto da %1 a %2; gli eventi di quel periodo non vengono inviati di nuovo</translation>
+    </message>
+    <message>
+        <source>larger than 1 MiB</source>
+        <translation>più grandi di 1 MiB</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>danneggiati</translation>
+    </message>
+    <message>
+        <source>Messages to the Dispatcher lost at %1: %2 (it does not read)</source>
+        <translation>Messaggi al Dispatcher persi alle %1: %2 (non legge)</translation>
+    </message>
+    <message>
+        <source>Messages of the Dispatcher lost at %1: %2 (%3)</source>
+        <translation>Messaggi del Dispatcher persi alle %1: %2 (%3)</translation>
+    </message>
+</context>
+<context>
     <name>ListMenu</name>
     <message>
         <source>&amp;Acknowledge selection</source>
@@ -680,6 +780,14 @@
     <message>
         <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
         <translation>Il Dispatcher ha rifiutato la connessione dell&apos;Alertor. Controllare nome utente e password nelle preferenze dell&apos;Alertor.</translation>
+    </message>
+    <message>
+        <source>Tarrow Alertor %1 (build %2)
+
+Log: %3</source>
+        <translation>Tarrow Alertor %1 (build %2)
+
+Registro: %3</translation>
     </message>
 </context>
 <context>
@@ -891,6 +999,10 @@ Fare clic destro su questa icona per il menu contestuale o doppio clic per mostr
     <message>
         <source>All files (*)</source>
         <translation>Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>A port is a number from 1 to 65535</source>
+        <translation>Una porta è un numero da 1 a 65535</translation>
     </message>
 </context>
 <context>

@@ -26,6 +26,14 @@
         <source>&amp;Menu</source>
         <translation>メニュー(&amp;M)</translation>
     </message>
+    <message>
+        <source>Shows the version, and where the log is</source>
+        <translation>バージョンとログの場所を表示します</translation>
+    </message>
+    <message>
+        <source>A&amp;bout</source>
+        <translation>このプログラムについて(&amp;B)</translation>
+    </message>
 </context>
 <context>
     <name>CacheTotals</name>
@@ -93,6 +101,23 @@
     <message>
         <source>HUD colour</source>
         <translation>HUD の色</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyList</name>
+    <message>
+        <source>&amp;Configure</source>
+        <translation>設定(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Opens the preferences: where the Dispatcher is, and who logs in</source>
+        <translation>環境設定を開きます: Dispatcher の場所とログインするユーザー</translation>
+    </message>
+    <message>
+        <source>Nothing has happened yet.
+What the farm tells of your jobs appears here.</source>
+        <translation>まだ何も起きていません。
+ファームからのジョブの知らせがここに表示されます。</translation>
     </message>
 </context>
 <context>
@@ -619,6 +644,81 @@
     </message>
 </context>
 <context>
+    <name>LinkStatus</name>
+    <message>
+        <source>Connect &amp;now</source>
+        <translation>今すぐ接続(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Tries to connect to the Dispatcher at once</source>
+        <translation>すぐに Dispatcher への接続を試みます</translation>
+    </message>
+</context>
+<context>
+    <name>LinkWords</name>
+    <message>
+        <source>Not a Dispatcher: it sent %1</source>
+        <translation>Dispatcher ではありません: %1 が送られてきました</translation>
+    </message>
+    <message>
+        <source>The Dispatcher&apos;s stream was damaged</source>
+        <translation>Dispatcher からのデータが壊れていました</translation>
+    </message>
+    <message>
+        <source>Not connected</source>
+        <translation>未接続</translation>
+    </message>
+    <message>
+        <source>Looking up %1</source>
+        <translation>%1 を検索しています</translation>
+    </message>
+    <message>
+        <source>Connecting to %1 as %2</source>
+        <translation>%1 に %2 として接続しています</translation>
+    </message>
+    <message>
+        <source>Connected to %1 as %2</source>
+        <translation>%1 に %2 として接続済み</translation>
+    </message>
+    <message>
+        <source>Log-in refused by %1 for %2</source>
+        <translation>%1 が %2 のログインを拒否しました</translation>
+    </message>
+    <message>
+        <source>Not connected to %1 as %2</source>
+        <translation>%1 に %2 として接続していません</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>state of the link and why</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Next try at %1</source>
+        <translation>次の試行: %1</translation>
+    </message>
+    <message>
+        <source>Link was down %1 to %2; events of that time are not sent again</source>
+        <translation>%1 から %2 まで接続が切れていました。その間のイベントは再送されません</translation>
+    </message>
+    <message>
+        <source>larger than 1 MiB</source>
+        <translation>1 MiB を超えています</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>壊れています</translation>
+    </message>
+    <message>
+        <source>Messages to the Dispatcher lost at %1: %2 (it does not read)</source>
+        <translation>%1 に失われた Dispatcher へのメッセージ: %2 (読み取られません)</translation>
+    </message>
+    <message>
+        <source>Messages of the Dispatcher lost at %1: %2 (%3)</source>
+        <translation>%1 に失われた Dispatcher からのメッセージ: %2 (%3)</translation>
+    </message>
+</context>
+<context>
     <name>ListMenu</name>
     <message>
         <source>&amp;Acknowledge selection</source>
@@ -680,6 +780,14 @@
     <message>
         <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
         <translation>Dispatcher が Alertor の接続を拒否しました。Alertor の環境設定でログイン名とパスワードを確認してください。</translation>
+    </message>
+    <message>
+        <source>Tarrow Alertor %1 (build %2)
+
+Log: %3</source>
+        <translation>Tarrow Alertor %1 (ビルド %2)
+
+ログ: %3</translation>
     </message>
 </context>
 <context>
@@ -891,6 +999,10 @@ Right-click on this icon to access the context menu or double click to raise the
     <message>
         <source>All files (*)</source>
         <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>A port is a number from 1 to 65535</source>
+        <translation>ポートは 1 から 65535 の数です</translation>
     </message>
 </context>
 <context>

@@ -300,6 +300,29 @@ private Q_SLOTS:
         QVERIFY(!saveSettings(Settings()));
     }
 
+    void addressesMayNameTheirPort()
+    {
+        const std::tuple<const char *, const char *, int> rows[] = {
+            {" farm01 ", "farm01", 9464},    {"farm01:77", "farm01", 77},  {"[::1]", "::1", 9464},
+            {"[fe80::1]:80", "fe80::1", 80}, {"fe80::1", "fe80::1", 9464}, {"farm01:99999", "farm01", 9464},
+        };
+        for (const auto &[typed, host, port] : rows) {
+            LinkSettings link;
+            link.address = QString::fromLatin1(typed);
+            link.port = 75'000;
+            QCOMPARE(link.host(), QString::fromLatin1(host));
+            QCOMPARE(link.tcpPort(), port);
+        }
+    }
+
+    void aDamagedTimeOfSilenceIsTheDefault()
+    {
+        for (const auto &[stored, seconds] : {std::pair("0", 600), {"-5", 600}, {"x", 600}, {"90", 90}}) {
+            QSettings().setValue(QStringLiteral("network/heartbeat_resolution"), QString::fromLatin1(stored));
+            QCOMPARE(loadHeartbeatResolution(), seconds);
+        }
+    }
+
     void commandLineReplacesWhatItGives()
     {
         Settings settings;

@@ -1,5 +1,6 @@
 #include "table.h"
 
+#include <ui/logfile.h>
 #include <ui/plaintext.h>
 #include <ui/svgicon.h>
 #include <ui/windowplacement.h>
@@ -84,6 +85,27 @@ private Q_SLOTS:
         QFETCH(QRect, expected);
         QCOMPARE(fittedToAreas(wanted, {{0, 24, 1920, 1056}, {1920, 200, 1280, 1024}}), expected);
         QCOMPARE(fittedToAreas(wanted, {}), wanted);
+    }
+
+    void theLogKeepsTheLatestWithinItsLimit()
+    {
+        const QTemporaryDir state;
+        qputenv("XDG_STATE_HOME", QFile::encodeName(state.path()));
+        QVERIFY(LogFile::path().startsWith(state.path()));
+        {
+            LogFile log;
+            for (int i = 0; i < 3000; ++i)
+                log.write(QtInfoMsg, "tarrow.net", QStringLiteral("%1\nx").arg(i).leftJustified(500, u'.'));
+        }
+        QFile now(LogFile::path());
+        QFile before(LogFile::path() + QStringLiteral(".1"));
+        QVERIFY(now.open(QIODevice::ReadOnly) && before.open(QIODevice::ReadOnly));
+        QVERIFY(now.size() + before.size() <= 1024 * 1024 && now.size() + before.size() > 512 * 1024);
+        QCOMPARE(now.permissions() & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+        const QByteArrayList lines = (before.readAll() + now.readAll()).trimmed().split('\n');
+        QVERIFY(lines.last().contains(" info tarrow.net: 2999 x."));
+        for (qsizetype i = 0; i < lines.size(); ++i) // none is lost, torn or forged
+            QVERIFY(lines[i].contains(QByteArray(": ") + QByteArray::number(3000 - lines.size() + i) + " x"));
     }
 
     void textIsShortened_data()
