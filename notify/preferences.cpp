@@ -4,6 +4,7 @@
 
 #include <notify/settings/settings.h>
 #include <ui/fieldmark.h>
+#include <ui/numbertext.h>
 
 #include <QtCore/QPointer>
 #include <QtGui/QScreen>
@@ -12,7 +13,6 @@
 
 #include <array>
 #include <charconv>
-#include <cmath>
 
 namespace {
 
@@ -95,8 +95,7 @@ QString shortest(float number)
 
 float gamma(const QString &text)
 {
-    const float number = text.toFloat();
-    return std::isfinite(number) ? number : 0.0F;
+    return readNumber(text).value_or(0.0F);
 }
 
 void pickFile(QLineEdit *field, const QString &filter)

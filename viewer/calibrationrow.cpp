@@ -1,14 +1,14 @@
 #include "calibrationrow.h"
 
+#include <ui/numbertext.h>
+
 #include <QtCore/QSignalBlocker>
-#include <QtGui/QDoubleValidator>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QSlider>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -66,10 +66,7 @@ CalibrationRow::CalibrationRow(const QString &name, Kind kind, QGridLayout &grid
     m_slider->setRange(sliderRange(kind).lowest, sliderRange(kind).highest);
     m_field->setObjectName(name + QStringLiteral("Field"));
     m_field->setFixedWidth(kFieldWidth);
-    auto *validator = new QDoubleValidator(-kFieldLimit, kFieldLimit, kDecimals, m_field);
-    validator->setLocale(QLocale::c());
-    validator->setNotation(QDoubleValidator::StandardNotation);
-    m_field->setValidator(validator);
+    m_field->setValidator(new NumberValidator(-kFieldLimit, kFieldLimit, kDecimals, m_field));
     grid.addWidget(m_label, row, 0);
     grid.addWidget(m_slider, row, 1);
     grid.addWidget(m_field, row, 2);
@@ -103,15 +100,19 @@ void CalibrationRow::sliderMoved(int hundredths)
 
 void CalibrationRow::fieldEdited()
 {
-    bool isNumber = false;
-    const float value = m_field->text().toFloat(&isNumber);
-    if (isNumber && value == m_value)
+    // The field shows fewer digits than the value may have: leaving it changes nothing.
+    if (m_field->text() == fieldText())
         return;
-    enter(isNumber && std::isfinite(value) ? value : m_value);
+    enter(readNumber(m_field->text()).value_or(m_value));
     Q_EMIT edited();
+}
+
+QString CalibrationRow::fieldText() const
+{
+    return QString::number(double(m_value), 'f', kDecimals);
 }
 
 void CalibrationRow::writeField()
 {
-    m_field->setText(QString::number(double(m_value), 'f', kDecimals));
+    m_field->setText(fieldText());
 }

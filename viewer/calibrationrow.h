@@ -32,6 +32,7 @@ Q_SIGNALS:
 private:
     void sliderMoved(int hundredths);
     void fieldEdited();
+    QString fieldText() const;
     void writeField();
 
     const Kind m_kind;

@@ -2,6 +2,7 @@
 
 #include "ui_imageviewer.h"
 
+#include <ui/numbertext.h>
 #include <viewer/session/viewersession.h>
 
 #include <QtCore/QSignalBlocker>
@@ -83,6 +84,9 @@ void TransportControls::retranslate()
     const FrameSequence &sequence = m_session.sequence();
     m_form.startFrameLabel->setText(tr("S:(%1)").arg(sequence.first()));
     m_form.endFrameLabel->setText(tr("E:(%1)").arg(sequence.last()));
+    // As wide as any rate: playing would widen the window.
+    const QFontMetrics metrics(m_form.playbackRate->font());
+    m_form.playbackRate->setFixedWidth(metrics.horizontalAdvance(tr("%1 fps").arg(9999.9, 0, 'f', 1)));
     m_form.totalFramesLabel->setText(tr("%1 frame(s)").arg(sequence.frames.size()));
 }
 
@@ -162,7 +166,7 @@ void TransportControls::editFrame()
 void TransportControls::editFramesPerSecond()
 {
     Playback &playback = m_session.playback();
-    playback.setFramesPerSecond(m_form.fps->text().toFloat());
+    playback.setFramesPerSecond(readNumber(m_form.fps->text()).value_or(0.0F));
     m_form.fps->setText(QString::number(double(playback.framesPerSecond())));
 }
 

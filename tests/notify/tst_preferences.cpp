@@ -158,7 +158,7 @@ private Q_SLOTS:
         check("Alertor port", u"80"_s, &Settings::dispatcherPort, 80);
         check("GPU viewer cache, bytes", u"3"_s, &Settings::imageViewerMaxGPUCache, 3U);
         check("RAM viewer cache, bytes", u"4"_s, &Settings::imageViewerMaxRAMCache, 4U);
-        check("EXR import gamma", u"1.8"_s, &Settings::imageViewerExrImportGamma, 1.8F);
+        check("EXR import gamma", u"1,8"_s, &Settings::imageViewerExrImportGamma, 1.8F);
         check("Default import gamma", u".5"_s, &Settings::imageViewerDefaultImportGamma, 0.5F);
     }
 
@@ -169,7 +169,7 @@ private Q_SLOTS:
         expected.imageViewerMaxGPUCache = expected.imageViewerMaxRAMCache = 0;
         expected.imageViewerExrImportGamma = expected.imageViewerDefaultImportGamma = 0;
         for (const char *text :
-             {"", "x", "1,5", "0x10", "nan", "1e400", "99999999999999999999999999999999999999999"}) {
+             {"", "x", "1.5.2", "0x10", "nan", "1e400", "99999999999999999999999999999999999999999"}) {
             for (const QString &name : {u"dispatcherPort"_s, u"gpuCacheLimit"_s, u"ramCacheLimit"_s,
                                         u"exrImportGamma"_s, u"defaultImportGamma"_s})
                 type(child<QLineEdit>(name), QString::fromLatin1(text));

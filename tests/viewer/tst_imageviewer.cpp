@@ -270,6 +270,8 @@ private Q_SLOTS:
         find<QSlider>("softClipSlider")->setValue(55);
         QCOMPARE(panel.calibration().softClip, 0.55F);
         QCOMPARE(text("softClipField"), u"0.55"_s);
+        // Either decimal mark is read.
+        QCOMPARE(type("softClipField", u"0,5"_s), u"0.50"_s);
         const QImage before = m_viewer->picture().grabPicture();
         type("brightnessField", u"0.25"_s);
         QCOMPARE(find<QSlider>("brightnessSlider")->value(), 25);

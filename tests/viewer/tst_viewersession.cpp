@@ -5,6 +5,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QFileSystemWatcher>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
@@ -155,6 +156,49 @@ private Q_SLOTS:
         writeFrame(file(5), {32, 16});
         QTRY_COMPARE(shownFile(), file(5));
         QCOMPARE(m_display.shown->planeSizes.front(), (PlaneSize{32, 16}));
+    }
+
+    void filesThatOthersWriteAreSeenWithoutAWord()
+    {
+        // The system tells of nothing behind a link, as of nothing that another machine writes.
+        const QTemporaryDir store;
+        const QString elsewhere = store.filePath(u"frame.exr"_s);
+        QVERIFY(QFile::remove(file(4)) && QFile::link(elsewhere, file(4)));
+        TJob job;
+        job.setFrameRanges({{1, 5, 1}});
+        m_session->setJob({job, {}, {}});
+        open(u"shot.####.exr"_s);
+        m_session->setFrame(4);
+        QCOMPARE(m_session->lastLoad().outcome, LoadOutcome::NotFound);
+        writeFrame(elsewhere, kFrame);
+        QTRY_COMPARE(shownFile(), file(4));
+
+        // Rendered anew, it shows when it comes up again; the others are not read a second time.
+        m_session->setFrame(5);
+        const int uploads = m_display.uploads;
+        writeFrame(elsewhere, {32, 16});
+        m_session->setFrame(4);
+        QCOMPARE(m_display.shown->planeSizes.front(), (PlaneSize{32, 16}));
+        m_session->setFrame(5);
+        QCOMPARE(m_display.uploads, uploads + 1);
+
+        // A broken file is read again when it has changed, not when its folder has.
+        QVERIFY(QFile::resize(file(2), 300));
+        m_session->setFrame(2);
+        QCOMPARE(m_session->lastLoad().outcome, LoadOutcome::Corrupted);
+        const QSignalSpy loads(m_session.get(), &ViewerSession::loaded);
+        QFileSystemWatcher folder({m_folder->path()});
+        QSignalSpy changes(&folder, &QFileSystemWatcher::directoryChanged);
+        QTimer settled;
+        settled.setInterval(300);
+        for (int i = 0; i < 3; ++i) {
+            writeFrame(m_folder->filePath(u"other%1"_s.arg(i)), kFrame);
+            QTRY_COMPARE(changes.size(), i + 1);
+            QSignalSpy due(&settled, &QTimer::timeout); // what a change sets off comes within 100 ms
+            settled.start();
+            QTRY_VERIFY(due.size() > 0);
+        }
+        QCOMPARE(loads.count(), 0);
     }
 
     void framesComeAndGoWhilePlaying()

@@ -48,7 +48,9 @@ FrameLoader::FrameLoader(FrameCache &cache, FrameDisplay &display)
 LoadResult FrameLoader::load(const LoadRequest &request)
 {
     LoadResult result;
-    if (ImageFrame *cached = m_cache.find(request.path)) {
+    result.stamp = FileStamp::of(request.path);
+    ImageFrame *cached = m_cache.find(request.path);
+    if (cached && (cached->stamp == result.stamp || !result.stamp.exists)) {
         m_display.showFrame(cached);
         result.outcome = LoadOutcome::Shown;
         return result;
@@ -85,6 +87,7 @@ LoadOutcome FrameLoader::loadLayer(const LoadRequest &request, const std::string
         return LoadOutcome::NothingShown;
 
     frame->filePath = request.path;
+    frame->stamp = result.stamp;
     frame->formatName = format;
     frame->premultiplied = frame->premultiplied && request.premultiplied;
     frame->display = &m_display;

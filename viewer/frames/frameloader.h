@@ -1,6 +1,7 @@
 #pragma once
 
 #include "compositelayers.h"
+#include "filestamp.h"
 
 #include <image_library/iimagecore.h>
 
@@ -37,13 +38,15 @@ struct LoadResult {
     std::optional<LayerList>
         layers; ///< set when the file's layers were listed, which a cached frame does not need
     std::string layer; ///< the entry of `layers` that was loaded
+    FileStamp stamp; ///< of the file, before it was read
 
     bool shown() const { return outcome == LoadOutcome::Shown; }
     /// The file is missing or broken, which another look at it may find mended.
     bool failed() const { return outcome == LoadOutcome::NotFound || outcome == LoadOutcome::Corrupted; }
 };
 
-/// Brings one frame on the display, from the cache or from its file through the image library; blocks meanwhile. A load
+/// Brings one frame on the display, from the cache or from its file through the image library; blocks meanwhile. A frame
+/// whose file was written since is read again. A load
 /// that fails leaves the cache as it was.
 class FrameLoader final {
 public:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "filestamp.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -21,6 +23,7 @@ struct ImageFrame {
     std::vector<PlaneSize> planeSizes;
     std::string channelLayout; ///< "R,G,B,A", "R,G,B", "Y,Cb,Cr,A", "Y,Cb,Cr", or the one channel's name
     std::string filePath;
+    FileStamp stamp; ///< of the file that was read
     std::string formatName; ///< as the image library's probe calls it, for example "exr"
     std::int32_t textureCount = 0; ///< 1, 3 or 4
     std::vector<std::uint32_t> textureNames; ///< empty unless uploaded

@@ -163,7 +163,7 @@ void ViewerSession::load(bool fresh)
     if (!shown)
         m_display.showFrame(nullptr);
     if (m_lastLoad.failed())
-        m_watch.watch(QString::fromStdString(request.path));
+        m_watch.watch(QString::fromStdString(request.path), m_lastLoad.stamp);
     else
         m_watch.stop();
     if (shown && !std::exchange(m_anyShown, true))

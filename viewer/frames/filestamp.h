@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+/// Tells whether a file is still the one that was read: what one look at its folder's entry says. Equal stamps are those
+/// of a file that nobody has written since.
+struct FileStamp {
+    bool exists = false;
+    std::int64_t size = 0; ///< bytes
+    std::int64_t modified = 0; ///< milliseconds since 1970
+
+    static FileStamp of(const std::string &path);
+
+    bool operator==(const FileStamp &) const = default;
+};
