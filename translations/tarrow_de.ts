@@ -580,7 +580,7 @@ Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
     </message>
     <message>
         <source>Live scrubbing</source>
-        <translation>Live-Scrubbing</translation>
+        <translation>Beim Ziehen anzeigen</translation>
     </message>
     <message>
         <source>Load frames while the timeline is dragged</source>
@@ -641,6 +641,10 @@ Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
     <message>
         <source>Your graphic card has no support for HALF float values. Images support or accuracy may be limited!</source>
         <translation>Ihre Grafikkarte unterstützt keine HALF-Gleitkommawerte. Bilder werden vielleicht ungenau oder gar nicht dargestellt!</translation>
+    </message>
+    <message>
+        <source>Luminance: the largest of red, green and blue</source>
+        <translation>Luminanz: der größte Wert aus Rot, Grün und Blau</translation>
     </message>
 </context>
 <context>
@@ -791,6 +795,33 @@ Protokoll: %3</translation>
     </message>
 </context>
 <context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -802,7 +833,7 @@ Protokoll: %3</translation>
     </message>
     <message>
         <source>Set default size and position</source>
-        <translation>Standardgröße und -position herstellen</translation>
+        <translation>Aktuelle Größe und Position als Standard merken</translation>
     </message>
     <message>
         <source>Close</source>
@@ -810,7 +841,7 @@ Protokoll: %3</translation>
     </message>
     <message>
         <source>Are you sure you want to set the default size and position for this dialog ?</source>
-        <translation>Möchten Sie Standardgröße und -position dieses Dialogs wirklich herstellen?</translation>
+        <translation>Möchten Sie die aktuelle Größe und Position als Standard für diesen Dialog festlegen?</translation>
     </message>
 </context>
 <context>

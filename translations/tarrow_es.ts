@@ -580,7 +580,7 @@ Lo que la granja diga de sus trabajos aparece aquí.</translation>
     </message>
     <message>
         <source>Live scrubbing</source>
-        <translation>Scrubbing en vivo</translation>
+        <translation>Mostrar al arrastrar</translation>
     </message>
     <message>
         <source>Load frames while the timeline is dragged</source>
@@ -641,6 +641,10 @@ Lo que la granja diga de sus trabajos aparece aquí.</translation>
     <message>
         <source>Your graphic card has no support for HALF float values. Images support or accuracy may be limited!</source>
         <translation>Su tarjeta gráfica no admite valores flotantes HALF. La compatibilidad o la precisión de las imágenes puede ser limitada.</translation>
+    </message>
+    <message>
+        <source>Luminance: the largest of red, green and blue</source>
+        <translation>Luminancia: el mayor valor de rojo, verde y azul</translation>
     </message>
 </context>
 <context>
@@ -791,6 +795,33 @@ Registro: %3</translation>
     </message>
 </context>
 <context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sí</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -802,7 +833,7 @@ Registro: %3</translation>
     </message>
     <message>
         <source>Set default size and position</source>
-        <translation>Restablecer tamaño y posición predeterminados</translation>
+        <translation>Guardar el tamaño y la posición actuales como predeterminados</translation>
     </message>
     <message>
         <source>Close</source>
@@ -810,7 +841,7 @@ Registro: %3</translation>
     </message>
     <message>
         <source>Are you sure you want to set the default size and position for this dialog ?</source>
-        <translation>¿Seguro que desea restablecer el tamaño y la posición predeterminados de este diálogo?</translation>
+        <translation>¿Seguro que desea guardar el tamaño y la posición actuales como predeterminados de este diálogo?</translation>
     </message>
 </context>
 <context>

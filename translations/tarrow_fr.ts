@@ -580,7 +580,7 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>Live scrubbing</source>
-        <translation>Scrubbing en direct</translation>
+        <translation>Afficher en glissant</translation>
     </message>
     <message>
         <source>Load frames while the timeline is dragged</source>
@@ -641,6 +641,10 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     <message>
         <source>Your graphic card has no support for HALF float values. Images support or accuracy may be limited!</source>
         <translation>Votre carte graphique ne prend pas en charge les flottants HALF. La prise en charge ou la précision des images peut être limitée&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Luminance: the largest of red, green and blue</source>
+        <translation>Luminance : la plus grande valeur du rouge, du vert et du bleu</translation>
     </message>
 </context>
 <context>
@@ -791,6 +795,33 @@ Journal : %3</translation>
     </message>
 </context>
 <context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Oui</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Non</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -802,7 +833,7 @@ Journal : %3</translation>
     </message>
     <message>
         <source>Set default size and position</source>
-        <translation>Rétablir la taille et la position par défaut</translation>
+        <translation>Garder la taille et la position actuelles par défaut</translation>
     </message>
     <message>
         <source>Close</source>
@@ -810,7 +841,7 @@ Journal : %3</translation>
     </message>
     <message>
         <source>Are you sure you want to set the default size and position for this dialog ?</source>
-        <translation>Voulez-vous vraiment rétablir la taille et la position par défaut de cette fenêtre&#xa0;?</translation>
+        <translation>Voulez-vous vraiment garder la taille et la position actuelles par défaut pour cette fenêtre ?</translation>
     </message>
 </context>
 <context>

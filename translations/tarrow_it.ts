@@ -580,7 +580,7 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
     </message>
     <message>
         <source>Live scrubbing</source>
-        <translation>Scrubbing dal vivo</translation>
+        <translation>Mostra trascinando</translation>
     </message>
     <message>
         <source>Load frames while the timeline is dragged</source>
@@ -641,6 +641,10 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
     <message>
         <source>Your graphic card has no support for HALF float values. Images support or accuracy may be limited!</source>
         <translation>La scheda grafica non supporta i valori float HALF. Il supporto o la precisione delle immagini può essere limitato!</translation>
+    </message>
+    <message>
+        <source>Luminance: the largest of red, green and blue</source>
+        <translation>Luminanza: il massimo tra rosso, verde e blu</translation>
     </message>
 </context>
 <context>
@@ -791,6 +795,33 @@ Registro: %3</translation>
     </message>
 </context>
 <context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sì</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -802,7 +833,7 @@ Registro: %3</translation>
     </message>
     <message>
         <source>Set default size and position</source>
-        <translation>Ripristina dimensione e posizione predefinite</translation>
+        <translation>Salva dimensione e posizione attuali come predefinite</translation>
     </message>
     <message>
         <source>Close</source>
@@ -810,7 +841,7 @@ Registro: %3</translation>
     </message>
     <message>
         <source>Are you sure you want to set the default size and position for this dialog ?</source>
-        <translation>Ripristinare davvero la dimensione e la posizione predefinite di questa finestra?</translation>
+        <translation>Salvare davvero la dimensione e la posizione attuali come predefinite di questa finestra?</translation>
     </message>
 </context>
 <context>

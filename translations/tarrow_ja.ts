@@ -107,7 +107,7 @@
     <name>EmptyList</name>
     <message>
         <source>&amp;Configure</source>
-        <translation>設定(&amp;C)</translation>
+        <translation>環境設定(&amp;C)</translation>
     </message>
     <message>
         <source>Opens the preferences: where the Dispatcher is, and who logs in</source>
@@ -600,7 +600,7 @@ What the farm tells of your jobs appears here.</source>
     </message>
     <message>
         <source>Requeue marked frames</source>
-        <translation>マークしたフレームを再キュー</translation>
+        <translation>マークしたフレームをキューに入れ直す</translation>
     </message>
     <message>
         <source>Clear markings</source>
@@ -624,7 +624,7 @@ What the farm tells of your jobs appears here.</source>
     </message>
     <message>
         <source>Requeue marked chunks</source>
-        <translation>マークしたチャンクを再キュー</translation>
+        <translation>マークしたチャンクをキューに入れ直す</translation>
     </message>
     <message>
         <source>Download chunks</source>
@@ -641,6 +641,10 @@ What the farm tells of your jobs appears here.</source>
     <message>
         <source>Your graphic card has no support for HALF float values. Images support or accuracy may be limited!</source>
         <translation>お使いのグラフィックカードは HALF 浮動小数点値に対応していません。画像の対応や精度が制限される場合があります。</translation>
+    </message>
+    <message>
+        <source>Luminance: the largest of red, green and blue</source>
+        <translation>輝度: 赤、緑、青の最大値</translation>
     </message>
 </context>
 <context>
@@ -791,6 +795,33 @@ Log: %3</source>
     </message>
 </context>
 <context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>はい(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>いいえ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+</context>
+<context>
     <name>QSkinnedDialog</name>
     <message>
         <source>defaultSkinnedDialog</source>
@@ -802,7 +833,7 @@ Log: %3</source>
     </message>
     <message>
         <source>Set default size and position</source>
-        <translation>既定のサイズと位置に戻す</translation>
+        <translation>現在のサイズと位置を既定にする</translation>
     </message>
     <message>
         <source>Close</source>
@@ -810,7 +841,7 @@ Log: %3</source>
     </message>
     <message>
         <source>Are you sure you want to set the default size and position for this dialog ?</source>
-        <translation>このダイアログのサイズと位置を既定に戻しますか?</translation>
+        <translation>現在のサイズと位置をこのダイアログの既定にしますか?</translation>
     </message>
 </context>
 <context>
@@ -937,7 +968,7 @@ Right-click on this icon to access the context menu or double click to raise the
     <name>TrayMenu</name>
     <message>
         <source>&amp;Restore</source>
-        <translation>元に戻す(&amp;R)</translation>
+        <translation>ウィンドウを表示(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Acknowledge pending events</source>
@@ -945,7 +976,7 @@ Right-click on this icon to access the context menu or double click to raise the
     </message>
     <message>
         <source>&amp;Silent</source>
-        <translation>サイレント(&amp;S)</translation>
+        <translation>消音(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Open images viewer</source>
@@ -953,7 +984,7 @@ Right-click on this icon to access the context menu or double click to raise the
     </message>
     <message>
         <source>&amp;Configure</source>
-        <translation>設定(&amp;C)</translation>
+        <translation>環境設定(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>

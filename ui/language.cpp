@@ -9,6 +9,13 @@
 
 namespace {
 
+/// Texts of the toolkit's own that are translated here too: its translations are a package that not every machine has.
+[[maybe_unused]] constexpr const char *kStandardButtons[] = {
+    QT_TRANSLATE_NOOP("QPlatformTheme", "OK"),    QT_TRANSLATE_NOOP("QPlatformTheme", "Cancel"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "&Yes"),  QT_TRANSLATE_NOOP("QPlatformTheme", "&No"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Close"), QT_TRANSLATE_NOOP("QPlatformTheme", "Open"),
+};
+
 bool install(const QLocale &locale, const QString &name, const QString &folder)
 {
     auto translator = std::make_unique<QTranslator>(QCoreApplication::instance());
