@@ -37,8 +37,10 @@ CLOSEST = [
     ("system/", "program_(start|instance)|tst_startup"),
     ("tools/view/", "program_view|tst_view"),
     ("tools/imageinfo/", "tst_image_library_info"),
-    ("tools/demofarm/", "tst_demofarm|tst_demoframes"),
+    ("tools/demofarm/", "tst_demofarm"),
 ]
+
+PROGRAMS = ["tarrow-alertor", "tarrow-demofarm", "tarrow-imageinfo", "tarrow-view", "tst_picture", "tst_imageviewer"]
 
 Fault = collections.namedtuple("Fault", "file breaks line wrong")
 
@@ -97,11 +99,13 @@ class Copy:
                                   "--stop-on-failure", "--timeout", str(SLOWEST_TEST))
         if passed:
             return None
-        failed = re.search(r"#\d+: (\S+) \.+ *(?:\*\*\*|Subprocess)", output)
-        return failed[1] if failed else "ctest"
+        failed = re.search(r"#\d+: (\S+) \.+ *(\*\*\*Timeout|\*\*\*|Subprocess)", output)
+        if not failed:
+            return "ctest"
+        return failed[1] + (", which stood still" if failed[2].endswith("Timeout") else "")
 
 
-def verdict(copy, fault):
+def verdict(copy, fault, closest_only):
     """What became of the fault: "caught by …", "survived" or why it could not be put in."""
     path = os.path.join(copy.source, fault.file)
     if not os.path.exists(path):
@@ -116,27 +120,30 @@ def verdict(copy, fault):
     try:
         with open(path, "w", encoding="utf-8") as file:
             file.write("".join(lines))
-        return outcome(copy, fault)
+        return outcome(copy, fault, closest_only)
     finally:
         with open(path, "w", encoding="utf-8") as file:
             file.write(right)
 
 
-def outcome(copy, fault):
+def outcome(copy, fault, closest_only):
     pattern = next((tests for folder, tests in CLOSEST if fault.file.startswith(folder)), "$^")
     close = [test for test in copy.tests if re.match(pattern, test)]
-    programs = any(test.startswith("program_") for test in close)
-    executables = [test for test in close if os.path.exists(os.path.join(copy.build_folder, "tests", test))]
-    if executables and not programs:
-        if not copy.build(executables)[0]:
+    units = [test for test in close if os.path.exists(os.path.join(copy.build_folder, "tests", test))]
+    programs = [test for test in close if test not in units]
+    # The quickest come first; each needs no more than itself built.
+    stages = [(units, units), (programs, PROGRAMS)]
+    if not closest_only:
+        stages.append(([test for test in copy.tests if test not in close], []))
+    for tests, targets in stages:
+        if not tests:
+            continue
+        if not copy.build(targets)[0]:
             return "does not build"
-    elif not copy.build()[0]:
-        return "does not build"
-    red = copy.failing(close) if close else None
-    if not red:
-        copy.build()
-        red = copy.failing([test for test in copy.tests if test not in close])
-    return f"caught by {red}" if red else "survived"
+        red = copy.failing(tests)
+        if red:
+            return f"caught by {red}"
+    return "survived"
 
 
 def main():
@@ -144,13 +151,14 @@ def main():
     options.add_argument("root")
     options.add_argument("pattern", nargs="?", default="")
     options.add_argument("--list", action="append")
+    options.add_argument("--closest", action="store_true")
     options = options.parse_args()
     lists = options.list or sorted(glob.glob(os.path.join(options.root, "tests", "mutants", "*.txt")))
     faults = [fault for path in lists for fault in faults_of(path) if re.search(options.pattern, ": ".join(fault[:2]))]
     copy = Copy(options.root)
     scores = collections.defaultdict(collections.Counter)
     for fault in faults:
-        result = verdict(copy, fault)
+        result = verdict(copy, fault, options.closest)
         kind = "caught" if result.startswith("caught") else "survived" if result == "survived" else "unusable"
         scores[os.path.dirname(fault.file)][kind] += 1
         print(f"{result:40} {fault.file}: {fault.breaks}", flush=True)

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# scripts/mutants.sh [--list FILE] [PATTERN]
+# scripts/mutants.sh [--closest] [--list FILE] [PATTERN]
 #
 # Puts faults into a copy of the project, one at a time, and sees whether a test turns red: those of tests/mutants/, or of
 # another list, whose heading matches the pattern. Prints each as caught or survived and the score of each folder. Ends with 1

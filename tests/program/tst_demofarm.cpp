@@ -1,46 +1,55 @@
 #include <client_lib/tchunk.h>
 #include <client_lib/tjob.h>
 #include <demofarm/farmoptions.h>
+#include <demofarm/framestore.h>
 #include <demofarm/scenario.h>
 #include <framework/stringhelper.h>
-#include <net/protocol/packets.h>
+#include <helpers/imagepointer.h>
+#include <image_library/iimagecore.h>
 
+#include <table.h>
+
+#include <QtCore/QDir>
 #include <QtTest/QTest>
 
 #include <algorithm>
 #include <map>
 #include <set>
 
-using TClientLib::TChunk;
-using TClientLib::TJob;
+using TImageLibrary::IImageCore;
 
 namespace {
 
-template <typename Record>
-std::optional<Record> unmarshalled(const QByteArray &base64, auto... translator)
+std::vector<std::string> values(const QByteArray &base64)
 {
     const std::string text = TFramework::TStringHelper::FromBase64(base64.toStdString());
-    Record record;
-    if (!record.Unmarshall(TFramework::TStringHelper::TokenizeString(text, "\n"), translator...))
-        return std::nullopt;
-    return record;
-}
-
-std::vector<FarmEvent> play(const ScenarioSettings &settings)
-{
-    Scenario scenario(settings);
-    std::vector<FarmEvent> events;
-    while (std::optional<FarmEvent> event = scenario.next())
-        events.push_back(*event);
-    return events;
+    return TFramework::TStringHelper::TokenizeString(text, "\n");
 }
 
 /// What a client can know of a job from the events so far.
 struct JobStory {
     std::set<std::int64_t> running;
     int worstChunk = 0;
+    bool started = false;
     bool completed = false;
 };
+
+/// What a layer of one channel holds; empty when the file does not load.
+QByteArray plane(const QString &file, const char *layer)
+{
+    const FarmHelpers::ImagePointer image(
+        IImageCore::Load(file.toUtf8().constData(), "exr", {layer}, nullptr, nullptr));
+    if (!image)
+        return {};
+    const TImageLibrary::CTImageChannel &channel = *image->GetLayer(layer)->GetDefaultChannel();
+    return {static_cast<const char *>(channel.GetChannelData()), qsizetype(channel.format().byteSize())};
+}
+
+RenderOrder order(const FrameStore &store, const std::string &job, std::optional<Outcome> outcome)
+{
+    const std::string folder = store.folder().toStdString() + "/show/" + job;
+    return {4, folder, folder + "/beauty.####.exr", {1001, 1005, 2}, outcome};
+}
 
 } // namespace
 
@@ -51,80 +60,74 @@ private Q_SLOTS:
     void sameSeedPlaysTheSameNight()
     {
         const auto night = [](quint32 seed) {
+            Scenario scenario({.jobs = 5, .seed = seed});
             QByteArray result;
-            for (const FarmEvent &event : play({.jobs = 5, .seed = seed}))
-                result += QByteArray::number(qint64(event.pause.count())) + encodeNotification(event.packet);
+            while (const std::optional<FarmEvent> event = scenario.next())
+                result +=
+                    QByteArray::number(qint64(event->pause.count())) + encodeNotification(event->packet);
             return result;
         };
         QCOMPARE(night(3), night(3));
         QVERIFY(night(3) != night(4));
     }
 
-    void everyKindOfEventComes()
-    {
-        std::set<qint64> types;
-        bool hasDirectoryUser = false;
-        for (const FarmEvent &event : play({.jobs = 60})) {
-            const NotificationPacket &packet = event.packet;
-            types.insert(packet.eventType);
-            hasDirectoryUser = hasDirectoryUser || packet.user.contains(QLatin1String("@directory@"));
-            if (packet.eventType >= ServiceActivity) {
-                QVERIFY(packet.job.isEmpty() && packet.chunk.isEmpty() && packet.user.isEmpty());
-                continue;
-            }
-            const auto job = unmarshalled<TJob>(packet.job, nullptr);
-            QVERIFY(job && packet.message.contains(QString::fromStdString(job->getName())));
-            QCOMPARE(packet.user, QString::fromStdString(job->getOwner()));
-        }
-        QCOMPARE(types, (std::set<qint64>{1, 2, 4, 8, 512, 1024, 2048, 4096}));
-        QVERIFY(hasDirectoryUser);
-    }
-
+    /// Every job starts, runs its chunks and completes as bad as the worst of them; what is rendered is what the records name.
     void everyJobRunsItsCourse()
     {
+        Scenario night({.jobs = 200, .eventsPerSecond = 50, .seed = 99, .folder = QStringLiteral("/night")});
         std::map<std::int64_t, JobStory> stories;
+        std::set<qint64> types;
         std::set<int> jobStatuses;
-        for (const FarmEvent &event : play({.jobs = 200, .seed = 99})) {
-            if (event.packet.job.isEmpty())
+        int finalFiles = 0;
+        double events = 0;
+        std::chrono::duration<double> whole{0};
+        while (const std::optional<FarmEvent> event = night.next()) {
+            const NotificationPacket &packet = event->packet;
+            types.insert(packet.eventType);
+            whole += event->pause;
+            events += 1;
+            TClientLib::TJob job;
+            TClientLib::TChunk chunk;
+            if (!job.Unmarshall(values(packet.job), nullptr)) {
+                QVERIFY(packet.eventType >= ServiceActivity && packet.user.isEmpty() && !event->render);
                 continue;
-            const auto job = unmarshalled<TJob>(event.packet.job, nullptr);
-            QVERIFY(job);
-            const bool isNew = !stories.contains(job->getJobId());
-            QCOMPARE(isNew, event.packet.eventType == JobStarted);
-            JobStory &story = stories[job->getJobId()];
-            QVERIFY(!story.completed);
-            if (const auto chunk = unmarshalled<TChunk>(event.packet.chunk)) {
-                QCOMPARE(chunk->getJobId(), job->getJobId());
-                if (event.packet.eventType == ChunkStarted) {
-                    QCOMPARE(chunk->getStatus(), kRunningStatus);
-                    QVERIFY(story.running.insert(chunk->getChunkId()).second);
-                    continue;
-                }
-                QCOMPARE(event.packet.eventType, qint64(ChunkCompleted));
-                QVERIFY(chunk->getStatus() == 4 || chunk->getStatus() == 8 || chunk->getStatus() == 16);
-                QCOMPARE(story.running.erase(chunk->getChunkId()), std::size_t(1));
-                story.worstChunk = std::max(story.worstChunk, chunk->getStatus());
-            } else if (event.packet.eventType == JobCompleted) {
-                story.completed = true;
-                QVERIFY(story.running.empty());
-                QCOMPARE(job->getStatus(), story.worstChunk * 256);
-                jobStatuses.insert(job->getStatus());
             }
+            QCOMPARE(packet.user, QString::fromStdString(job.getOwner()));
+            JobStory &story = stories[job.getJobId()];
+            QCOMPARE(!std::exchange(story.started, true), packet.eventType == JobStarted);
+            QVERIFY(!story.completed);
+            const bool isChunk = chunk.Unmarshall(values(packet.chunk));
+            if (isChunk && packet.eventType == ChunkStarted) {
+                QVERIFY(story.running.insert(chunk.getChunkId()).second);
+            } else if (isChunk) {
+                QCOMPARE(story.running.erase(chunk.getChunkId()), std::size_t(1));
+                story.worstChunk = std::max(story.worstChunk, chunk.getStatus());
+            } else if (packet.eventType == JobCompleted) {
+                story.completed = story.running.empty();
+                QCOMPARE(job.getStatus(), story.worstChunk * 256);
+                jobStatuses.insert(job.getStatus());
+            }
+            const std::string finalFile = job.attributeGetString("final_filename");
+            const bool rendersFinalFile = packet.eventType == JobCompleted && !finalFile.empty();
+            QCOMPARE(event->render.has_value(), rendersFinalFile || (isChunk && finalFile.empty()));
+            if (!event->render)
+                continue;
+            const RenderOrder &render = *event->render;
+            finalFiles += rendersFinalFile;
+            QCOMPARE(render.path, rendersFinalFile ? finalFile : job.attributeGetString("frames_mask"));
+            QVERIFY(render.path.starts_with(job.attributeGetString("output_folder") + "/"));
+            QVERIFY(rendersFinalFile
+                    || (render.frames.start == chunk.getStart() && render.frames.end == chunk.getEnd()
+                        && chunk.getStatus()
+                            == (render.outcome ? chunkStatus(*render.outcome) : kRunningStatus)));
         }
+        QCOMPARE(types, (std::set<qint64>{1, 2, 4, 8, 512, 1024, 2048, 4096}));
         QCOMPARE(stories.size(), std::size_t(200));
         QVERIFY(std::all_of(stories.begin(), stories.end(),
                             [](const auto &story) { return story.second.completed; }));
         QCOMPARE(jobStatuses, (std::set<int>{1024, 2048, 4096}));
-    }
-
-    void paceIsTheOneAskedFor()
-    {
-        const std::vector<FarmEvent> events = play({.jobs = 100, .eventsPerSecond = 50});
-        std::chrono::microseconds whole{0};
-        for (const FarmEvent &event : events)
-            whole += event.pause;
-        const double rate = double(events.size()) / std::chrono::duration<double>(whole).count();
-        QVERIFY2(rate > 45 && rate < 55, qPrintable(QString::number(rate)));
+        QVERIFY(finalFiles > 0);
+        QVERIFY2(qAbs(events / whole.count() - 50) < 5, qPrintable(QString::number(events / whole.count())));
     }
 
     void commandLine()
@@ -135,17 +138,69 @@ private Q_SLOTS:
                                          .split(QLatin1Char(' '), Qt::SkipEmptyParts));
             return line.options ? -1 : line.text.isEmpty() ? -2 : line.exitCode;
         };
-        for (const char *runs :
-             {"", "--port 65535",
-              "--port 0 --jobs 3 --rate 0.5 --seed 9 --compress --fragment 1 --deny-login "
-              "--drop-after 1.5 --garbage --once --frames-in . --keep-frames --half-frames "
-              "--no-frames"})
-            QCOMPARE(exitCode(runs), -1);
-        for (const char *wrong :
-             {"--port 65536", "--jobs many", "--jobs 1.5", "--burst inf", "--rate 0", "--rate nan",
-              "--fragment", "--frames-in /no/such/folder", "--nights 3", "9883"})
+        QCOMPARE(
+            exitCode("--port 0 --jobs 3 --rate 0.5 --seed 9 --fragment 1 --drop-after 1.5 --frames-in ."),
+            -1);
+        for (const char *wrong : {"--port 65536", "--jobs 1.5", "--rate 0", "--rate nan", "--fragment",
+                                  "--frames-in /no/such/folder", "--nights 3", "9883"})
             QVERIFY2(exitCode(wrong) == 2, wrong);
         QCOMPARE(exitCode("--help"), 0);
+    }
+
+    void framesOfAChunk_data()
+    {
+        const QString first = QStringLiteral("beauty.1001.exr");
+        const QString middle = QStringLiteral("beauty.1003.exr");
+        const QString last = QStringLiteral("beauty.1005.exr");
+        addTable<std::optional<Outcome>, QStringList, QString>(
+            {"outcome", "files", "damaged"},
+            {{"at work", {}, {first}, first},
+             {"warnings", Outcome::Warnings, {first, middle, last}, middle},
+             {"errors", Outcome::Errors, {first, last}, {}}});
+    }
+
+    void framesOfAChunk()
+    {
+        QFETCH(const std::optional<Outcome>, outcome);
+        QFETCH(const QStringList, files);
+        QFETCH(const QString, damaged);
+        FrameStore store({}, false, true);
+        const RenderOrder chunk = order(store, "a job", outcome);
+        store.render(chunk);
+        const QDir folder(QString::fromStdString(chunk.folder));
+        QCOMPARE(folder.entryList(QDir::Files, QDir::Name), files);
+        std::set<QByteArray> pictures;
+        for (const QString &file : files) {
+            const QString path = folder.filePath(file);
+            const QByteArray red = plane(path, "R");
+            QCOMPARE(red.isEmpty(), file == damaged);
+            if (file == damaged)
+                continue;
+            pictures.insert(red);
+            std::set<std::string> layers;
+            QVERIFY(IImageCore::LoadLayers(path.toUtf8().constData(), "exr", layers));
+            QCOMPARE(layers.size(), 11U);
+            QVERIFY(plane(path, "diffuse.R") != plane(path, "specular.R"));
+        }
+        QCOMPARE(qsizetype(pictures.size()), files.size() - !damaged.isEmpty());
+    }
+
+    void onlyTheLastJobsStay()
+    {
+        QString folder;
+        {
+            FrameStore store({}, false, true);
+            folder = store.folder();
+            for (std::size_t job = 0; job <= FrameStore::kJobsKept; ++job)
+                store.render(order(store, std::to_string(job), std::nullopt));
+            const QStringList jobs =
+                QDir(folder + QStringLiteral("/show")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+            QCOMPARE(std::size_t(jobs.size()), FrameStore::kJobsKept);
+            QVERIFY(!jobs.contains(QStringLiteral("0")));
+        }
+        QVERIFY(!QDir(folder).exists());
+        folder = FrameStore({}, true, false).folder();
+        QVERIFY(QDir(folder).removeRecursively());
     }
 };
 
