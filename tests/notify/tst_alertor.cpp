@@ -1,3 +1,4 @@
+#include "capturedoutput.h"
 #include "farmpackets.h"
 #include "glpath.h"
 #include "loopbackpeer.h"
@@ -15,6 +16,7 @@
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QContextMenuEvent>
+#include <QtGui/QDesktopServices>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -33,6 +35,7 @@ namespace {
 struct Farm {
     LoopbackPeer peer;
     Alertor alertor;
+    QStringList trayWhileConnecting; // icon and tooltip
 
     explicit Farm(const QString &key = {}, const QVariant &value = {})
     {
@@ -44,8 +47,10 @@ struct Farm {
         alertor.loadSettings();
         QSettings().clear();
         alertor.checkLocalConnection();
+        trayWhileConnecting = tray();
         QTRY_VERIFY(!peer.received().isEmpty());
     }
+    QStringList tray() const { return {alertor.tray().shownIcon(), alertor.tray().toolTip()}; }
     void send(const NotificationPacket &packet) { peer.send(farm::frame(packet)); }
     /// One event of each of these job statuses.
     void sendJobs(const QList<int> &statuses)
@@ -92,6 +97,16 @@ QString textsOf(const QMenu *menu, bool enabled = false)
     return texts.join(u'|');
 }
 
+/// The toolkit's own, beside the icon.
+QWidget *bubble()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->inherits("QBalloonTip") && window->isVisible())
+            return window;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 class TestAlertor final : public QObject {
@@ -107,20 +122,6 @@ public:
     }
 
 private Q_SLOTS:
-    void slotsStandInOrder()
-    {
-        const QMetaObject &meta = Alertor::staticMetaObject;
-        QByteArrayList names;
-        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-            names += meta.method(i).name();
-        QCOMPARE(names.join(' '),
-                 "checkLocalConnection socketStateChanged socketError socketConnected socketDisconnected "
-                 "socketMessage openConnection closeConnection updateIcon processCommand actAckEvents "
-                 "actRemoveSelected actRemoveAll actAckSelection actOpenOutput actOpenFrame "
-                 "actOpenFrameExternally onQuit actIsSilent popupMenu minimize restore openImageViewer "
-                 "CreateImageViewer iconActivated handleMessage configure timerEvent");
-    }
-
     void theWindowIsAsDrawnAndManaged()
     {
         Farm farm;
@@ -236,10 +237,12 @@ private Q_SLOTS:
         QByteArrayList received;
         farm.alertor.setCustomMessageHandler(
             [&](int id, const QByteArray &message) { received += QByteArray::number(id) + message; });
+        CapturedOutput errors(STDERR_FILENO);
         farm.peer.send(
             encodeMessage(MessageHeader::Plain, CMD_CUSTOM_MESSAGE, "12")
             + encodeMessage(MessageHeader::Plain, CMD_CUSTOM_MESSAGE, encodeCustomMessage({12, "hello"})));
         QTRY_COMPARE(received, QByteArrayList{"12hello"});
+        QCOMPARE(errors.take(), "Invalid content received for onkD2ACustomMessage\n");
         const TFramework::TSendEntry &entry = *farm.alertor.sendEntry();
         QVERIFY(entry.send(entry.owner, 700, "back", 4, 1));
         QTRY_COMPARE(farm.peer.received().last().payload, "back");
@@ -329,27 +332,60 @@ private Q_SLOTS:
         farm.menu("trayMenu")->popup({10, 10});
         QCOMPARE(textsOf(farm.menu("trayMenu"), true), u"&Silent|&Open images viewer|&Configure|&Quit"_s);
         QTest::keyClick(farm.menu("trayMenu"), Qt::Key_Escape);
+
+        Farm keeping(u"behaviours/autoAckOnRaise"_s, false);
+        keeping.sendJobs({4096});
+        keeping.alertor.restore();
+        QCOMPARE(keeping.alertor.events().pendingLevel(), ErrorPending);
     }
 
-    void theIconFlashesOneTickInFour()
+    void theIconTellsOfTheLinkAndFlashesWhatIsPending()
     {
         Farm farm;
-        const QString calm = u":/icons/mainIcon"_s;
-        farm.sendJobs({4096});
-        QStringList shown;
-        for (int tick = 0; tick < 8; ++tick) {
-            QMetaObject::invokeMethod(&farm.alertor, "timerEvent");
-            shown += farm.alertor.tray().shownIcon();
+        const QStringList calm{u":/icons/mainIcon"_s, u"Tarrow Alertor"_s};
+        const QString notConnected = u"Tarrow Alertor (not connected)"_s;
+        QCOMPARE(farm.trayWhileConnecting, (QStringList{u":/icons/connectingIcon"_s, notConnected}));
+        QTRY_COMPARE(farm.tray(), calm);
+        const auto shownInTicks = [&farm](int ticks) {
+            QStringList shown;
+            for (int tick = 0; tick < ticks; ++tick) {
+                QMetaObject::invokeMethod(&farm.alertor, "timerEvent");
+                shown += farm.alertor.tray().shownIcon();
+            }
+            return shown;
+        };
+        // Each worse than those before.
+        farm.send(farm::notification(512));
+        QTRY_COMPARE(farm.alertor.events().size(), 1);
+        for (const auto &[status, icon] : {std::pair(1, u":/icons/service"_s),
+                                           {1024, u":/icons/itemCompleted"_s},
+                                           {2048, u":/icons/itemWarning"_s},
+                                           {4096, u":/icons/itemError"_s}}) {
+            farm.sendJobs({status});
+            const QStringList shown = shownInTicks(8);
+            QCOMPARE(shown.count(calm[0]), 6);
+            QCOMPARE(shown.count(icon), 2);
         }
-        QCOMPARE(shown.count(calm), 6);
-        QCOMPARE(shown.count(u":/icons/itemError"_s), 2);
         farm.alertor.actAckEvents();
-        for (int tick = 0; tick < 4; ++tick) {
-            QMetaObject::invokeMethod(&farm.alertor, "timerEvent");
-            QCOMPARE(farm.alertor.tray().shownIcon(), calm);
-        }
+        QCOMPARE(shownInTicks(4), QStringList(4, calm[0]));
         farm.peer.dropLink();
-        QTRY_COMPARE(farm.alertor.tray().shownIcon(), u":/icons/unconnectedIcon"_s);
+        QTRY_COMPARE(farm.tray(), (QStringList{u":/icons/unconnectedIcon"_s, notConnected}));
+    }
+
+    void everyBurstShowsABubble()
+    {
+        Farm farm;
+        QTRY_VERIFY(farm.alertor.tray().isVisible() && !farm.alertor.tray().geometry().isEmpty());
+        for (int burst = 0; burst < 2; ++burst) {
+            farm.sendJobs({1024, 1024});
+            QTRY_VERIFY(bubble());
+            QStringList texts;
+            for (const QLabel *label : bubble()->findChildren<QLabel *>())
+                texts += label->text();
+            QVERIFY2(texts.contains(u"New event available!"_s), qPrintable(texts.join(u'|')));
+            bubble()->close();
+            QTRY_VERIFY(!bubble());
+        }
     }
 
     void quittingAsks()
@@ -425,6 +461,12 @@ private Q_SLOTS:
         QCOMPARE(opened(), "1|/no where/$(touch x)/a.0005.exr");
         QVERIFY(ResultOpener::startExternalViewer(viewer, u"--exec.####.exr"_s));
         QCOMPARE(opened(), "1|./--exec.####.exr");
+        QSettings().setValue(u"imageViewer/imageViewerMode"_s, 1);
+        QSettings().setValue(u"imageViewer/launchImageViewer"_s, true);
+        Farm automatic(u"imageViewer/imageViewer"_s, viewer);
+        const TClientLib::TJob still = farm::stillJob("/f/still.exr");
+        automatic.send(farm::notification(1, &still));
+        QCOMPARE(opened(), "1|/f/still.exr");
 
         const auto saidBy = [&farm](void (Alertor::*act)()) {
             QString said;
@@ -439,6 +481,20 @@ private Q_SLOTS:
         QVERIFY(saidBy(&Alertor::actOpenFrame)
                     .contains(u"OpenGL not supported by your GPU! Image viewer cannot be used!"_s));
         QCOMPARE(saidBy(&Alertor::actOpenOutput), u"Cannot open output folder /no where/$(touch x)"_s);
+
+        // A folder that is gone opens the one above, and so does what is no folder: nothing that the farm names is run.
+        QDesktopServices::setUrlHandler(u"file"_s, this, "noteOpened");
+        for (const QString &output : {folder.path(), folder.filePath(u"gone"_s), viewer}) {
+            TClientLib::TJob done = farm::job();
+            done.attributeSetString("output_folder", output.toStdString());
+            farm.send(farm::notification(1, &done));
+            QTRY_COMPARE(farm.alertor.events().size(), 2);
+            farm.click(1);
+            farm.alertor.actOpenOutput();
+            QCOMPARE(std::exchange(m_opened, {}), QUrl::fromLocalFile(folder.path()));
+            farm.alertor.actRemoveSelected();
+        }
+        QDesktopServices::unsetUrlHandler(u"file"_s);
     }
 
     void framesOpenInAViewerEach()
@@ -449,12 +505,11 @@ private Q_SLOTS:
         TClientLib::TJob job = farm::job();
         job.attributeSetString("frames_mask", folder.filePath(u"a.####.exr"_s).toStdString());
         job.setFrameRanges({{5, 9, 1}});
-        TClientLib::TJob still = farm::job();
-        still.setPacketType(2);
-        still.setTasksMask(2);
-        still.attributeSetString("final_filename", folder.filePath(u"still.exr"_s).toStdString());
+        const TClientLib::TJob still = farm::stillJob(folder.filePath(u"still.exr"_s).toStdString());
         TClientLib::TChunk chunk = farm::chunk();
         chunk.setFrames(5, 6, 1);
+        Farm notAsked;
+        notAsked.send(farm::notification(1, &still));
         Farm farm(u"imageViewer/launchImageViewer"_s, true);
         farm.show();
         const auto viewers = [&farm] { return farm.alertor.findChildren<ImageViewer *>(); };
@@ -479,9 +534,15 @@ private Q_SLOTS:
                     .endsWith(u"still.exr"_s));
         farm.alertor.openImageViewer();
         QVERIFY(viewers().last()->session().sequence().framesPath.empty());
+        QCOMPARE(notAsked.alertor.events().size(), 1);
+        QVERIFY(!notAsked.alertor.findChild<ImageViewer *>());
     }
 
+public Q_SLOTS:
+    void noteOpened(const QUrl &url) { m_opened = url; }
+
 private:
+    QUrl m_opened;
     // What there is; the tests run without, but for the one of the viewer.
     const TAppState m_openGl = std::exchange(TAppState::instance(), {});
 };

@@ -128,7 +128,10 @@ private Q_SLOTS:
         QTEST(handling.filter, "filter");
         QTEST(handling.sound, "sound");
         QCOMPARE(lookOf(*event).typeText.toLatin1(), text);
-        QCOMPARE(lookOf(*event).iconPath.isEmpty(), text.isEmpty());
+        static const QHash<QByteArray, QString> icons{
+            {"Success", u"itemCompleted"_s}, {"Warning", u"itemWarning"_s}, {"Error", u"itemError"_s},
+            {"Start", u"itemStart"_s},       {"Service", u"service"_s},     {"Alert", u"service"_s}};
+        QCOMPARE(lookOf(*event).iconPath, text.isEmpty() ? QString() : u":/icons/"_s + icons.value(text));
         QTEST(int(pendingLevelOf(*event)), "level");
     }
 
@@ -155,21 +158,6 @@ private Q_SLOTS:
         events.removeAll();
         QCOMPARE(events.pendingLevel(), NothingPending);
         QCOMPARE(events.size(), 0);
-    }
-
-    void idsAreUnique()
-    {
-        EventsList events;
-        QVERIFY(events.append(makeEvent(5, 512)));
-        QVERIFY(!events.append(makeEvent(5, 512)));
-        QVERIFY(!events.append(makeEvent(4, 512)));
-        QVERIFY(events.append(makeEvent(8, 512)));
-        QCOMPARE(events.size(), 2);
-        QCOMPARE(events.find(8)->eventId, 8U);
-        QVERIFY(!events.find(6));
-        events.removeEvent(5);
-        QCOMPARE(events.rowFrom(0), 0);
-        QCOMPARE(events.at(0).eventId, 8U);
     }
 
     void theModelKeepsItsContract()

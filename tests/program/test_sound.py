@@ -1,41 +1,39 @@
 """What the user hears: the sound of each kind of event, recorded from a sound server that plays to nobody."""
 
 import array
-import math
+import base64
 import os
+import socket
+import struct
 import subprocess
 import wave
 
-from farmtest import PATIENCE, Failure, Program, check, client, farm, run, wait_for, write_settings
+from desktop import click_icon, client_windows, xdotool
+from farmtest import EVENT, PATIENCE, Failure, Program, check, client, run, wait_for, write_settings
 
 RATE = 44100
-START_TONE = 1000
-SUCCESS_TONE = 1700
-OTHER_TONE = 2600
 WINDOW = RATE // 20
+# A sound is one level, held: where several play at once, their levels add up to a number that has a bit for each.
+UNIT = 1000
+LEVELS = {"start": 1, "success": 2, "warning": 4, "error": 8, "service": 16}
+KINDS = {"start": (4, 0), "success": (1, 1024), "warning": (1, 2048), "error": (1, 4096), "service": (512, None)}
 
 
-def write_tone(name, frequency, seconds=0.4):
-    path = os.path.join(os.environ["HOME"], name)
-    samples = array.array(
-        "h", (int(12000 * math.sin(2 * math.pi * frequency * i / RATE)) for i in range(int(RATE * seconds)))
-    )
+def write_sound(kind):
+    path = os.path.join(os.environ["HOME"], f"{kind}.wav")
     with wave.open(path, "wb") as file:
         file.setnchannels(1)
         file.setsampwidth(2)
         file.setframerate(RATE)
-        file.writeframes(samples.tobytes())
+        file.writeframes(array.array("h", [UNIT * LEVELS[kind]] * (RATE // 2)).tobytes())
     return path
 
 
-def share_of(frequency, samples):
-    """Share of the samples' power at that frequency, 0 to 1; 0 for silence."""
-    power = sum(sample * sample for sample in samples)
-    if power < 100 * 100 * len(samples):
-        return 0
-    real = sum(s * math.cos(2 * math.pi * frequency * i / RATE) for i, s in enumerate(samples))
-    imaginary = sum(s * math.sin(2 * math.pi * frequency * i / RATE) for i, s in enumerate(samples))
-    return 2 * (real * real + imaginary * imaginary) / (len(samples) * power)
+def event(kind):
+    number, status = KINDS[kind]
+    job = "" if status is None else base64.b64encode(f"1\n7\nshot\nann\n{status}\n0\n0\n0\n0".encode()).decode()
+    payload = f"{kind}\n{number}\n1700000000\nann\n{job}\n\n".encode()
+    return struct.pack("<BiII", 1, len(payload), 0, 601) + payload
 
 
 class SoundServer:
@@ -56,28 +54,25 @@ class SoundServer:
             env={**os.environ, **self.environment},
             stdout=subprocess.PIPE,
         )
+        self._before = set()
 
     def _run(self, *command):
         return subprocess.run(command, env={**os.environ, **self.environment}, capture_output=True, check=False)
 
-    def window(self):
-        """The next twentieth of a second."""
-        data = self._recorder.stdout.read(2 * WINDOW)
-        if len(data) < 2 * WINDOW:
-            raise Failure("the recorder ended")
-        samples = array.array("h")
-        samples.frombytes(data)
-        return samples
-
-    def listen_for(self, frequency):
-        """Listens until the tone is heard; fails when another one is."""
+    def listen_for(self, *kinds):
+        """Listens until these were heard and it is silent; fails on others. A gap is no end: what was heard last may go on."""
+        missing = set(kinds)
         for _ in range(20 * PATIENCE):
-            samples = self.window()
-            if share_of(frequency, samples) > 0.8:
+            data = self._recorder.stdout.read(2 * WINDOW)
+            check(len(data) == 2 * WINDOW, "the recorder ended")
+            sum_of_levels = round(max(array.array("h", data)) / UNIT)
+            heard = {kind for kind, level in LEVELS.items() if sum_of_levels & level}
+            check(heard <= self._before | set(kinds), f"heard {heard} while {kinds} were due")
+            missing -= heard
+            if not missing and not heard:
+                self._before = set(kinds)
                 return
-            for other in {START_TONE, SUCCESS_TONE, OTHER_TONE} - {frequency}:
-                check(share_of(other, samples) < 0.8, f"heard {other} Hz instead of {frequency} Hz")
-        raise Failure(f"{frequency} Hz were not heard")
+        raise Failure(f"{missing} were not heard")
 
     def stop(self):
         self._recorder.kill()
@@ -85,32 +80,33 @@ class SoundServer:
         self._recorder.stdout.close()
 
 
+def choose_silent():
+    click_icon(3, 1, lambda: len(client_windows()) == 2, "the tray menu")
+    xdotool("key", "s")
+    wait_for(lambda: len(client_windows()) == 1, "the menu to go")
+
+
 def test():
-    other = write_tone("other.wav", OTHER_TONE)
-    write_settings(
-        {
-            "behaviours": {
-                "startSound": write_tone("start.wav", START_TONE),
-                "successSound": write_tone("success.wav", SUCCESS_TONE),
-                "warningSound": other,
-                "errorSound": other,
-                "serviceSound": other,
-                "filterChunkStart": "false",
-            }
-        }
-    )
+    sounds = {f"{kind}Sound": write_sound(kind) for kind in LEVELS}
+    write_settings({"behaviours": {**sounds, "filterJobStart": "false", "showBubble": "false"}})
     server = SoundServer()
     try:
-        check(max(map(abs, server.window())) == 0, "there is sound before there is an event")
-        # A job starts, then its first chunk completes; the chunk's start is filtered out and must not be heard.
-        night = farm("--jobs", "1", "--rate", "0.5")
-        alertor = client(night.port, environment=server.environment)
-        server.listen_for(START_TONE)
-        while share_of(START_TONE, server.window()) > 0.1:
-            pass
-        server.listen_for(SUCCESS_TONE)
-        alertor.quit()
-        night.quit()
+        with socket.create_server(("127.0.0.1", 0)) as dispatcher:
+            alertor = client(dispatcher.getsockname()[1], environment=server.environment)
+            link, _ = dispatcher.accept()
+        with link:
+            for kind in ("service", "error", "warning", "success"):
+                link.sendall(event(kind))
+                server.listen_for(kind)
+            link.sendall(event("start") + event("error") + event("service"))  # the start is filtered out
+            server.listen_for("error", "service")
+            choose_silent()
+            link.sendall(event("success"))
+            alertor.expect(EVENT, 7)
+            choose_silent()
+            link.sendall(event("warning"))
+            server.listen_for("warning")
+            alertor.quit()
     finally:
         server.stop()
 

@@ -23,6 +23,16 @@ inline TClientLib::TJob job(int status = 1024)
     return job;
 }
 
+/// One whose only result is this file.
+inline TClientLib::TJob stillJob(const std::string &file)
+{
+    TClientLib::TJob still = job();
+    still.setPacketType(2);
+    still.setTasksMask(2);
+    still.attributeSetString("final_filename", file);
+    return still;
+}
+
 inline TClientLib::TChunk chunk(int status = 4)
 {
     TClientLib::TChunk chunk;
