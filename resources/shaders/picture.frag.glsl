@@ -110,6 +110,8 @@ void main()
         colour.a = 1.0;
     if (premultiplied == 1)
         colour.rgb /= colour.a;
+    // Beyond what halves hold, and infinite, a sample would spoil the other channels by the intensity.
+    colour.rgb = clamp(colour.rgb, -65504.0, 65504.0);
     if (isYCbCr == 0)
         colour.rgb = power(colour.rgb, 1.0 / sourceGamma);
     colour.rgb = power(colour.rgb, gamma);

@@ -14,6 +14,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QPointer>
 #include <QtCore/QTemporaryDir>
+#include <QtGui/QWheelEvent>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
@@ -88,8 +89,17 @@ private Q_SLOTS:
         QVERIFY(find("imageMarker")->isHidden());
         // In the middle of the picture, by the formats' own import gamma.
         QCOMPARE(m_viewer->calibration().inputGamma(), 2.2F);
-        const QRgb seen = m_viewer->picture().grabPicture().pixel(60, 20);
-        QCOMPARE(QColor(seen).name(), u"#ba88ff"_s); // 0.5, 0.25 and 1 to the power of 1 / 2.2
+        QCOMPARE(seen(), u"#ba88ff"_s); // 0.5, 0.25 and 1 to the power of 1 / 2.2
+        QImage image(kFrame, QImage::Format_RGB32);
+        image.fill(u"#804020"_s);
+        QVERIFY(image.save(path(u"still.png"_s)));
+        type("framesPath", path(u"still.png"_s));
+        QCOMPARE(m_viewer->calibration().inputGamma(), 1.0F);
+        QCOMPARE(seen(), u"#804020"_s);
+        click("zoomIn");
+        type("framesPath", path(u"shot.####.exr"_s)); // a mask that is typed stands for its sequence
+        QCOMPARE(find<QLabel>("totalFramesLabel")->text(), u"5 frame(s)"_s);
+        QCOMPARE(m_viewer->picture().displayedSize(), kFrame);
         delete m_viewer;
 
         open(u"shot.####.exr"_s, {jobOf(2, 9), chunkOf(7, 3, 4), {}});
@@ -116,6 +126,9 @@ private Q_SLOTS:
         QVERIFY(m_viewer->isVisible());
         QTest::keyClick(m_viewer, Qt::Key_2, Qt::ControlModifier);
         QTRY_VERIFY(find<QToolButton>("redChannelButton")->isChecked());
+        m_viewer->picture().setFocus();
+        press(Qt::Key_Tab);
+        QVERIFY(!m_viewer->picture().hasFocus());
         find("hudButton")->setFocus();
         QCOMPARE(press(Qt::Key_Right), 2);
         QVERIFY(find<QToolButton>("hudButton")->isChecked());
@@ -129,6 +142,7 @@ private Q_SLOTS:
         open(u"shot.0004.exr"_s);
         QCOMPARE(type("fps", u"-5"_s), u"24"_s);
         QCOMPARE(type("fps", u"500.5"_s), u"500.5"_s);
+        QCOMPARE(session().playback().interval(), 1); // milliseconds
         click("playAndStop");
         for (const char *name : {"framesPath", "pickFramesPath", "reloadButton"})
             QVERIFY(!find(name)->isEnabled());
@@ -209,6 +223,51 @@ private Q_SLOTS:
         QVERIFY(!find<QLabel>("imageWarningLabel")->pixmap().isNull());
     }
 
+    void reloadFindsFramesThatCameAndWent()
+    {
+        open(u"shot.0003.exr"_s);
+        writeFrame(path(u"shot.0006.exr"_s), kFrame);
+        QVERIFY(QFile::remove(path(u"shot.0001.exr"_s)));
+        writeFrame(path(u"shot.0003.exr"_s), kFrame, {{"R", 1.0F}, {"G", 1.0F}, {"B", 1.0F}});
+        click("reloadButton");
+        QCOMPARE(find<QLabel>("startFrameLabel")->text() + find<QLabel>("endFrameLabel")->text(),
+                 u"S:(2)E:(6)"_s);
+        QCOMPARE(text("startFrame") + text("endFrame"), u"26"_s);
+        QCOMPARE(frame(), 3);
+        QCOMPARE(seen(), u"#ffffff"_s);
+    }
+
+    void layersOfEachFrame()
+    {
+        const ExrChannels layered{{"R", 1.0F}, {"G", 0.0F}, {"B", 0.0F}, {"Z", 0.25F}};
+        for (const char *name : {"shot.0001.exr", "shot.0003.exr"})
+            writeFrame(path(QLatin1String(name)), kFrame, layered);
+        writeFrame(path(u"shot.0002.exr"_s), kFrame, {{"a.R", 0.5F}, {"R", 1.0F}});
+        open(u"shot.0001.exr"_s);
+        const auto *layers = find<QComboBox>("layersSelector");
+        const auto entries = [layers] {
+            QStringList texts;
+            for (int i = 0; i < layers->count(); ++i)
+                texts += layers->itemText(i) + (i == layers->currentIndex() ? u"*"_s : QString());
+            return texts.join(u' ');
+        };
+        QCOMPARE(entries(), u"RGB* Z"_s);
+        QCOMPARE(seen(), u"#ff0000"_s);
+        find("layersSelector")->setFocus();
+        QTest::keyClick(find("layersSelector"), Qt::Key_Down);
+        QCOMPARE(entries(), u"RGB Z*"_s);
+        QCOMPARE(seen(), u"#888888"_s);
+        m_viewer->picture().setFocus();
+        press(Qt::Key_Right); // without the layer: the file's own first, and the choice stays
+        QCOMPARE(layers->count(), 2);
+        QCOMPARE(seen(), u"#ffffff"_s);
+        press(Qt::Key_Right);
+        QCOMPARE(entries(), u"RGB Z*"_s);
+        QCOMPARE(seen(), u"#888888"_s);
+        type("framesPath", path(u"shot.0005.exr"_s)); // of another sequence nothing was chosen
+        QCOMPARE(entries(), u"RGBA*"_s);
+    }
+
     void layersAndChannels()
     {
         open(u"shot.0001.exr"_s);
@@ -246,8 +305,24 @@ private Q_SLOTS:
         QTRY_COMPARE(picture.displayedSize().width(), picture.viewSize().width());
         m_viewer->resize(1000, 700);
         QTRY_COMPARE(picture.displayedSize().width(), picture.viewSize().width());
-        Q_EMIT menu->aboutToShow();
-        menu->actions().at(2)->trigger();
+        find<QToolButton>("setPixelSize")->menu()->actions().at(1)->trigger();
+        QCOMPARE(picture.displayedSize(), QSize(2000, 500));
+        click("zoomIn"); // locked
+        QCOMPARE(picture.displayedSize(), QSize(2000, 500));
+        find<QToolButton>("setPixelSize")->menu()->actions().at(2)->trigger();
+        const QPoint place(200, 100);
+        QTest::mousePress(&picture, Qt::MiddleButton, {}, place);
+        QTest::mouseMove(&picture, place - QPoint(30, 10));
+        QTest::mouseRelease(&picture, Qt::MiddleButton, {}, place - QPoint(30, 10));
+        const QPoint dragged(bar->value(), find<QScrollBar>("verticalScrollBar")->value());
+        QCOMPARE(dragged, picture.pan());
+        QVERIFY(dragged.x() > 0 && dragged.y() > 0);
+        for (const int turn : {120, -120}) {
+            QWheelEvent wheel(place, picture.mapToGlobal(place), {}, {0, turn}, {}, {}, Qt::NoScrollPhase,
+                              false);
+            QApplication::sendEvent(&picture, &wheel);
+            QCOMPARE(picture.displayedSize(), turn > 0 ? QSize(2400, 600) : QSize(2000, 500));
+        }
         for (int i = 0; i < 100; ++i)
             click("zoomOut");
         QVERIFY(picture.displayedSize().height() * 2 < 64);
@@ -338,6 +413,10 @@ private Q_SLOTS:
         QTRY_VERIFY(picture.isVisible() && picture.width() < m_viewer->width());
         QTest::keyClick(&picture, Qt::Key_Left);
         QCOMPARE(picture.grabPicture(), before);
+        click("fullScreen");
+        QVERIFY(picture.isWindow() && QTest::qWaitForWindowExposed(&picture));
+        QTest::keyClick(&picture, Qt::Key_F11);
+        QVERIFY(!picture.isWindow());
     }
 
     void manyViewers()
@@ -390,6 +469,12 @@ private:
     {
         QTest::keyClick(QApplication::focusWidget(), key);
         return frame();
+    }
+    /// The colour in the middle of the picture.
+    QString seen() const
+    {
+        const QImage picture = m_viewer->picture().grabPicture();
+        return picture.pixelColor(picture.rect().center()).name();
     }
     QString path(const QString &name) const { return m_folder->filePath(name); }
 
