@@ -148,18 +148,6 @@ private Q_SLOTS:
         QCOMPARE(m_link->payloads(), (QList<QByteArray>{"global:bad", "job:bad", "global:good", "job:good"}));
     }
 
-    void handsOverText()
-    {
-        writeFile(userFile(u"x.py"_qs), recorder("x", "0"));
-        Templates templates;
-        load(templates);
-        const char raw[] = {'a', 'b', 'c'};
-        for (const QByteArray &text : {QByteArray::fromRawData(raw, 2), QByteArray("a\0b", 3), QByteArray(),
-                                       QByteArray("\xff\xfe \n\x01")})
-            templates.invokeCustomMessage(0, text);
-        QCOMPARE(m_link->payloads(), (QList<QByteArray>{"x:ab", "x:a", "x:", "x:\xff\xfe \n\x01"}));
-    }
-
 private:
     QString userFile(const QString &name) const
     {

@@ -110,23 +110,6 @@ private Q_SLOTS:
         QCOMPARE(job.attributeGetString("k"), std::string("v"));
     }
 
-    void jobTruncated()
-    {
-        const TJob whole = sampleJob();
-        const Values values = valuesOf(whole.Marshall());
-        const std::size_t attributesFrom = 8 + 3 * whole.GetFrameRanges().size() + 1;
-        for (std::size_t cut = 1; cut <= values.size(); ++cut) {
-            TJob job;
-            QVERIFY(job.Unmarshall(Values(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(cut)),
-                                   nullptr));
-            QCOMPARE(job.getJobId(), cut > 1 ? whole.getJobId() : 0);
-            QCOMPARE(job.getTasksMask(), cut > 6 ? whole.getTasksMask() : 0U);
-            QCOMPARE(job.GetFrameRanges().size(), std::min<std::size_t>(2, cut < 8 ? 0 : (cut - 8) / 3));
-            const std::size_t attributes = cut < attributesFrom ? 0 : (cut - attributesFrom) / 2;
-            QCOMPARE(valuesOf(job.Marshall()).size(), 9 + 3 * job.GetFrameRanges().size() + 2 * attributes);
-        }
-    }
-
     void jobHostile()
     {
         TJob job = sampleJob();

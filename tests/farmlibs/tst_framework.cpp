@@ -94,20 +94,6 @@ private Q_SLOTS:
             QVERIFY2(TFileSystem::GetFileFromMask(other, 1).empty(), other);
     }
 
-    void paths()
-    {
-        const std::tuple<std::string, std::string, std::string, std::string> joins[] = {
-            {"/a", "b", "/a/b", "/a"}, {"/a//", "//b", "/a/b", "/a"},
-            {"/", "b", "/b", "/"},     {"", "b", "b", ""},
-            {"/a/", "", "/a/", "/a"},  {"a", "/", "a/", "a"},
-            {"", "", "", ""},          {"/\xff", "\xc3.exr", "/\xff/\xc3.exr", "/\xff"}};
-        for (const auto &[folder, name, path, folderAgain] : joins) {
-            QCOMPARE(bytes(TFileSystem::JoinPath(folder, name)), bytes(path));
-            QCOMPARE(bytes(TFileSystem::GetFilePath(path)), bytes(folderAgain));
-        }
-        QCOMPARE(TFileSystem::GetFilePath("/a/" + std::string(5000, 'x')), ""); // no system has it
-    }
-
     void foldersAndFiles()
     {
         const QTemporaryDir home;
@@ -133,12 +119,7 @@ private Q_SLOTS:
         QVERIFY(!TFileSystem::MakeDirectory(folder + "/x.py/sub", true));
         QCOMPARE(FarmHelpers::listDirectory(folder), (Names{odd, "dangling", "sub", "x.py"}));
         QVERIFY(std::filesystem::remove(file)); // QTemporaryDir cannot name it
-
-        for (const std::string &path : {std::string(), folder + "/none/deeper", folder + std::string("\0", 1),
-                                        std::string(5000, 'x')}) {
-            QVERIFY(FarmHelpers::listDirectory(path).empty() && !TFileSystem::CheckFile(path));
-            QVERIFY(!TFileSystem::MakeDirectory(path, false));
-        }
+        QCOMPARE(TFileSystem::GetFilePath("/a/" + std::string(5000, 'x')), ""); // no system has it
     }
 
     void base64()
@@ -148,11 +129,6 @@ private Q_SLOTS:
             {"\xff\x80Zm_-9v", "foo"},     {"====", ""}};
         for (const auto &[text, plain] : texts)
             QCOMPARE(bytes(TStringHelper::FromBase64(text)), QByteArray(plain));
-        QByteArray all;
-        for (int i = 0; i < 256; ++i) {
-            QCOMPARE(bytes(TStringHelper::FromBase64(all.toBase64().toStdString())), all);
-            all.prepend(static_cast<char>(i));
-        }
     }
 
     void texts()

@@ -220,21 +220,6 @@ private Q_SLOTS:
             QVERIFY(m_dialog->rect().contains(button->geometry().translated(button->parentWidget()->pos())));
     }
 
-    void buttonsAndKeysEndIt()
-    {
-        const QSignalSpy finished(m_dialog.get(), &QDialog::finished);
-        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
-            m_dialog->show();
-            QTest::keyClick(child<QLineEdit>(u"dispatcherPort"_s), key);
-        }
-        for (const auto button : {QDialogButtonBox::Ok, QDialogButtonBox::Cancel}) {
-            m_dialog->show();
-            QTest::mouseClick(child<QDialogButtonBox>(u"buttonBox"_s)->button(button), Qt::LeftButton);
-        }
-        const QList<QVariantList> &results = finished;
-        QCOMPARE(results, (QList<QVariantList>{{1}, {0}, {1}, {0}}));
-    }
-
     void pickersFillTheirField_data()
     {
         const QStringList sounds{u"Audio Files (*.wav)"_s};

@@ -10,8 +10,6 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 
-#include <functional>
-
 #include <dlfcn.h>
 
 /// Writes a file and the folders above it.
@@ -55,7 +53,6 @@ public:
 
     QList<Message> messages;
     bool accepts = true;
-    std::function<void()> whileSending;
 
 private:
     static bool send(void *owner, std::uint32_t command, const char *payload, std::size_t size,
@@ -63,8 +60,6 @@ private:
     {
         auto *link = static_cast<RecordedLink *>(owner);
         link->messages.append({command, QByteArray(payload, qsizetype(size)), param});
-        if (link->whileSending)
-            link->whileSending();
         return link->accepts;
     }
 

@@ -85,8 +85,6 @@ private Q_SLOTS:
         addTable<QString, int>({"keys", "expected"},
                                {{"enter", u"Return"_qs, 0x4000},
                                 {"keypad enter on the next", u"Tab KP_Enter"_qs, 0x10000},
-                                {"space", u"Tab Tab space"_qs, 0x400000},
-                                {"space on the fourth", u"Tab Tab Tab space"_qs, 0x40000},
                                 {"space on the last", u"shift+Tab space"_qs, 0x400},
                                 {"escape", u"Tab Escape"_qs, 0}});
     }

@@ -128,12 +128,8 @@ private Q_SLOTS:
         addTable<Border::Position, QPoint, QRect, int>(
             {"position", "by", "expected", "button"},
             {{"top up", Border::Top, {30, -40}, {200, 110, 400, 340}, 1},
-             {"bottom down", Border::Bottom, {30, 40}, {200, 150, 400, 340}, 1},
              {"left outwards", Border::Left, {-30, 40}, {170, 150, 430, 300}, 1},
-             {"right inwards", Border::Right, {-30, 40}, {200, 150, 370, 300}, 1},
              {"top left inwards", Border::TopLeft, {30, 40}, {230, 190, 370, 260}, 1},
-             {"top right outwards", Border::TopRight, {30, -40}, {200, 110, 430, 340}, 1},
-             {"bottom left outwards", Border::BottomLeft, {-30, 40}, {170, 150, 430, 340}, 1},
              {"bottom right inwards", Border::BottomRight, {-30, -40}, {200, 150, 370, 260}, 1},
              {"top left below the minimum", Border::TopLeft, {300, 280}, {350, 250, 250, 200}, 1},
              {"top left beyond the maximum", Border::TopLeft, {-190, -140}, {100, 50, 500, 400}, 1},
