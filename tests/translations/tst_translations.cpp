@@ -20,7 +20,9 @@ class TranslationsTest final : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
+        QApplication::setFont(QFont(QStringLiteral("Lato")));
         Look::installFonts();
+        Look::installPalette();
         Look::installStyle(*qApp);
     }
     void cleanup() { qDeleteAll(qApp->findChildren<QTranslator *>()); }

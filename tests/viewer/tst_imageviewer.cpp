@@ -13,10 +13,12 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QPointer>
+#include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QWheelEvent>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QColorDialog>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -86,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(text("framesPath"), path(u"shot.####.exr"_s));
         QVERIFY(find<QLabel>("infoLabel")->text().startsWith(u"VRAM Cache Usage: 0.00% RAM"_s));
         QVERIFY(m_totals.videoMemoryUsed > 0);
-        QVERIFY(find("imageMarker")->isHidden());
+        QVERIFY(find("imageMarker")->isHidden() && find("progressBar")->isHidden());
         // In the middle of the picture, by the formats' own import gamma.
         QCOMPARE(m_viewer->calibration().inputGamma(), 2.2F);
         QCOMPARE(seen(), u"#ba88ff"_s); // 0.5, 0.25 and 1 to the power of 1 / 2.2
@@ -140,7 +142,7 @@ private Q_SLOTS:
     void playback()
     {
         open(u"shot.0004.exr"_s);
-        QCOMPARE(type("fps", u"-5"_s), u"24"_s);
+        QCOMPARE(type("fps", u"0"_s), u"24"_s);
         QCOMPARE(type("fps", u"500.5"_s), u"500.5"_s);
         QCOMPARE(session().playback().interval(), 1); // milliseconds
         click("playAndStop");
@@ -266,6 +268,41 @@ private Q_SLOTS:
         QCOMPARE(seen(), u"#888888"_s);
         type("framesPath", path(u"shot.0005.exr"_s)); // of another sequence nothing was chosen
         QCOMPARE(entries(), u"RGBA*"_s);
+    }
+
+    void framesComeBackFromMainMemory()
+    {
+        m_totals.videoMemoryBudget = 0;
+        open(u"shot.0001.exr"_s);
+        press(Qt::Key_Right);
+        QVERIFY(QFile::remove(path(u"shot.0001.exr"_s)));
+        press(Qt::Key_Left);
+        QCOMPARE(seen(), u"#ba88ff"_s);
+    }
+
+    void backgroundAndBlending()
+    {
+        writeFrame(path(u"half.exr"_s), kFrame, {{"R", 0.5F}, {"G", 0.0F}, {"B", 0.0F}, {"A", 0.5F}});
+        open(u"half.exr"_s);
+        const QString blended = seen();
+        click("compositeButton");
+        QVERIFY(seen() != blended);
+        click("checkerButton");
+        QCOMPARE(seen(), u"#ba0000"_s); // its colour as it is stored, whatever lies below
+        const auto corner = [this] { return m_viewer->picture().grabFramebuffer().pixelColor(0, 0).name(); };
+        const QString before = corner();
+        for (const bool accepts : {false, true}) {
+            QString during;
+            whenModalOpens([&](QWidget *dialog) {
+                qobject_cast<QColorDialog *>(dialog)->setCurrentColor(u"#102030"_s);
+                during = corner();
+                QTest::keyClick(dialog, accepts ? Qt::Key_Return : Qt::Key_Escape);
+            });
+            click("backgroundColorButton");
+            QTRY_VERIFY(!QApplication::activeModalWidget() && !during.isEmpty());
+            QCOMPARE(during, u"#102030"_s);
+            QCOMPARE(corner(), accepts ? during : before);
+        }
     }
 
     void layersAndChannels()
@@ -394,6 +431,24 @@ private Q_SLOTS:
         answer(u"skinnedMessageBoxYes"_s);
         QVERIFY(session().marking().markedFrames().isEmpty() && session().marking().markedChunks().isEmpty());
         QVERIFY(!find("clearMarkingsButton")->isEnabled());
+    }
+
+    void opensAsItWasLeft()
+    {
+        open(u"shot.0001.exr"_s)->setGeometry(120, 90, 800, 600);
+        whenModalOpens([this](QWidget *chooser) {
+            auto *name = chooser->findChild<QLineEdit *>(u"fileNameEdit"_s);
+            name->setText(path(u"shot.0002.exr"_s));
+            QTest::keyClick(name, Qt::Key_Return);
+        });
+        click("pickFramesPath");
+        QCOMPARE(frame(), 2);
+        QVERIFY(!QSettings().value(u"fileSelectorsCaches/ImageViewer"_s).toByteArray().isEmpty());
+        m_viewer->close();
+        QTRY_VERIFY(!m_viewer);
+        ImageViewer again(m_totals, {});
+        QCOMPARE(again.geometry(), QRect(120, 90, 800, 600));
+        QSettings().clear();
     }
 
     void fullScreen()
