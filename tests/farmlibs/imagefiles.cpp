@@ -35,7 +35,7 @@ Imf::Header headerOf(const ExrSpec &spec)
     Imf::Header header(spec.display, spec.data, 1, {0, 0}, 1, spec.order, spec.compression);
     for (const ExrChannelSpec &channel : spec.channels)
         header.channels().insert(channel.name,
-                                 Imf::Channel(channel.type, channel.sampling, channel.sampling));
+                                 Imf::Channel(channel.type, channel.sampling.x, channel.sampling.y));
     header.setType(spec.tiled ? Imf::TILEDIMAGE : Imf::SCANLINEIMAGE);
     if (spec.tiled)
         header.setTileDescription(Imf::TileDescription(16, 16));
@@ -51,12 +51,12 @@ void writePart(Imf::MultiPartOutputFile &file, int part, const ExrSpec &spec)
     Imf::FrameBuffer buffer;
     for (std::size_t i = 0; i < planes.size(); ++i) {
         const auto &[name, type, step] = spec.channels[i];
-        for (int y = data.min.y; y <= data.max.y; y += step) {
-            for (int x = data.min.x; x <= data.max.x; x += step)
+        for (int y = data.min.y; y <= data.max.y; y += step.y) {
+            for (int x = data.min.x; x <= data.max.x; x += step.x)
                 planes[i].push_back(sampleBits(testValue(x, y, int(i)), type));
         }
-        const auto columns = std::size_t(data.max.x - data.min.x) / std::size_t(step) + 1;
-        buffer.insert(name, Imf::Slice::Make(type, planes[i].data(), data, 4, 4 * columns, step, step));
+        const auto columns = std::size_t(data.max.x - data.min.x) / std::size_t(step.x) + 1;
+        buffer.insert(name, Imf::Slice::Make(type, planes[i].data(), data, 4, 4 * columns, step.x, step.y));
     }
     const int rows = spec.data.max.y - spec.data.min.y + 1;
     if (spec.tiled) {

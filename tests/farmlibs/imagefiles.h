@@ -4,6 +4,7 @@
 #include <image_library/iimagecore.h>
 
 #include <ImathBox.h>
+#include <ImathVec.h>
 #include <ImfCompression.h>
 #include <ImfLineOrder.h>
 #include <ImfPixelType.h>
@@ -36,7 +37,7 @@ float testValue(int x, int y, int channel = 0);
 struct ExrChannelSpec {
     std::string name;
     Imf::PixelType type = Imf::HALF;
-    int sampling = 1;
+    Imath::V2i sampling{1, 1};
 };
 
 struct ExrSpec {

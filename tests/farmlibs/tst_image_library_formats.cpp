@@ -251,7 +251,7 @@ private Q_SLOTS:
     {
         const ImageFolder folder;
         ExrSpec spec;
-        spec.channels = {{"RY", Imf::HALF, 2}, {"Y"}};
+        spec.channels = {{"RY", Imf::HALF, {2, 2}}, {"Y"}};
         writeExr(folder("a.exr"), spec);
         const Image image = loadImage(folder("a.exr"), {"RY", "Y"});
         CTImage *made = nullptr;

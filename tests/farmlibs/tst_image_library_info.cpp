@@ -34,8 +34,9 @@ private Q_SLOTS:
     {
         ExrSpec spec;
         // More layers than are decoded at once, with one float and one integer among the halves.
-        spec.channels = {{"A"},   {"B"},   {"BY", Imf::HALF, 2}, {"G"}, {"R"}, {"Z", Imf::FLOAT}, {"a.R"},
-                         {"b.R"}, {"c.R"}, {"id", Imf::UINT}};
+        spec.channels = {
+            {"A"},   {"B"},   {"BY", Imf::HALF, {2, 2}}, {"G"}, {"R"}, {"Z", Imf::FLOAT}, {"a.R"},
+            {"b.R"}, {"c.R"}, {"id", Imf::UINT}};
         writeExr(m_folder("a.exr"), spec);
         QVERIFY(writeImage(m_folder("a.png"), OIIO::ImageSpec(40, 30, 3, OIIO::TypeDesc::UINT8)));
         QVERIFY(writeBytes(m_folder("bad.exr"), readBytes(m_folder("a.exr")).left(2000)));

@@ -91,21 +91,24 @@ private Q_SLOTS:
         writeFile(foreign.filePath(u"modules/json.py"_qs), "raise SystemExit");
         const QByteArray path = qgetenv("PATH");
         qputenv("PATH", QFile::encodeName(foreign.filePath(u"bin"_qs)) + ':' + path);
+        qputenv("LC_ALL", "C");
         qputenv("PYTHONHOME", QFile::encodeName(foreign.path()));
         qputenv("PYTHONPATH", QFile::encodeName(foreign.filePath(u"modules"_qs)));
         {
             Engine engine;
             RecordedLink link;
-            QVERIFY(engine.load(u"x.py"_qs,
-                                hook("import json, os, site, sys\n"
-                                     "alertor.send(1, (os.__file__ + json.__file__).encode())\n"
-                                     "alertor.send(1, repr(site.ENABLE_USER_SITE).encode())")));
+            QVERIFY(engine.load(
+                u"x.py"_qs,
+                hook("import json, os, site, sys\n"
+                     "alertor.send(1, (os.__file__ + json.__file__).encode())\n"
+                     "alertor.send(1, f'{site.ENABLE_USER_SITE} {sys.stdout.encoding}'.encode())")));
             QCOMPARE(engine.call(12), std::nullopt);
             QCOMPARE(link.messages.size(), 2);
             QVERIFY(!link.messages[0].payload.contains(foreign.path().toUtf8()));
-            QCOMPARE(link.messages[1].payload, QByteArray("False"));
+            QCOMPARE(link.messages[1].payload, QByteArray("False utf-8"));
         }
         qputenv("PATH", path);
+        qputenv("LC_ALL", "C.UTF-8");
         qunsetenv("PYTHONHOME");
         qunsetenv("PYTHONPATH");
     }

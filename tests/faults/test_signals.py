@@ -6,8 +6,8 @@ import signal
 import sys
 import threading
 
-from desktop import READY, alertor, starting_alertor
-from farmtest import check, equal, run, stored_settings, write_settings
+from desktop import READY, alertor, starting_alertor, write_template
+from farmtest import check, equal, run, stored_settings, wait_for, write_settings
 
 # The third argument, or a few for the suite.
 ROUNDS = int(sys.argv[3]) if len(sys.argv) > 3 else 12
@@ -35,6 +35,18 @@ def longest_start():
     return steps / 100
 
 
+def twice_ends_at_once():
+    """A template that never returns: the first request waits for it, the second does not."""
+    write_template("endless.py", "import time\nprint('loading', flush=True)\nwhile True:\n    time.sleep(1)\n")
+    program = starting_alertor()
+    program.expect("^loading$")
+    os.kill(program.pid, signal.SIGTERM)
+    wait_for(lambda: not is_caught(program.pid, signal.SIGTERM), "the first request to be noted")
+    os.kill(program.pid, signal.SIGTERM)
+    equal(program.exit_code(), -signal.SIGTERM, "exit code after the second request")
+    write_template("endless.py", "")
+
+
 def test():
     # A shell ignores it for what it runs in the background, and so would the client until its main function runs.
     signal.signal(signal.SIGINT, signal.SIG_DFL)
@@ -55,6 +67,7 @@ def test():
         early += code == -request
         check(code == 0 or (code == -request and not caught), f"exit code {code} of {request.name} after {moment:.3f} s")
         equal(stored_settings(), settings, f"settings of {request.name} after {moment:.3f} s")
+    twice_ends_at_once()
     # What was left behind is no hindrance.
     alertor().quit()
     print(f"{turn + 1} requests over {span:.1f} s, {early} of them before the program's own code ran")

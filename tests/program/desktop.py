@@ -24,8 +24,7 @@ def write_template(name, text):
 
 
 def splash_is_up():
-    """The splash has the window's title, and is known by its type."""
-    types = [["xprop", "-id", window, "_NET_WM_WINDOW_TYPE"] for window in windows(WINDOW)]
+    types = [["xprop", "-id", window, "_NET_WM_WINDOW_TYPE"] for window in client_windows()]
     return any(
         "_TYPE_SPLASH" in subprocess.run(command, capture_output=True, text=True, check=False).stdout for command in types
     )

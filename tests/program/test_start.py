@@ -7,7 +7,7 @@ import socket
 import subprocess
 
 import farmtest
-from desktop import alertor, click_icon, client_windows, second_start, starting_alertor, write_template, xdotool
+from desktop import alertor, click_icon, client_windows, second_start, splash_is_up, starting_alertor, write_template, xdotool
 from farmtest import PATIENCE, PRODUCT, VERSION, check, equal, farm, run, stored_settings, wait_for, windows, write_settings
 
 KEPT_OPEN = []
@@ -61,12 +61,24 @@ def a_second_start_gives_the_hint_again():
     first.quit()
 
 
+def screen_without_panel():
+    return subprocess.run(["import", "-window", "root", "-crop", "1280x700+0+0", "ppm:-"], capture_output=True, check=True).stdout
+
+
 def during_the_splash():
-    write_template("slow.py", "import time\nprint('loading', flush=True)\ntime.sleep(1)\n")
+    gate = os.path.join(os.environ["HOME"], "gate")
+    loading = "import os, time\nprint('loading', flush=True)\n"
+    write_template("slow.py", loading + f"while not os.path.exists({gate!r}): time.sleep(0.01)\n")
+    write_template("then.py", loading + f"os.remove({gate!r})\ntime.sleep(1)\n")
     # The splash tells of this one next, and handles what has come meanwhile.
-    write_template("then.py", "")
+    write_template("usual.py", "")
     program = starting_alertor()
     program.expect("^loading$")
+    wait_for(splash_is_up, "the splash")
+    naming_the_first = screen_without_panel()
+    open(gate, "w", encoding="utf-8").close()
+    program.expect("^loading$", 2)
+    check(screen_without_panel() != naming_the_first, "the splash does not name the template that is loaded")
     return program
 
 
@@ -79,7 +91,8 @@ def asks_for_a_connection(pid):
 
 
 def while_connecting():
-    write_template("slow.py", "")
+    for name in ("slow.py", "then.py"):
+        write_template(name, "")
     # Of a full queue the system drops every further request: the client keeps asking.
     server = socket.create_server(("127.0.0.1", 0), backlog=0)
     fillers = [socket.socket() for _ in range(4)]
@@ -101,9 +114,16 @@ def with_a_box_open():
 
 
 def with_a_dialog_open():
+    """Closing the only window that shows ends nothing: it opens once more."""
     program = with_the_menu_open()
     xdotool("key", "c")
     wait_for(lambda: windows("Alertor Preferences"), "the preferences")
+    xdotool("search", "--name", "^Alertor Preferences$", "windowactivate", "--sync")
+    xdotool("key", "Escape")
+    wait_for(lambda: not windows("Alertor Preferences"), "the preferences to go")
+    click_icon(3, 1, lambda: len(client_windows()) == 2, "the tray menu once more")
+    xdotool("key", "c")
+    wait_for(lambda: windows("Alertor Preferences"), "the preferences once more")
     return program
 
 

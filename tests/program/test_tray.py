@@ -1,5 +1,6 @@
 """The window and the icon on a desktop without a tray, with one that comes late, and with one that dies."""
 
+import os
 import subprocess
 
 from desktop import WINDOW, alertor, choose_in_menu, click_icon, client_windows, icon_position, second_start, tray, xdotool
@@ -44,8 +45,22 @@ def with_a_tray():
     click_icon(1, 2, lambda: windows(WINDOW), "the window after a double click")
 
 
+def brings_its_fonts():
+    """Where the system has none, texts are letters all the same: their edges are smooth, in many colours."""
+    none = os.path.join(os.environ["HOME"], "fonts.conf")
+    with open(none, "w", encoding="utf-8") as file:
+        file.write("<fontconfig/>")
+    program = alertor(FONTCONFIG_FILE=none)
+    window = wait_for(lambda: windows(WINDOW), "the window")[-1]
+    command = ["import", "-window", window, "-format", "%k", "info:"]
+    colours = int(subprocess.run(command, capture_output=True, check=True, text=True).stdout)
+    check(colours > 40, f"the window without fonts has {colours} colours")
+    program.quit()
+
+
 def test():
     write_settings({"behaviours": {"showBubble": "false"}})
+    brings_its_fonts()
     program = alertor()
     without_a_tray()
     for _ in range(2):

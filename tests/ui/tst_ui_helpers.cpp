@@ -47,6 +47,9 @@ private Q_SLOTS:
             QImage shown = pixmap.toImage().convertToFormat(drawn.format());
             shown.setDevicePixelRatio(1);
             QCOMPARE(shown, drawn);
+            const QPixmap disabled =
+                svgIcon(written(m_folder, kTriangle)).pixmap(QSize(size, size), scale, QIcon::Disabled);
+            QVERIFY(disabled.toImage().pixelColor(pixmap.rect().center()).saturation() < 60);
         }
     }
 
