@@ -263,10 +263,6 @@ private Q_SLOTS:
             QCOMPARE(std::count(told.begin(), told.end(), 1.0F), 1);
             QCOMPARE(told.back(), 1.0F);
         }
-        // Nothing stays on screen when there is not even a file.
-        told.clear();
-        QVERIFY(!Image(IImageCore::Load(folder("none.exr").c_str(), "exr", {"R"}, note, &told)));
-        QCOMPARE(told, std::vector<float>{1.0F});
     }
 };
 

@@ -65,17 +65,11 @@ private Q_SLOTS:
         QCOMPARE(reports.size(), 2);
         QCOMPARE(reports[0][u"format"].toString(), QStringLiteral("exr"));
         QVERIFY(reports[1].toObject().contains(u"error"));
-        QStringList types;
-        QJsonObject chroma;
-        for (const QJsonValue layer : reports[0][u"layers"].toArray()) {
-            types.append(layer[u"name"].toString() + u' ' + layer[u"channels"][0][u"type"].toString());
-            if (types.constLast() == QStringLiteral("BY half"))
-                chroma = layer[u"channels"][0].toObject();
-        }
-        QCOMPARE(types.join(u", "),
-                 QStringLiteral("A half, B half, BY half, G half, R half, Z float, a.R half, "
-                                "b.R half, c.R half, id float"));
-        QCOMPARE(QSize(chroma[u"width"].toInt(), chroma[u"height"].toInt()), QSize(20, 15));
+        const QJsonValue chroma = reports[0][u"layers"][2];
+        QCOMPARE(chroma[u"name"].toString() + chroma[u"channels"][0][u"type"].toString(),
+                 QStringLiteral("BYhalf"));
+        QCOMPARE(chroma[u"channels"][0][u"width"].toInt(), 20);
+        QCOMPARE(chroma[u"channels"][0][u"height"].toInt(), 15);
     }
 
     void exitStatus()

@@ -9,6 +9,7 @@
 #include <notify/eventsview.h>
 #include <notify/resultopener.h>
 #include <ui/product.h>
+#include <viewer/calibrationpanel.h>
 #include <viewer/imageviewer.h>
 #include <viewer/session/viewersession.h>
 
@@ -257,7 +258,10 @@ private Q_SLOTS:
         job.attributeSetString("frames_mask", "/f/a.####.exr");
         farm.send(farm::notification(1, &job));
         farm.send(farm::notification(512));
-        QTRY_COMPARE(farm.alertor.events().size(), 2);
+        TClientLib::TJob bare = farm::job();
+        bare.attributeSetString("output_folder", "/out");
+        farm.send(farm::notification(1, &bare));
+        QTRY_COMPARE(farm.alertor.events().size(), 3);
         const auto openedOn = [&farm](int row) {
             row < 0 ? farm.list()->clearSelection() : farm.click(row);
             QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, QCursor::pos());
@@ -274,6 +278,7 @@ private Q_SLOTS:
             "selection\tDEL|Remove all"_s);
         farm.menu("listMenu")->actions().first()->trigger();
         QVERIFY(farm.alertor.events().at(0).acknowledged);
+        QVERIFY(openedOn(2).contains(u"&Open output folder|&Remove"_s));
         QVERIFY(openedOn(0).startsWith(u"&Open output folder"_s));
     }
 
@@ -464,13 +469,16 @@ private Q_SLOTS:
         QSettings().setValue(u"imageViewer/imageViewerMode"_s, 1);
         QSettings().setValue(u"imageViewer/launchImageViewer"_s, true);
         Farm automatic(u"imageViewer/imageViewer"_s, viewer);
-        const TClientLib::TJob still = farm::stillJob("/f/still.exr");
+        TClientLib::TJob still = farm::stillJob("/f/still.exr");
+        still.setStatus(2048);
         automatic.send(farm::notification(1, &still));
         QCOMPARE(opened(), "1|/f/still.exr");
 
         const auto saidBy = [&farm](void (Alertor::*act)()) {
             QString said;
             whenModalOpens([&said](QWidget *box) {
+                const auto *plain = qobject_cast<QMessageBox *>(box);
+                QVERIFY(!plain || plain->textFormat() == Qt::PlainText);
                 for (const QLabel *label : box->findChildren<QLabel *>())
                     said += label->text();
                 QTest::keyClick(box->focusWidget(), Qt::Key_Return);
@@ -505,7 +513,10 @@ private Q_SLOTS:
         TClientLib::TJob job = farm::job();
         job.attributeSetString("frames_mask", folder.filePath(u"a.####.exr"_s).toStdString());
         job.setFrameRanges({{5, 9, 1}});
-        const TClientLib::TJob still = farm::stillJob(folder.filePath(u"still.exr"_s).toStdString());
+        const QString picture = folder.filePath(u"still.png"_s);
+        QVERIFY(QImage(10, 10, QImage::Format_RGB32).save(picture));
+        const TClientLib::TJob still = farm::stillJob(picture.toStdString());
+        QSettings().setValue(u"imageViewer/imageViewerMaxGPUCache"_s, 4000);
         TClientLib::TChunk chunk = farm::chunk();
         chunk.setFrames(5, 6, 1);
         Farm notAsked;
@@ -531,7 +542,11 @@ private Q_SLOTS:
         QTRY_COMPARE(farm.alertor.events().size(), 27);
         QTRY_COMPARE(viewers().size(), 20); // and no more by themselves
         QVERIFY(QString::fromStdString(viewers().last()->session().sequence().framesPath)
-                    .endsWith(u"still.exr"_s));
+                    .endsWith(u"still.png"_s));
+        // The budgets and the gammas are those of the preferences, each its own.
+        QTRY_COMPARE(viewers().last()->findChild<QLabel *>(u"infoLabel"_s)->text(),
+                     u"VRAM Cache Usage: 97.50% RAM Cache Usage: 0.00% "_s);
+        QCOMPARE(viewers().last()->calibration().inputGamma(), 1.0F);
         farm.alertor.openImageViewer();
         QVERIFY(viewers().last()->session().sequence().framesPath.empty());
         QCOMPARE(notAsked.alertor.events().size(), 1);

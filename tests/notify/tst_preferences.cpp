@@ -177,18 +177,6 @@ private Q_SLOTS:
         }
     }
 
-    void everyLabelLeadsToItsField()
-    {
-        const auto labels = child<QWidget>(u"contents"_s)->findChildren<QLabel *>();
-        QCOMPARE(labels.size(), 8);
-        for (const QLabel *label : labels) {
-            QVERIFY2(label->buddy(), qPrintable(label->text()));
-            const int offset = label->buddy()->mapTo(m_dialog.get(), QPoint()).y()
-                - label->mapTo(m_dialog.get(), QPoint()).y();
-            QVERIFY2(qAbs(offset) < label->buddy()->height(), qPrintable(label->text()));
-        }
-    }
-
     void choosesTheViewerMode()
     {
         auto *mode = child<QComboBox>(u"imageViewerMode"_s);

@@ -147,25 +147,6 @@ private Q_SLOTS:
         }
     }
 
-    void refusesWhatIsNoCipherText()
-    {
-        QLoggingCategory::setFilterRules(u"tarrow.settings.debug=true"_s);
-        const auto quiet = qScopeGuard([] { QLoggingCategory::setFilterRules(QString()); });
-        for (const QString &text :
-             {QString(), u"\u20ac%&/"_s, u"secret"_s, u"AgIokMOdxE4rFe4="_s, u"AwI="_s}) {
-            QTest::ignoreMessage(QtDebugMsg, "Invalid version or not a cyphertext.");
-            QCOMPARE(cipher().decipher(text), QString());
-        }
-    }
-
-    void drawsTheRandomByteAnew()
-    {
-        QSet<QString> cipherTexts;
-        for (int i = 0; i < 64; ++i)
-            cipherTexts += SettingsCipher().encipher(u"secret"_s);
-        QVERIFY(cipherTexts.size() > 16);
-    }
-
     void readsAndWritesEveryKey()
     {
         const std::tuple<const char *, const char *, const char *> keys[] = {

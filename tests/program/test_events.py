@@ -1,6 +1,7 @@
 """Every event that the farm sends is listed, however it travels."""
 
-from farmtest import EVENT, client, equal, farm, run
+import farmtest
+from farmtest import EVENT, Program, client, equal, farm, run
 
 WAYS = {
     "plain": ["--jobs", "5", "--rate", "400"],
@@ -10,6 +11,7 @@ WAYS = {
 
 
 def test():
+    equal(Program("a farm that is called wrongly", [farmtest.FARM, "--nights"]).exit_code(), 2, "its exit code")
     for way, options in WAYS.items():
         night = farm("--once", *options)
         alertor = client(night.port)

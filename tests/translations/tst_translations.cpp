@@ -43,14 +43,6 @@ private Q_SLOTS:
         QTEST(TrayMenu(nullptr).quit->text().toLatin1(), "quit");
     }
 
-    void codeIsChecked()
-    {
-        QVERIFY(installLanguage(QString()));
-        QVERIFY(!installLanguage(QStringLiteral("sv")));
-        QVERIFY(!installLanguage(QStringLiteral("../de")));
-        QCOMPARE(TrayMenu(nullptr).quit->text(), QStringLiteral("&Quit"));
-    }
-
     void everyLanguage_data()
     {
         addTable<int>({"none"}, {{"de", 0}, {"es", 0}, {"fr", 0}, {"it", 0}, {"ja", 0}});

@@ -123,25 +123,6 @@ private Q_SLOTS:
         }
     }
 
-    void boxIsModalOnTopAndManaged()
-    {
-        QWidget parent;
-        parent.setGeometry(500, 300, 500, 400);
-        parent.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&parent));
-        whenModalOpens([&](QWidget *box) {
-            QCOMPARE(int(box->windowFlags()), 0x40C03);
-            QCOMPARE(box->windowModality(), Qt::ApplicationModal);
-            QTRY_VERIFY(xuser::isManagedAndActive(*box));
-            QVERIFY(xuser::ask(QStringLiteral("xprop -id %1 _NET_WM_STATE").arg(box->winId()))
-                        .contains(QLatin1String("_NET_WM_STATE_ABOVE")));
-            const QPoint off = xuser::geometry(*box).center() - parent.geometry().center();
-            QVERIFY(off.manhattanLength() <= 40);
-            box->close();
-        });
-        ask(QMessageBox::Ok, &parent);
-    }
-
     void textIsShownAsItStands()
     {
         const QString text = QStringLiteral("<b>Cannot open</b> output folder\n/farm/a & b");

@@ -28,16 +28,8 @@ class Dialog : public QSkinnedDialog {
 public:
     using QSkinnedDialog::QSkinnedDialog;
     int closes = 0;
-    QRect madeAt;
 
 protected:
-    bool event(QEvent *event) override
-    {
-        if (event->type() == QEvent::WinIdChange && internalWinId())
-            madeAt = geometry();
-        return QSkinnedDialog::event(event);
-    }
-
     void closeEvent(QCloseEvent *event) override
     {
         ++closes;
@@ -107,19 +99,6 @@ private Q_SLOTS:
                          == QColor(200, 100, 0),
                      name);
         }
-    }
-
-    // Moved there later, from a screen of another scale, it would be scaled twice.
-    void nativeWindowIsMadeOverTheParent()
-    {
-        QWidget parent;
-        parent.setGeometry(kPlace);
-        parent.show();
-        Dialog dialog(&parent);
-        dialog.resize(300, 200);
-        dialog.show();
-        QCOMPARE(dialog.madeAt, QRect(QPoint(250, 200), QSize(300, 200)));
-        QTRY_VERIFY(kPlace.contains(xuser::geometry(dialog).center()));
     }
 
     void borderDragResizes_data()

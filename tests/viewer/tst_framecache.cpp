@@ -118,21 +118,6 @@ private Q_SLOTS:
         QVERIFY(!display.shown);
     }
 
-    void windowsShareTotals()
-    {
-        CacheTotals totals{0, 0, 25, 0};
-        Window first(totals);
-        first.insert('a');
-        {
-            Window second(totals);
-            for (const char path : {'b', 'c', 'd'})
-                second.insert(path);
-            QCOMPARE(second.state(), QByteArray("cV dV")); // a window evicts its own frames alone
-        }
-        QCOMPARE(first.state(), QByteArray("aV"));
-        QCOMPARE(totals.videoMemoryUsed, kFrameBytes);
-    }
-
     void status()
     {
         QCOMPARE((CacheTotals{333, 3, 1000, 2}.statusText()),

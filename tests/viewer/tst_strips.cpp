@@ -7,7 +7,6 @@
 #include <QtGui/QImage>
 #include <QtTest/QTest>
 
-#include <limits>
 #include <memory>
 
 namespace {
@@ -75,25 +74,6 @@ private Q_SLOTS:
         QCOMPARE(columns(strip, 5), u"black black black BLACK BLACK"_qs);
         strip.setCache(&cache);
         QCOMPARE(columns(strip, 5), u"black green yellow BLACK YELLOW"_qs);
-    }
-
-    void crowdedFrames()
-    {
-        constexpr long kHuge = std::numeric_limits<int>::max();
-        imagesMarkerWidget strip;
-        strip.setFrames({-5, 1, 2, 50'000, kHuge});
-        strip.setChunks({{-5, {1, -5, 1}}, {2, {2, 9, 1}}, {int(kHuge), {3, -9, 0}}});
-        strip.setMarkedFrames({2, 50'000, 60'000});
-        const auto isYellow = [&strip](int x) {
-            return strip.grab().toImage().pixel(x, 1) == qRgb(200, 200, 0);
-        };
-        strip.resize(100, 20);
-        strip.setRange(1, 100'000);
-        QVERIFY(isYellow(0) && isYellow(49) && !isYellow(50) && !isYellow(59));
-        strip.setRange(-kHuge * 2, kHuge * 2);
-        QVERIFY(!isYellow(0) && isYellow(50));
-        strip.setRange(kHuge, -kHuge);
-        QVERIFY(!isYellow(0));
     }
 };
 

@@ -93,21 +93,6 @@ private Q_SLOTS:
         QVERIFY(!m_session->playback().isPlaying());
     }
 
-    void keepsTheFrameInTheRange()
-    {
-        open(u"shot.0005.exr"_s);
-        const QSignalSpy loads(m_session.get(), &ViewerSession::loaded);
-        m_session->setRange({2, 3, 1});
-        QCOMPARE(shownFile(), file(3));
-        m_session->setRange({2, 4, 1});
-        QCOMPARE(loads.count(), 1); // the frame was within
-        QVERIFY(m_session->step());
-        QVERIFY(!m_session->step());
-        QCOMPARE(m_session->frame(), 4);
-        m_session->setFrame(4); // the frame on show is not loaded again
-        QCOMPARE(loads.count(), 2);
-    }
-
     void typedRanges()
     {
         FrameSequence sequence;
@@ -217,16 +202,6 @@ private Q_SLOTS:
         m_session->togglePlaying();
         m_session->reload();
         QVERIFY(m_session->lastLoad().shown());
-    }
-
-    void layers()
-    {
-        open(u"shot.0001.exr"_s);
-        QCOMPARE(m_session->layers().entries, (std::vector<std::string>{"RGBA"}));
-        QVERIFY(!m_session->setLayer("Z"));
-        const int uploads = m_display.uploads;
-        QVERIFY(m_session->setLayer("RGBA"));
-        QCOMPARE(m_display.uploads, uploads + 1);
     }
 
     void marks()
