@@ -249,19 +249,6 @@ private Q_SLOTS:
         QCOMPARE(m_dialog->values({}), Settings());
     }
 
-    void pickerOutlivesTheDialog()
-    {
-        const QString path = m_folder.filePath(u"ping.wav"_s);
-        bool chosen = false;
-        whenChooserOpens([this, &path, &chosen](QFileDialog &chooser) {
-            m_dialog.reset();
-            typePath(chooser, path);
-            chosen = true;
-        });
-        m_dialog->selectErrorSound();
-        QVERIFY(chosen);
-    }
-
 private:
     template <typename T>
     T *child(const QString &name) const

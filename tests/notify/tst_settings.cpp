@@ -1,4 +1,3 @@
-#include <notify/settings/inflate.h>
 #include <notify/settings/settings.h>
 #include <notify/settings/settingscipher.h>
 
@@ -40,16 +39,6 @@ QString farm()
 QString base64(const QByteArray &bytes)
 {
     return QString::fromLatin1(bytes.toBase64());
-}
-
-/// A text under the key 0 that carries no digest: what follows the flags is a running XOR over `plain`.
-QString compressedUnderKeyZero(const QByteArray &plain)
-{
-    QByteArray bytes("\x03\x01\x00", 3);
-    char previous = 0;
-    for (const char byte : plain)
-        bytes += previous = char(previous ^ byte);
-    return base64(bytes);
 }
 
 } // namespace
@@ -108,21 +97,6 @@ private Q_SLOTS:
         QFETCH(const QString, cipherText);
         QFETCH(const QString, text);
         QCOMPARE(cipher().decipher(cipherText), text);
-    }
-
-    void compressesWhereThatIsShorter()
-    {
-        const QString cipherText = cipher().encipher(farm());
-        QCOMPARE(QByteArray::fromBase64(cipherText.toLatin1())[1], '\x03');
-        QVERIFY(cipherText.size() < farm().size());
-        QCOMPARE(cipher().decipher(cipherText), farm());
-
-        // The reader inflates no bombs: what it would refuse is not compressed.
-        const QByteArray full(kMaxInflatedSize, 'x');
-        const QString huge = QString::fromLatin1(full) + u'x';
-        QVERIFY(cipher().decipher(cipher().encipher(huge)) == huge);
-        QCOMPARE(cipher(0).decipher(compressedUnderKeyZero(qCompress(full))).size(), full.size());
-        QCOMPARE(cipher(0).decipher(compressedUnderKeyZero(qCompress(full + 'x'))), QString());
     }
 
     void damagedCipherTextReadsAsEmpty()

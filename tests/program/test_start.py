@@ -3,14 +3,12 @@
 import os
 import re
 import signal
-import socket
 import subprocess
 
 import farmtest
 from desktop import alertor, click_icon, client_windows, second_start, splash_is_up, starting_alertor, write_template, xdotool
 from farmtest import PATIENCE, PRODUCT, VERSION, check, equal, farm, run, stored_settings, wait_for, windows, write_settings
 
-KEPT_OPEN = []
 SETTINGS = {"network": {"dispatcherPort": 1}, "behaviours": {"showBubble": "false"}}
 
 
@@ -82,30 +80,9 @@ def during_the_splash():
     return program
 
 
-def asks_for_a_connection(pid):
-    """True while a connection of the process is asked for and not answered."""
-    held = {os.readlink(entry.path) for entry in os.scandir(f"/proc/{pid}/fd") if entry.is_symlink()}
-    with open("/proc/net/tcp", encoding="ascii") as table:
-        rows = [line.split() for line in table]
-    return any(row[3] == "02" and f"socket:[{row[9]}]" in held for row in rows)
-
-
-def while_connecting():
+def with_a_box_open():
     for name in ("slow.py", "then.py"):
         write_template(name, "")
-    # Of a full queue the system drops every further request: the client keeps asking.
-    server = socket.create_server(("127.0.0.1", 0), backlog=0)
-    fillers = [socket.socket() for _ in range(4)]
-    for filler in fillers:
-        filler.setblocking(False)
-        filler.connect_ex(server.getsockname())
-    KEPT_OPEN.extend([server, *fillers])
-    program = alertor("-port", str(server.getsockname()[1]))
-    wait_for(lambda: asks_for_a_connection(program.pid), "the client to connect")
-    return program
-
-
-def with_a_box_open():
     night = farm("--deny-login")
     program = alertor("-port", str(night.port))
     wait_for(lambda: windows(PRODUCT), "the box that tells of the refusal")
@@ -140,7 +117,7 @@ def test():
     a_second_start_gives_the_hint_again()
     write_settings(SETTINGS)
     settings = stored_settings()
-    for moment in during_the_splash, while_connecting, with_a_box_open, with_a_dialog_open, with_the_menu_open:
+    for moment in during_the_splash, with_a_box_open, with_a_dialog_open, with_the_menu_open:
         for request in signal.SIGTERM, signal.SIGINT:
             moment().quit(request)
             equal(stored_settings(), settings, f"settings after {request.name} {moment.__name__}")

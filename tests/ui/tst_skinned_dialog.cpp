@@ -312,19 +312,6 @@ private Q_SLOTS:
         dialog.loadDefaultState();
         QTRY_COMPARE(xuser::geometry(dialog), expected);
     }
-
-    void firstShowFitsTheScreen()
-    {
-        Dialog dialog;
-        dialog.resize(5000, 4000);
-        dialog.show();
-        const QRect screen = dialog.screen()->availableGeometry();
-        QTRY_COMPARE(xuser::geometry(dialog), screen);
-        dialog.hide();
-        dialog.setGeometry(kPlace.translated(9000, 0));
-        dialog.show();
-        QTRY_VERIFY(screen.contains(xuser::geometry(dialog)));
-    }
 };
 
 QTEST_MAIN(TestSkinnedDialog)

@@ -152,20 +152,6 @@ private Q_SLOTS:
         }
     }
 
-    /// Shown again after its image and its file are gone, a frame in main memory has its own pixels.
-    void cached()
-    {
-        m_totals.videoMemoryBudget = 0;
-        writeExr(path("a.exr"), "R G B");
-        writeExr(path("b.exr"), "Z");
-        QVERIFY(load("a.exr").shown() && load("b.exr").shown());
-        QCOMPARE(m_display->textures, 1);
-        QVERIFY(QFile::remove(path("a.exr")));
-        const LoadResult again = load("a.exr");
-        QVERIFY(again.shown() && !again.layers);
-        QCOMPARE(uploadedValues(), (QList<float>{1, 2, 3}));
-    }
-
     void downsampling()
     {
         QImage image(100, 50, QImage::Format_RGB888);

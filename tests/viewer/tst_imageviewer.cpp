@@ -431,6 +431,8 @@ private Q_SLOTS:
         answer(u"skinnedMessageBoxYes"_s);
         QVERIFY(session().marking().markedFrames().isEmpty() && session().marking().markedChunks().isEmpty());
         QVERIFY(!find("clearMarkingsButton")->isEnabled());
+        m_viewer->setJob({jobOf(1, 5), {}, {chunkOf(2, 1, 1)}}); // where a chunk was before counts no longer
+        QCOMPARE(session().marking().chunks().size(), 1U);
     }
 
     void opensAsItWasLeft()

@@ -61,14 +61,6 @@ private Q_SLOTS:
         QApplication::restoreOverrideCursor();
     }
 
-    void otherButtonsDoNotPan()
-    {
-        imageWidget widget;
-        mouse(widget, QEvent::MouseButtonPress, {5, 5}, Qt::LeftButton, Qt::LeftButton);
-        mouse(widget, QEvent::MouseButtonPress, {5, 5}, Qt::MiddleButton, Qt::LeftButton | Qt::MiddleButton);
-        QVERIFY(!QApplication::overrideCursor());
-    }
-
     void wheelAddsUp_data()
     {
         addTable<QList<QPoint>, int, int>(

@@ -204,30 +204,6 @@ private Q_SLOTS:
         QVERIFY(m_session->lastLoad().shown());
     }
 
-    void marks()
-    {
-        QSignalSpy changed(m_session.get(), &ViewerSession::marksChanged);
-        m_session->mark(1, {.addFrame = true});
-        m_session->toggleFrameMark();
-        QCOMPARE(changed.count(), 0); // there is no job
-        m_session->setJob({TJob(), {}, {chunkOf(1, 1, 2), chunkOf(2, 3, 4), chunkOf(2, 4, 3)}});
-        const Marking &marking = m_session->marking();
-        QCOMPARE(marking.chunks().size(), 2U);
-        const auto before = changed.count();
-        m_session->mark(5, {}); // a plain pick
-        QCOMPARE(changed.count(), before);
-        m_session->toggleFrameMark(); // frame 1
-        m_session->toggleChunkMark();
-        m_session->mark(3, {.addChunk = true});
-        m_session->mark(4, {.removeChunk = true});
-        QCOMPARE(marking.markedFrames(), MarkedFrames{1});
-        QCOMPARE(marking.markedChunks(), (MarkedChunks{{2, 1}}));
-        m_session->toggleFrameMark();
-        QCOMPARE(marking.markedFrames(), MarkedFrames());
-        m_session->setJob({});
-        QVERIFY(marking.markedChunks().isEmpty() && marking.chunks().empty());
-    }
-
 private:
     void open(const QString &name)
     {
