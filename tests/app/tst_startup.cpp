@@ -154,23 +154,6 @@ private Q_SLOTS:
             received += message.first().toString();
         QTEST(received, "messages");
     }
-
-    void silentSendersAreNoObstacle()
-    {
-        QSignalSpy messages(qApp, SIGNAL(messageReceived(QString)));
-        std::vector<std::unique_ptr<QLocalSocket>> silent;
-        for (int i = 0; i < 40; ++i) {
-            silent.push_back(std::make_unique<QLocalSocket>());
-            silent.back()->connectToServer(instanceFile("socket"));
-            QTRY_COMPARE(silent.back()->state(), QLocalSocket::ConnectedState);
-        }
-        auto *application = static_cast<QtSingleApplication *>(qApp);
-        QVERIFY(application->sendMessage(QStringLiteral("wakeup"), 1000));
-        QTRY_COMPARE(messages.size(), 1);
-        // They are shown out in the end: nothing piles up.
-        for (const auto &socket : silent)
-            QTRY_COMPARE_WITH_TIMEOUT(socket->state(), QLocalSocket::UnconnectedState, 15000);
-    }
 };
 
 int main(int argc, char *argv[])

@@ -99,31 +99,6 @@ private Q_SLOTS:
         }
     }
 
-    void types()
-    {
-        const ImageFolder folder;
-        ExrSpec spec;
-        spec.channels = {{"R"}, {"Z", Imf::FLOAT}, {"id", Imf::UINT}};
-        using Names = std::set<std::string>;
-        for (const Imf::Compression compression : {Imf::ZIP_COMPRESSION, Imf::NO_COMPRESSION}) {
-            spec.compression = compression;
-            writeExr(folder("a.exr"), spec);
-            for (const auto &[names, depth] :
-                 {std::pair(Names{"R"}, 2), {{"Z"}, 4}, {{"id"}, 4}, {{"R", "Z"}, 4}, {{"R", "id"}, 4}}) {
-                const Image image = loadImage(folder("a.exr"), names);
-                QVERIFY(image && image->GetLayers().size() == names.size());
-                for (const CTImageLayer &layer : image->GetLayers()) {
-                    QCOMPARE(layer.GetDefaultChannel()->GetChannelBitDepth(), depth);
-                    QCOMPARE(layer.GetDefaultChannel()->GetChannelBitType(), 1);
-                    const int index = layer.GetLayerName() == "R" ? 0 : layer.GetLayerName() == "Z" ? 1 : 2;
-                    for (const QPoint pixel : {QPoint(0, 0), QPoint(7, 13), QPoint(39, 29)})
-                        QCOMPARE(sampleAt(*layer.GetDefaultChannel(), pixel.x(), pixel.y()),
-                                 double(testValue(pixel.x(), pixel.y(), index)));
-                }
-            }
-        }
-    }
-
     void lumaChroma()
     {
         const ImageFolder folder;

@@ -208,45 +208,32 @@ private Q_SLOTS:
             QVERIFY(m_dialog->rect().contains(button->geometry().translated(button->parentWidget()->pos())));
     }
 
-    void pickersFillTheirField_data()
+    void pickersFillTheirField()
     {
         const QStringList sounds{u"Audio Files (*.wav)"_s};
         const QStringList programs{u"Executables (*.exe)"_s, u"All files (*)"_s};
-        addTable<QString, QString, QString, QStringList>(
-            {"button", "fieldName", "file", "filters"},
-            {{"errors", u"pickErrorSound"_s, u"errorSoundPath"_s, u"ping.wav"_s, sounds},
-             {"warnings", u"pickWarningSound"_s, u"warningSoundPath"_s, u"ping.wav"_s, sounds},
-             {"successes", u"pickSuccessSound"_s, u"successSoundPath"_s, u"ping.wav"_s, sounds},
-             {"starts", u"pickStartSound"_s, u"startSoundPath"_s, u"ping.wav"_s, sounds},
-             {"service", u"pickServiceSound"_s, u"serviceSoundPath"_s, u"ping.wav"_s, sounds},
-             {"viewer without suffix", u"pickImageViewer"_s, u"imageViewer"_s, u"viewer"_s, programs}});
-    }
-
-    void pickersFillTheirField()
-    {
-        QFETCH(const QString, button);
-        QFETCH(const QString, fieldName);
-        QFETCH(const QString, file);
-        QFETCH(const QStringList, filters);
-        auto *target = child<QLineEdit>(fieldName);
-        target->setText(u"/old"_s);
-
-        whenChooserOpens([&filters](QFileDialog &chooser) {
-            QTest::keyClick(&chooser, Qt::Key_Escape);
-            QCOMPARE(chooser.windowTitle(), u"Select File"_s);
-            QCOMPARE(chooser.parent(), nullptr);
-            QCOMPARE(chooser.directory().path(), u"/"_s);
-            QCOMPARE(chooser.nameFilters(), filters);
-        });
-        click(child<QWidget>(button));
-        QCOMPARE(target->text(), u"/old"_s);
-
-        const QString path = m_folder.filePath(file);
-        whenChooserOpens([&path](QFileDialog &chooser) { typePath(chooser, path); });
-        click(child<QWidget>(button));
-        QCOMPARE(target->text(), path);
-        target->clear();
-        QCOMPARE(m_dialog->values({}), Settings());
+        const std::tuple<QString, QString, QString, QStringList> pickers[] = {
+            {u"pickErrorSound"_s, u"errorSoundPath"_s, u"ping.wav"_s, sounds},
+            {u"pickWarningSound"_s, u"warningSoundPath"_s, u"ping.wav"_s, sounds},
+            {u"pickSuccessSound"_s, u"successSoundPath"_s, u"ping.wav"_s, sounds},
+            {u"pickStartSound"_s, u"startSoundPath"_s, u"ping.wav"_s, sounds},
+            {u"pickServiceSound"_s, u"serviceSoundPath"_s, u"ping.wav"_s, sounds},
+            {u"pickImageViewer"_s, u"imageViewer"_s, u"viewer"_s, programs}};
+        for (const auto &[button, fieldName, file, filters] : pickers) {
+            auto *target = child<QLineEdit>(fieldName);
+            whenChooserOpens([filters = filters](QFileDialog &chooser) {
+                QTest::keyClick(&chooser, Qt::Key_Escape);
+                QCOMPARE(chooser.nameFilters(), filters);
+            });
+            click(child<QWidget>(button));
+            QCOMPARE(target->text(), QString());
+            const QString path = m_folder.filePath(file);
+            whenChooserOpens([&path](QFileDialog &chooser) { typePath(chooser, path); });
+            click(child<QWidget>(button));
+            QCOMPARE(target->text(), path);
+            target->clear();
+            QCOMPARE(m_dialog->values({}), Settings());
+        }
     }
 
 private:

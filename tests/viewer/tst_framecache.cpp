@@ -79,52 +79,6 @@ private Q_SLOTS:
             QCOMPARE(totals.videoMemoryUsed + totals.mainMemoryUsed, std::uint64_t(0));
         }
     }
-
-    /// Textures of a frame in main memory live while it is shown and come back from its own copies.
-    void mainMemory()
-    {
-        CacheTotals totals{0, 0, 1, 100};
-        Window window(totals);
-        FakeDisplay &display = window.display;
-        ImageFrame &video = window.insert('v');
-        ImageFrame &main = window.insert('m');
-        window.pixels.fill('-');
-
-        display.showFrame(&main);
-        QCOMPARE(display.uploads, 2); // those of its load still stand
-        display.showFrame(&video);
-        QVERIFY(main.textureNames.empty() && video.ownedPlanes.empty());
-        display.showFrame(&main);
-        QCOMPARE(display.uploaded, (QList<QByteArray>{"0123", "456789ab"}));
-        display.showFrame(nullptr);
-        QCOMPARE(display.textures, 2);
-    }
-
-    /// Whatever takes a frame out of the cache, the display is told while the frame still lives.
-    void shownFrameDies()
-    {
-        CacheTotals totals{0, 0, 1, 1};
-        Window window(totals);
-        FakeDisplay &display = window.display;
-        window.insert('v');
-        display.showFrame(&window.insert('m'));
-        ImageFrame &evicting = window.insert('a');
-        QVERIFY(!display.shown);
-        display.showFrame(&evicting);
-        display.showFrame(&window.insert('a'));
-        QVERIFY(window.cache.remove("a") && !display.shown);
-        display.showFrame(&window.insert('b'));
-        window.cache.clear();
-        QVERIFY(!display.shown);
-    }
-
-    void status()
-    {
-        QCOMPARE((CacheTotals{333, 3, 1000, 2}.statusText()),
-                 u"VRAM Cache Usage: 33.30% RAM Cache Usage: 150.00% "_qs);
-        QCOMPARE((CacheTotals{0, 1, 0, 0}.statusText()),
-                 u"VRAM Cache Usage: 0.00% RAM Cache Usage: 100.00% "_qs);
-    }
 };
 
 QTEST_APPLESS_MAIN(FrameCacheTest)

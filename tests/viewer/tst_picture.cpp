@@ -189,7 +189,7 @@ private Q_SLOTS:
                                               {"larger, panned", {640, 500}, 1.0F, {33, 71}, true},
                                               {"zoomed in, panned", {320, 250}, 2.0F, {127, 49}, true},
                                               {"zoomed in, smaller", {40, 20}, 3.0F, {}, true},
-                                              {"zoomed out", {400, 240}, 0.5F, {}, true},
+                                              {"zoomed out", {401, 241}, 0.5F, {}, true},
                                               {"wider only", {640, 60}, 1.0F, {55, 0}, true}});
     }
     void geometry()
