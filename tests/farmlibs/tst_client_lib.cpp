@@ -155,16 +155,12 @@ private Q_SLOTS:
         const std::array<std::int64_t, 5> rows[] = {{1, 10, 4, 3, 1},
                                                     {1, 10, 0, 10, 1},
                                                     {10, 1, -4, 3, 2},
-                                                    {10, 1, 1, 0},
                                                     {1, 10, -1, 0},
                                                     {1, 1'000'000, 1, 1'000'000, 1},
-                                                    {0, 1'000'000, 1, kTooMany},
                                                     {999'999, 0, -1, 1'000'000, 0},
                                                     {kLowest, kHighest, 1, kTooMany},
-                                                    {kHighest, kLowest, -1, kTooMany},
                                                     {kLowest, kHighest, kHighest, 3, kLowest},
-                                                    {kHighest, kLowest, kLowest, 2, -1},
-                                                    {kLowest, kLowest, kLowest, 1, kLowest}};
+                                                    {kHighest, kLowest, kLowest, 2, -1}};
         for (const auto &[start, end, step, frameCount, first] : rows) {
             const TFramesRange range{start, end, step};
             const auto count = std::uint64_t(frameCount);

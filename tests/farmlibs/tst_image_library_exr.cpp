@@ -198,21 +198,6 @@ private Q_SLOTS:
         QCOMPARE(sampleAt(image, "Z", 2, 1), double(testValue(2, 1, 1)));
     }
 
-    void unknownNamesGiveTheDefault()
-    {
-        const ImageFolder folder;
-        writeExr(folder("a.exr"), ExrSpec());
-        const auto only = [](const Image &image) {
-            return image && image->GetLayers().size() == 1 ? image->GetLayers().front().GetLayerName() : "?";
-        };
-        // Another frame of the sequence had the layer.
-        QCOMPARE(only(loadImage(folder("a.exr"), {"diffuse.R"})), "R");
-        QCOMPARE(only(loadImage(folder("a.exr"), {"diffuse.R", "G"})), "G");
-        QCOMPARE(only(Image(IImageCore::Load(folder("a.exr").c_str(), "exr", {}, nullptr, nullptr))), "R");
-        QVERIFY(!loadImage(folder("a.exr"), {"R"})->GetLayer("G"));
-        QVERIFY(!loadImage(folder("a.exr"), {"R"})->GetLayer(nullptr));
-    }
-
     void progress()
     {
         const ImageFolder folder;

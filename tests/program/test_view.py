@@ -62,6 +62,17 @@ for mode, shown in [("rgba", (186, 136, 255)), ("red", (186,) * 3), ("green", (1
 make("b.exr", "0.25,0.5,0,1")
 equal(pixel("--channel", "luminance", path("b.exr")), (186,) * 3, "luminance, the largest of the three")
 
+# What each kind of sample is for OpenGL; the last is brighter than white.
+make("half.exr", "2,1,0,1")
+equal(pixel("--set", "inputGamma=1,inputLevelEnd=4", path("half.exr")), (128, 64, 0), "halves")
+for name, kind, count, colour, shown in [("grey.png", "uint8", 1, "0.5", (128,) * 3), ("deep.png", "uint16", 3, "0.5,0.25,1", (128, 64, 255)),
+                                         ("deepgrey.png", "uint16", 1, "0.25", (64,) * 3), ("float.tif", "float", 3, "0.5,0.25,0", (128, 64, 0))]:
+    oiiotool("--pattern", f"constant:color={colour}", SIZE, str(count), "-d", kind, "-o", path(name))
+    equal(pixel(path(name)), shown, name)
+# Stored as it is before alpha, 1, 0.5 and 1; shown by half, on the grey of the checker.
+oiiotool("--pattern", "constant:color=0.5,0.25,0.5,0.5", SIZE, "4", "-d", "uint8", "-o", path("straight.png"))
+equal(pixel(path("straight.png")), (192, 128, 192), "straight alpha")
+
 mask = path("shot.####.exr")
 equal(pixel(mask), (0, 0, 0), "a mask starts at its first frame")
 equal(pixel("--frame", "2", mask), (255, 255, 255), "the frame that is asked for")

@@ -34,11 +34,6 @@ CTImage makeImage(const std::vector<std::pair<std::string, TPlaneFormat>> &chann
     return CTImage(30, 20, true, std::move(layers));
 }
 
-std::unique_ptr<ImageFrame> frameOf(const TPlaneFormat &format)
-{
-    return buildFrame(makeImage({{"", format}}), std::string());
-}
-
 /// A file of these channels, the first one all 1.0, the second 2.0, and so on.
 void writeExr(const QString &path, const Bytes &names, int side = 2)
 {
@@ -61,27 +56,6 @@ private Q_SLOTS:
         m_folder = std::make_unique<QTemporaryDir>();
         m_display = std::make_unique<FakeDisplay>();
         m_cache = std::make_unique<FrameCache>(m_totals, *m_display);
-    }
-
-    void formats()
-    {
-        const auto frame = frameOf({.width = 3, .height = 2, .depth = 2, .isFloat = true, .samples = 4});
-        QVERIFY(frame->internalFormat == GL_RGBA16F && frame->pixelType == GL_HALF_FLOAT);
-        QCOMPARE(frame->byteSize, std::uint64_t(3 * 2 * 4 * 2));
-        QCOMPARE(frame->planeSizes.front(), (PlaneSize{3, 2}));
-        QCOMPARE(frame->channelLayout, std::string("RGBA"));
-        QVERIFY(frame->yFlipped && !frame->premultiplied && !frame->isYCbCr);
-        QCOMPARE(frameOf({.width = 1, .height = 1, .depth = 1})->channelLayout, std::string("Luminance"));
-        // An integer format for one sample, normalised ones for more.
-        QVERIFY(frameOf({.width = 1, .height = 1, .depth = 2})->internalFormat == GL_R16UI);
-        QVERIFY(frameOf({.width = 1, .height = 1, .depth = 2, .samples = 3})->internalFormat == GL_RGB16);
-        QVERIFY(!frameOf({.width = 1, .height = 1, .depth = 1, .samples = 2}));
-        QVERIFY(!frameOf({.width = 1, .height = 1, .depth = 8}));
-
-        constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
-        QCOMPARE(planeBytes(kMost, kMost, 1, 4),
-                 std::optional(4 * std::uint64_t(kMost) * std::uint64_t(kMost)));
-        QVERIFY(!planeBytes(kMost, kMost, 3, 4) && !planeBytes(-1, -1, 1, 1) && !planeBytes(0, 1, 1, 1));
     }
 
     void composite()

@@ -17,28 +17,6 @@ class TimelineTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void moves()
-    {
-        imageTimeline timeline;
-        QSignalSpy changed(&timeline, &imageTimeline::frameChanged);
-        QVERIFY(!timeline.moveNext() && !timeline.movePrevious());
-        timeline.moveFirst();
-        timeline.setFrames({1, 2, 4, 9});
-        QVERIFY(timeline.setByFrame(-4)); // no step is below 1
-        QVERIFY(timeline.moveNext() && timeline.moveNext() && timeline.movePrevious());
-        timeline.setByFrame(2);
-        QVERIFY(timeline.moveNext() && timeline.moveNext() && !timeline.moveNext());
-        timeline.moveLast();
-        timeline.moveFirst();
-        QVERIFY(!timeline.movePrevious());
-        QList<int> frames;
-        for (const QVariantList &emitted : std::as_const(changed)) {
-            frames << emitted[0].toInt();
-            QCOMPARE(emitted.mid(1), QVariantList(4, false));
-        }
-        QCOMPARE(frames, QList<int>({2, 4, 2, 4, 9, 1}));
-    }
-
     void drags()
     {
         QWidget window;
