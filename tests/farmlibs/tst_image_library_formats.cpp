@@ -101,25 +101,6 @@ private Q_SLOTS:
         }
     }
 
-    void greyWithAlpha()
-    {
-        const ImageFolder folder;
-        for (const auto &[type, scale] : {std::pair(TypeDesc::UINT8, 255.0), {TypeDesc::UINT16, 65535.0}}) {
-            OIIO::ImageSpec spec = picture(2, type);
-            spec.channelnames = {"Y", "A"};
-            spec.alpha_channel = 1;
-            spec.attribute("oiio:UnassociatedAlpha", 1);
-            QVERIFY(writeImage(folder("a.png"), spec));
-            const Image image = loadImage(folder("a.png"));
-            QVERIFY(image);
-            QCOMPARE(image->GetDefaultLayer()->GetDefaultChannel()->GetChannelBitSamples(), 4);
-            for (int i = 0; i < kHeight * 4; ++i) {
-                const double expected = double(testValue(i / 4, i / 4, i % 4 == 3 ? 1 : 0)) / 1024.0 * scale;
-                QVERIFY(std::abs(sampleAt(image, "", i / 4, i / 4, i % 4) - expected) <= 1.5);
-            }
-        }
-    }
-
     void straightAlpha_data()
     {
         addTable<QByteArray, bool>({"file", "multiplied"},

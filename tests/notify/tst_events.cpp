@@ -100,10 +100,8 @@ private Q_SLOTS:
              {"errors", 1, 4096, {}, &S::filterJobCompletedWithErrors, &S::errorSound, "Error", 5},
              {"job other status", 1, 1, {}, nullptr, nullptr, "", 0},
              {"job completed without job", 1, {}, {}, service, &S::serviceSound, "", 0},
-             {"chunk success", 2, 0, 4, &S::filterChunkCompletedWithSuccess, &S::successSound, "Success", 3},
              {"chunk warning", 2, 0, 8, &S::filterChunkCompletedWithWarnings, &S::warningSound, "Warning", 4},
              {"chunk errors", 2, 0, 16, &S::filterChunkCompletedWithErrors, &S::errorSound, "Error", 5},
-             {"chunk other status", 2, 1024, 1, nullptr, nullptr, "", 0},
              {"chunk without its job", 2, {}, 16, &S::filterChunkCompletedWithErrors, &S::errorSound, "", 5},
              {"chunk completed without chunk", 2, 1024, {}, service, &S::serviceSound, "", 0},
              {"job start", 4, 0, {}, &S::filterJobStart, &S::startSound, "Start", 0},
@@ -111,8 +109,6 @@ private Q_SLOTS:
              {"start without job", 4, {}, {}, service, &S::serviceSound, "Start", 0},
              {"service", 512, {}, {}, service, &S::serviceSound, "Service", 1},
              {"alert", 1024, {}, {}, service, &S::serviceSound, "Alert", 1},
-             {"second service", 2048, 0, {}, service, &S::serviceSound, "Service", 1},
-             {"second alert", 4096, 0, {}, service, &S::serviceSound, "Alert", 1},
              {"unknown with job", 77, 1024, {}, service, &S::serviceSound, "", 0},
              {"unknown without job", -3, {}, {}, service, &S::serviceSound, "", 0}});
     }

@@ -92,9 +92,3 @@ def every_control_is_reached_by_tab(top):
         if seen[-1] == seen[0]:
             break
     equal(wanted - set(seen), set(), f"controls in {top.name!r} that Tab does not reach")
-
-
-def rows_of(tree, columns):
-    """The texts of the rows, cell by cell, as they are read out."""
-    cells = [cell.name for cell in tree if cell and cell.getRole() == pyatspi.ROLE_TABLE_CELL]
-    return [cells[i : i + columns] for i in range(0, len(cells), columns)]

@@ -7,22 +7,6 @@ import accessible
 from desktop import WINDOW, alertor, choose_in_menu, xdotool
 from farmtest import EVENT, Program, check, equal, farm, run, wait_for, windows, write_settings
 
-KINDS = {"Success", "Warning", "Error", "Start", "Service", "Alert"}
-COLUMNS = 8
-
-
-def rows_say_their_state(sent):
-    tree = next(iter(accessible.window(WINDOW)))
-
-    def states():
-        return [row[1] for row in accessible.rows_of(tree, COLUMNS)]
-
-    rows = wait_for(lambda: len(states()) == sent and accessible.rows_of(tree, COLUMNS), "the rows")
-    check({row[0] for row in rows} <= KINDS, f"kinds of events: {rows}")
-    equal(set(states()), {"Pending"}, "states of new events")
-    choose_in_menu("a")
-    wait_for(lambda: set(states()) == {"Acknowledged"}, "the acknowledged events")
-
 
 def walk(title):
     top = accessible.window(title)
@@ -52,9 +36,7 @@ def test():
     write_settings({"behaviours": {"showBubble": "false", "autoAckOnRaise": "false"}, "imageViewer": budgets})
     night = farm("--jobs", "1", "--rate", "400", "--once")
     program = alertor("-server", "127.0.0.1", "-port", str(night.port), **accessible.ENVIRONMENT)
-    sent = int(night.expect(r"^sent (\d+) events$").group(1))
-    program.expect(EVENT, sent)
-    rows_say_their_state(sent)
+    program.expect(EVENT, int(night.expect(r"^sent (\d+) events$").group(1)))
     walk(WINDOW)
     choose_in_menu("c")
     walk("Alertor Preferences")

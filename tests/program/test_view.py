@@ -72,6 +72,8 @@ for name, kind, count, colour, shown in [("grey.png", "uint8", 1, "0.5", (128,) 
 # Stored as it is before alpha, 1, 0.5 and 1; shown by half, on the grey of the checker.
 oiiotool("--pattern", "constant:color=0.5,0.25,0.5,0.5", SIZE, "4", "-d", "uint8", "-o", path("straight.png"))
 equal(pixel(path("straight.png")), (192, 128, 192), "straight alpha")
+oiiotool("--pattern", "constant:color=0.25,0.5", SIZE, "2", "--chnames", "Y,A", "-d", "uint8", "-o", path("straightgrey.png"))
+equal(pixel(path("straightgrey.png")), (128, 128, 128), "straight grey")
 
 mask = path("shot.####.exr")
 equal(pixel(mask), (0, 0, 0), "a mask starts at its first frame")
