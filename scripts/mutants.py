@@ -23,12 +23,12 @@ CLOSEST = [
     ("net/", "tst_messagereader|tst_packets|tst_qlwtcpsocket|tst_dispatchersession|program_(protocol|reconnect)"),
     ("notify/settings/", "tst_settings|tst_messagereader"),
     ("notify/events/", "tst_events|tst_alertor"),
-    ("notify/", "tst_(alertor|events|preferences|settings)|program_(tray|sound|protocol)"),
+    ("notify/", "tst_(alertor|results|events|preferences|settings)|program_(tray|sound|protocol)"),
     ("viewer/frames/", "tst_(frame|compositelayers|viewersession)"),
-    ("viewer/session/", "tst_viewersession|tst_imageviewer$"),
-    ("viewer/widgets/", "tst_(picture|imagewidget|timeline|strips)|tst_imageviewer$"),
+    ("viewer/session/", "tst_viewersession|tst_(imageviewer|viewerpicture)$"),
+    ("viewer/widgets/", "tst_(picture|imagewidget|timeline|strips)|tst_(imageviewer|viewerpicture)$"),
     ("resources/shaders/", "tst_picture"),
-    ("viewer/", "tst_imageviewer$"),
+    ("viewer/", "tst_(imageviewer|viewerpicture)$"),
     ("ui/", "tst_(ui_helpers|skinned_dialog|message_box|startup|translations)"),
     ("farmlibs/client_lib/", "tst_client_lib|tst_events"),
     ("farmlibs/framework/", "tst_framework|tst_framesequence"),
@@ -40,7 +40,7 @@ CLOSEST = [
     ("tools/demofarm/", "tst_demofarm|program_(events|reconnect|templates)"),
 ]
 
-PROGRAMS = ["tarrow-alertor", "tarrow-demofarm", "tarrow-imageinfo", "tarrow-view", "tst_picture", "tst_imageviewer"]
+PROGRAMS = ["tarrow-alertor", "tarrow-demofarm", "tarrow-imageinfo", "tarrow-view", "tst_picture"]
 
 Fault = collections.namedtuple("Fault", "file breaks line wrong")
 

@@ -15,7 +15,7 @@
 #include <QtTest/QTest>
 #include <QtWidgets/QLabel>
 
-#include <memory>
+#include <array>
 #include <vector>
 
 namespace {
@@ -125,6 +125,20 @@ private Q_SLOTS:
         }
         QCOMPARE(messages.size(), 1);
         QCOMPARE(messages[0][0].toString(), u"wakeup"_qs);
+    }
+
+    void silentSendersAreNoObstacle()
+    {
+        QSignalSpy messages(qApp, SIGNAL(messageReceived(QString)));
+        std::array<QLocalSocket, 40> silent;
+        for (QLocalSocket &socket : silent) {
+            socket.connectToServer(instanceFile("socket"));
+            QTRY_COMPARE(socket.state(), QLocalSocket::ConnectedState);
+        }
+        QVERIFY(static_cast<QtSingleApplication *>(qApp)->sendMessage(QStringLiteral("wakeup"), 1000));
+        QTRY_COMPARE(messages.size(), 1);
+        for (const QLocalSocket &socket : silent) // they are shown out in the end
+            QTRY_COMPARE_WITH_TIMEOUT(socket.state(), QLocalSocket::UnconnectedState, 15000);
     }
 
     void othersAreKeptOut()

@@ -110,18 +110,6 @@ private Q_SLOTS:
         QCOMPARE(job.attributeGetString("k"), std::string("v"));
     }
 
-    void jobHostile()
-    {
-        TJob job = sampleJob();
-        for (const Values &values : {Values{}, Values{""}, Values{"0", "7"}, Values{"2", "7"}, Values{"x"}}) {
-            QVERIFY(!job.Unmarshall(values, nullptr));
-            QCOMPARE(job.Marshall(), sampleJob().Marshall());
-        }
-        QVERIFY(job.Unmarshall({"1", "7", "", "", "", "", "-1", "9999999999", "1", "2", "3", "4"}, nullptr));
-        QCOMPARE(job.getTasksMask(), 0U);
-        QCOMPARE(job.GetFrameRanges().size(), 1U);
-    }
-
     void jobPaths()
     {
         TJob job;

@@ -121,15 +121,6 @@ private Q_SLOTS:
         QCOMPARE(TFileSystem::GetFilePath("/a/" + std::string(5000, 'x')), ""); // no system has it
     }
 
-    void base64()
-    {
-        const std::pair<std::string, const char *> texts[] = {
-            {"Zm9v\r\nYm Fy\n", "foobar"}, {"Zm9vYg", "foob"}, {"Zm8=Zm9v", "fo"}, {"Zm9vY", "foo"},
-            {"\xff\x80Zm_-9v", "foo"},     {"====", ""}};
-        for (const auto &[text, plain] : texts)
-            QCOMPARE(bytes(TStringHelper::FromBase64(text)), QByteArray(plain));
-    }
-
     void texts()
     {
         QCOMPARE(TStringHelper::TokenizeString("", "\n"), Names{""});

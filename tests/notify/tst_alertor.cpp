@@ -1,23 +1,11 @@
+#include "alertorfarm.h"
 #include "capturedoutput.h"
-#include "farmpackets.h"
-#include "glpath.h"
-#include "loopbackpeer.h"
 #include "modals.h"
 
-#include <notify/alertor.h>
 #include <notify/events/notifyevent.h>
-#include <notify/eventsview.h>
-#include <notify/resultopener.h>
-#include <ui/product.h>
-#include <viewer/calibrationpanel.h>
-#include <viewer/imageviewer.h>
-#include <viewer/session/viewersession.h>
 
-#include <QtCore/QScopeGuard>
 #include <QtCore/QSettings>
-#include <QtCore/QTemporaryDir>
 #include <QtGui/QContextMenuEvent>
-#include <QtGui/QDesktopServices>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -31,64 +19,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The window on a link of its own.
-struct Farm {
-    LoopbackPeer peer;
-    Alertor alertor;
-    QStringList trayWhileConnecting; // icon and tooltip
-
-    explicit Farm(const QString &key = {}, const QVariant &value = {})
-    {
-        if (!key.isEmpty())
-            QSettings().setValue(key, value);
-        CommandLineOverrides overrides;
-        overrides.port = peer.port();
-        alertor.setCommandLineOverrides(overrides);
-        alertor.loadSettings();
-        QSettings().clear();
-        alertor.checkLocalConnection();
-        trayWhileConnecting = tray();
-        QTRY_VERIFY(!peer.received().isEmpty());
-    }
-    QStringList tray() const
-    {
-        return {alertor.tray().shownIcon(), alertor.tray().toolTip().section(u'\n', 0, 0)};
-    }
-    void send(const NotificationPacket &packet) { peer.send(farm::frame(packet)); }
-    /// One event of each of these job statuses.
-    void sendJobs(const QList<int> &statuses)
-    {
-        const qsizetype before = alertor.events().size();
-        for (const int status : statuses) {
-            const TClientLib::TJob job = farm::job(status);
-            send(farm::notification(1, &job));
-        }
-        QTRY_COMPARE(alertor.events().size(), before + statuses.size());
-    }
-    void tick(int times)
-    {
-        while (times-- > 0)
-            QMetaObject::invokeMethod(&alertor, "timerEvent");
-    }
-    QString text(const char *label) const
-    {
-        const auto *found = alertor.findChild<QLabel *>(QLatin1String(label));
-        return found->isVisible() ? found->text() : QString();
-    }
-    EventsView *list() const { return alertor.findChild<EventsView *>(u"treeWidget"_s); }
-    QMenu *menu(const char *name) const { return alertor.findChild<QMenu *>(QLatin1String(name)); }
-    void show()
-    {
-        alertor.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&alertor));
-    }
-    void click(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        const QRect cell = list()->visualRect(list()->model()->index(row, EventsModel::Message));
-        QTest::mouseClick(list()->viewport(), Qt::LeftButton, modifiers, cell.center());
-    }
-};
 
 /// All entries, or those that can be chosen.
 QString textsOf(const QMenu *menu, bool enabled = false)
@@ -117,13 +47,7 @@ class TestAlertor final : public QObject {
     Q_OBJECT
 
 public:
-    static void initMain()
-    {
-        chooseGlPath();
-        QCoreApplication::setOrganizationName(product::kOrganisation);
-        QCoreApplication::setApplicationName(product::kApplicationName);
-        QApplication::setQuitOnLastWindowClosed(false);
-    }
+    static void initMain() { Farm::prepare(); }
 
 private Q_SLOTS:
     void theWindowIsAsDrawnAndManaged()
@@ -438,128 +362,6 @@ private Q_SLOTS:
         QCOMPARE(loadSettings(), farm.alertor.settings());
         QSettings().clear();
     }
-
-    void resultsOpenOutsideOrSayWhyNot()
-    {
-        QTemporaryDir folder;
-        const QString viewer = folder.filePath(u"viewer"_s);
-        QFile script(viewer);
-        QVERIFY(script.open(QIODevice::WriteOnly));
-        script.write("#!/bin/sh\nprintf '%s|%s' \"$#\" \"$1\" > \"$0.new\" && mv \"$0.new\" \"$0.opened\"\n");
-        script.close();
-        script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-        Farm farm(u"imageViewer/imageViewer"_s, viewer);
-        farm.show();
-        TClientLib::TJob job = farm::job();
-        job.attributeSetString("frames_mask", "/no where/$(touch x)/a.####.exr");
-        job.setFrameRanges({{5, 9, 1}});
-        farm.send(farm::notification(1, &job));
-        QTRY_COMPARE(farm.alertor.events().size(), 1);
-        farm.click(0);
-        const auto opened = [viewer] {
-            QFile arguments(viewer + u".opened"_s);
-            const auto remove = qScopeGuard([&arguments] { arguments.remove(); });
-            return QTest::qWaitFor([&] { return arguments.open(QIODevice::ReadOnly); }) ? arguments.readAll()
-                                                                                        : QByteArray();
-        };
-        farm.alertor.actOpenFrameExternally();
-        QCOMPARE(opened(), "1|/no where/$(touch x)/a.0005.exr");
-        QVERIFY(ResultOpener::startExternalViewer(viewer, u"--exec.####.exr"_s));
-        QCOMPARE(opened(), "1|./--exec.####.exr");
-        QSettings().setValue(u"imageViewer/imageViewerMode"_s, 1);
-        QSettings().setValue(u"imageViewer/launchImageViewer"_s, true);
-        Farm automatic(u"imageViewer/imageViewer"_s, viewer);
-        TClientLib::TJob still = farm::stillJob("/f/still.exr");
-        still.setStatus(2048);
-        automatic.send(farm::notification(1, &still));
-        QCOMPARE(opened(), "1|/f/still.exr");
-
-        const auto saidBy = [&farm](void (Alertor::*act)()) {
-            QString said;
-            whenModalOpens([&said](QWidget *box) {
-                const auto *plain = qobject_cast<QMessageBox *>(box);
-                QVERIFY(!plain || plain->textFormat() == Qt::PlainText);
-                for (const QLabel *label : box->findChildren<QLabel *>())
-                    said += label->text();
-                QTest::keyClick(box->focusWidget(), Qt::Key_Return);
-            });
-            (farm.alertor.*act)();
-            return said;
-        };
-        QVERIFY(saidBy(&Alertor::actOpenFrame)
-                    .contains(u"OpenGL not supported by your GPU! Image viewer cannot be used!"_s));
-        QCOMPARE(saidBy(&Alertor::actOpenOutput), u"Cannot open output folder /no where/$(touch x)"_s);
-
-        // A folder that is gone opens the one above, and so does what is no folder: nothing that the farm names is run.
-        QDesktopServices::setUrlHandler(u"file"_s, this, "noteOpened");
-        for (const QString &output : {folder.path(), folder.filePath(u"gone"_s), viewer}) {
-            TClientLib::TJob done = farm::job();
-            done.attributeSetString("output_folder", output.toStdString());
-            farm.send(farm::notification(1, &done));
-            QTRY_COMPARE(farm.alertor.events().size(), 2);
-            farm.click(1);
-            farm.alertor.actOpenOutput();
-            QCOMPARE(std::exchange(m_opened, {}), QUrl::fromLocalFile(folder.path()));
-            farm.alertor.actRemoveSelected();
-        }
-        QDesktopServices::unsetUrlHandler(u"file"_s);
-    }
-
-    void framesOpenInAViewerEach()
-    {
-        TAppState::instance() = m_openGl;
-        const auto restore = qScopeGuard([] { TAppState::instance() = {}; });
-        QTemporaryDir folder;
-        TClientLib::TJob job = farm::job();
-        job.attributeSetString("frames_mask", folder.filePath(u"a.####.exr"_s).toStdString());
-        job.setFrameRanges({{5, 9, 1}});
-        const QString picture = folder.filePath(u"still.png"_s);
-        QVERIFY(QImage(10, 10, QImage::Format_RGB32).save(picture));
-        const TClientLib::TJob still = farm::stillJob(picture.toStdString());
-        TClientLib::TChunk chunk = farm::chunk();
-        chunk.setFrames(5, 6, 1);
-        Farm notAsked;
-        notAsked.send(farm::notification(1, &still));
-        QSettings().setValue(u"imageViewer/imageViewerMaxGPUCache"_s, 4000);
-        Farm farm(u"imageViewer/launchImageViewer"_s, true);
-        farm.show();
-        const auto viewers = [&farm] { return farm.alertor.findChildren<ImageViewer *>(); };
-
-        farm.send(farm::notification(1, &job));
-        farm.send(farm::notification(2, &job, &chunk));
-        QTRY_COMPARE(farm.alertor.events().size(), 2);
-        QVERIFY(viewers().isEmpty());
-        farm.list()->selectAll();
-        farm.alertor.actOpenFrame();
-        QCOMPARE(viewers().size(), 2);
-        QCOMPARE(viewers()[0]->session().sequence().frames, (std::set<long>{5, 6, 7, 8, 9}));
-        QCOMPARE(viewers()[0]->session().marking().chunks().size(), 1U);
-        QCOMPARE(viewers()[1]->session().sequence().frames, (std::set<long>{5, 6}));
-        qDeleteAll(viewers());
-
-        for (int i = 0; i < 25; ++i)
-            farm.send(farm::notification(1, &still));
-        QTRY_COMPARE(farm.alertor.events().size(), 27);
-        QTRY_COMPARE(viewers().size(), 20); // and no more by themselves
-        QVERIFY(QString::fromStdString(viewers().last()->session().sequence().framesPath)
-                    .endsWith(u"still.png"_s));
-        // The budgets and the gammas are those of the preferences, each its own.
-        QCOMPARE(viewers().first()->findChild<QLabel *>(u"infoLabel"_s)->text(),
-                 u"VRAM Cache Usage: 7.50% RAM Cache Usage: 0.00% "_s);
-        QCOMPARE(viewers().first()->calibration().inputGamma(), 1.0F);
-        farm.alertor.openImageViewer();
-        QVERIFY(viewers().last()->session().sequence().framesPath.empty());
-        QCOMPARE(notAsked.alertor.events().size(), 1);
-        QVERIFY(!notAsked.alertor.findChild<ImageViewer *>());
-    }
-
-public Q_SLOTS:
-    void noteOpened(const QUrl &url) { m_opened = url; }
-
-private:
-    QUrl m_opened;
-    // What there is; the tests run without, but for the one of the viewer.
-    const TAppState m_openGl = std::exchange(TAppState::instance(), {});
 };
 
 QTEST_MAIN(TestAlertor)

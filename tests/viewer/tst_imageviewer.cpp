@@ -1,40 +1,17 @@
-#include "glpath.h"
-#include "jobframes.h"
 #include "modals.h"
+#include "viewertest.h"
 
-#include <ui/product.h>
 #include <viewer/calibrationpanel.h>
-#include <viewer/frames/cachetotals.h>
-#include <viewer/frames/imageframe.h>
-#include <viewer/imageviewer.h>
-#include <viewer/session/viewersession.h>
-#include <viewer/widgets/imagewidget.h>
 
-#include <QtCore/QDir>
 #include <QtCore/QFile>
-#include <QtCore/QPointer>
 #include <QtCore/QSettings>
-#include <QtCore/QTemporaryDir>
-#include <QtGui/QWheelEvent>
-#include <QtTest/QTest>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QColorDialog>
-#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QMenu>
-#include <QtWidgets/QScrollBar>
-#include <QtWidgets/QSlider>
 #include <QtWidgets/QToolButton>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 using TClientLib::TJob;
 
 namespace {
-
-constexpr QSize kFrame(64, 48);
 
 TJob jobOf(int first, int last)
 {
@@ -47,36 +24,10 @@ TJob jobOf(int first, int last)
 
 } // namespace
 
-class ImageViewerTest : public QObject {
+class ImageViewerTest final : public ViewerTest {
     Q_OBJECT
 
-public:
-    static void initMain()
-    {
-        chooseGlPath();
-        QCoreApplication::setOrganizationName(product::kOrganisation);
-        QCoreApplication::setApplicationName(product::kApplicationName);
-        QApplication::setQuitOnLastWindowClosed(false);
-    }
-
 private Q_SLOTS:
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_totals = {};
-        for (int i = 1; i <= 5; ++i)
-            writeFrame(path(u"shot.%1.exr"_s.arg(i, 4, 10, QLatin1Char('0'))), kFrame);
-    }
-
-    void cleanup()
-    {
-        delete m_viewer;
-        QCOMPARE(m_totals.videoMemoryUsed, 0U);
-        QCOMPARE(m_totals.mainMemoryUsed, 0U);
-        QCOMPARE(imageWidget::liveTextures(), 0);
-        QVERIFY(!QApplication::overrideCursor());
-    }
-
     void showsWhatItIsOpenedOn()
     {
         open(u"shot.0003.exr"_s);
@@ -239,160 +190,6 @@ private Q_SLOTS:
         QCOMPARE(seen(), u"#ffffff"_s);
     }
 
-    void layersOfEachFrame()
-    {
-        const ExrChannels layered{{"R", 1.0F}, {"G", 0.0F}, {"B", 0.0F}, {"Z", 0.25F}};
-        for (const char *name : {"shot.0001.exr", "shot.0003.exr"})
-            writeFrame(path(QLatin1String(name)), kFrame, layered);
-        writeFrame(path(u"shot.0002.exr"_s), kFrame, {{"a.R", 0.5F}, {"R", 1.0F}});
-        open(u"shot.0001.exr"_s);
-        const auto *layers = find<QComboBox>("layersSelector");
-        const auto entries = [layers] {
-            QStringList texts;
-            for (int i = 0; i < layers->count(); ++i)
-                texts += layers->itemText(i) + (i == layers->currentIndex() ? u"*"_s : QString());
-            return texts.join(u' ');
-        };
-        QCOMPARE(entries(), u"RGB* Z"_s);
-        QCOMPARE(seen(), u"#ff0000"_s);
-        find("layersSelector")->setFocus();
-        QTest::keyClick(find("layersSelector"), Qt::Key_Down);
-        QCOMPARE(entries(), u"RGB Z*"_s);
-        QCOMPARE(seen(), u"#888888"_s);
-        m_viewer->picture().setFocus();
-        press(Qt::Key_Right); // without the layer: the file's own first, and the choice stays
-        QCOMPARE(layers->count(), 2);
-        QCOMPARE(seen(), u"#ffffff"_s);
-        press(Qt::Key_Right);
-        QCOMPARE(entries(), u"RGB Z*"_s);
-        QCOMPARE(seen(), u"#888888"_s);
-        type("framesPath", path(u"shot.0005.exr"_s)); // of another sequence nothing was chosen
-        QCOMPARE(entries(), u"RGBA*"_s);
-    }
-
-    void framesComeBackFromMainMemory()
-    {
-        m_totals.videoMemoryBudget = 0;
-        open(u"shot.0001.exr"_s);
-        press(Qt::Key_Right);
-        QVERIFY(QFile::remove(path(u"shot.0001.exr"_s)));
-        press(Qt::Key_Left);
-        QCOMPARE(seen(), u"#ba88ff"_s);
-    }
-
-    void backgroundAndBlending()
-    {
-        writeFrame(path(u"half.exr"_s), kFrame, {{"R", 0.5F}, {"G", 0.0F}, {"B", 0.0F}, {"A", 0.5F}});
-        open(u"half.exr"_s);
-        const QString blended = seen();
-        click("compositeButton");
-        QVERIFY(seen() != blended);
-        click("checkerButton");
-        QCOMPARE(seen(), u"#ba0000"_s); // its colour as it is stored, whatever lies below
-        const auto corner = [this] { return m_viewer->picture().grabFramebuffer().pixelColor(0, 0).name(); };
-        const QString before = corner();
-        for (const bool accepts : {false, true}) {
-            QString during;
-            whenModalOpens([&](QWidget *dialog) {
-                qobject_cast<QColorDialog *>(dialog)->setCurrentColor(u"#102030"_s);
-                during = corner();
-                QTest::keyClick(dialog, accepts ? Qt::Key_Return : Qt::Key_Escape);
-            });
-            click("backgroundColorButton");
-            QTRY_VERIFY(!QApplication::activeModalWidget() && !during.isEmpty());
-            QCOMPARE(during, u"#102030"_s);
-            QCOMPARE(corner(), accepts ? during : before);
-        }
-    }
-
-    void layersAndChannels()
-    {
-        open(u"shot.0001.exr"_s);
-        auto *layers = find<QComboBox>("layersSelector");
-        QCOMPARE(layers->count(), 1);
-        QCOMPARE(layers->currentText(), u"RGBA"_s);
-        QVERIFY(find("alphaChannelButton")->isEnabled());
-        click("greenChannelButton");
-        QVERIFY(!find<QToolButton>("rgbaChannelButton")->isChecked());
-        find<QComboBox>("resizeComboBox")->setCurrentIndex(2);
-        QCOMPARE(m_viewer->picture().displayedSize(), kFrame / 4);
-        QCOMPARE(m_viewer->picture().grabPicture().pixelColor(5, 5).red(), 136); // green alone, in all three
-        click("premultipliedButton"); // sets the frames anew
-        QVERIFY(find<QToolButton>("rgbaChannelButton")->isChecked());
-        QVERIFY(!m_viewer->picture().frame()->premultiplied);
-    }
-
-    void zoomAndLocks()
-    {
-        writeFrame(path(u"large.exr"_s), {2000, 500});
-        open(u"large.exr"_s);
-        imageWidget &picture = m_viewer->picture();
-        auto *bar = find<QScrollBar>("horizontalScrollBar");
-        QCOMPARE(bar->maximum(), 2000 - picture.viewSize().width());
-        bar->setValue(100);
-        QCOMPARE(picture.pan().x(), 100);
-        click("zoomIn");
-        QCOMPARE(picture.displayedSize(), QSize(2400, 600));
-        click("zoomOut");
-        QCOMPARE(picture.pan().x(), 100);
-        QMenu *menu = find<QToolButton>("fitPixelSize")->menu();
-        Q_EMIT menu->aboutToShow();
-        QVERIFY(menu->actions().at(1)->isEnabled() && !menu->actions().at(2)->isEnabled());
-        menu->actions().at(1)->trigger();
-        QTRY_COMPARE(picture.displayedSize().width(), picture.viewSize().width());
-        m_viewer->resize(1000, 700);
-        QTRY_COMPARE(picture.displayedSize().width(), picture.viewSize().width());
-        find<QToolButton>("setPixelSize")->menu()->actions().at(1)->trigger();
-        QCOMPARE(picture.displayedSize(), QSize(2000, 500));
-        click("zoomIn"); // locked
-        QCOMPARE(picture.displayedSize(), QSize(2000, 500));
-        find<QToolButton>("setPixelSize")->menu()->actions().at(2)->trigger();
-        const QPoint place(200, 100);
-        QTest::mousePress(&picture, Qt::MiddleButton, {}, place);
-        QTest::mouseMove(&picture, place - QPoint(30, 10));
-        QTest::mouseRelease(&picture, Qt::MiddleButton, {}, place - QPoint(30, 10));
-        const QPoint dragged(bar->value(), find<QScrollBar>("verticalScrollBar")->value());
-        QCOMPARE(dragged, picture.pan());
-        QVERIFY(dragged.x() > 0 && dragged.y() > 0);
-        for (const int turn : {120, -120}) {
-            QWheelEvent wheel(place, picture.mapToGlobal(place), {}, {0, turn}, {}, {}, Qt::NoScrollPhase,
-                              false);
-            QApplication::sendEvent(&picture, &wheel);
-            QCOMPARE(picture.displayedSize(), turn > 0 ? QSize(2400, 600) : QSize(2000, 500));
-        }
-        for (int i = 0; i < 100; ++i)
-            click("zoomOut");
-        QVERIFY(picture.displayedSize().height() * 2 < 64);
-        QVERIFY(picture.displayedSize().height() * 2.4 >= 64);
-        QVERIFY(!find("zoomOut")->isEnabled());
-    }
-
-    void calibration()
-    {
-        open(u"shot.0001.exr"_s);
-        click("calibrationButton");
-        QVERIFY(find("calibrationHolder")->isVisible());
-        const CalibrationPanel &panel = m_viewer->calibration();
-        QCOMPARE(type("outputGammaField", u"5"_s), u"5.00"_s);
-        QCOMPARE(panel.calibration().gamma, 5.0F);
-        QCOMPARE(find<QSlider>("outputGammaSlider")->value(), 200);
-        type("inputLevelStartField", u"-0.5"_s);
-        QCOMPARE(panel.calibration().levelInputMin, -0.5F);
-        QCOMPARE(find<QSlider>("inputLevelStartSlider")->value(), 0);
-        find<QSlider>("softClipSlider")->setValue(55);
-        QCOMPARE(panel.calibration().softClip, 0.55F);
-        QCOMPARE(text("softClipField"), u"0.55"_s);
-        // Either decimal mark is read.
-        QCOMPARE(type("softClipField", u"0,5"_s), u"0.50"_s);
-        const QImage before = m_viewer->picture().grabPicture();
-        type("brightnessField", u"0.25"_s);
-        QCOMPARE(find<QSlider>("brightnessSlider")->value(), 25);
-        QVERIFY(m_viewer->picture().grabPicture() != before);
-        click("calibrationResetToDefaults");
-        QCOMPARE(panel.calibration(), (Calibration{1, 1, 1, 1, 0, 1, 0, 1, 0}));
-        QCOMPARE(panel.inputGamma(), 2.2F);
-    }
-
     void marks()
     {
         open(u"shot.####.exr"_s, {jobOf(1, 5), {}, {chunkOf(1, 1, 2), chunkOf(2, 3, 4), chunkOf(2, 3, 4)}});
@@ -453,29 +250,6 @@ private Q_SLOTS:
         QSettings().clear();
     }
 
-    void fullScreen()
-    {
-        open(u"shot.0001.exr"_s);
-        imageWidget &picture = m_viewer->picture();
-        const QImage before = picture.grabPicture();
-        click("fullScreen");
-        QVERIFY(picture.isWindow());
-        QVERIFY(QTest::qWaitForWindowExposed(&picture));
-        QTRY_COMPARE(picture.size(), picture.screen()->size());
-        QTest::keyClick(&picture, Qt::Key_Right);
-        QCOMPARE(frame(), 2);
-        QCOMPARE(picture.grabPicture(), before);
-        QTest::keyClick(&picture, Qt::Key_Escape);
-        QVERIFY(!picture.isWindow());
-        QTRY_VERIFY(picture.isVisible() && picture.width() < m_viewer->width());
-        QTest::keyClick(&picture, Qt::Key_Left);
-        QCOMPARE(picture.grabPicture(), before);
-        click("fullScreen");
-        QVERIFY(picture.isWindow() && QTest::qWaitForWindowExposed(&picture));
-        QTest::keyClick(&picture, Qt::Key_F11);
-        QVERIFY(!picture.isWindow());
-    }
-
     void manyViewers()
     {
         QList<QPointer<ImageViewer>> viewers;
@@ -491,62 +265,6 @@ private Q_SLOTS:
             QTRY_VERIFY(!viewer);
         }
     }
-
-private:
-    ImageViewer *open(const QString &name, const JobFrames &job = {})
-    {
-        m_viewer = new ImageViewer(m_totals, {.exrImportGamma = 2.2F});
-        m_viewer->setJob(job);
-        m_viewer->resize(900, 700);
-        m_viewer->show();
-        if (QTest::qWaitForWindowActive(m_viewer))
-            m_viewer->setFramesPath(
-                {.path = path(name).toStdString(), .force = true, .maskIsSequence = true});
-        return m_viewer;
-    }
-
-    template <typename T = QWidget>
-    T *find(const char *name) const
-    {
-        return m_viewer->findChild<T *>(QLatin1String(name));
-    }
-    QString text(const char *field) const { return find<QLineEdit>(field)->text(); }
-    /// Gives what the field makes of it.
-    QString type(const char *field, const QString &value) const
-    {
-        auto *edit = find<QLineEdit>(field);
-        edit->setFocus();
-        edit->selectAll();
-        QTest::keyClicks(edit, value);
-        QTest::keyClick(edit, Qt::Key_Return);
-        return edit->text();
-    }
-    /// Gives the frame that it leads to.
-    int press(Qt::Key key) const
-    {
-        QTest::keyClick(QApplication::focusWidget(), key);
-        return frame();
-    }
-    /// The colour in the middle of the picture.
-    QString seen() const
-    {
-        const QImage picture = m_viewer->picture().grabPicture();
-        return picture.pixelColor(picture.rect().center()).name();
-    }
-    QString path(const QString &name) const { return m_folder->filePath(name); }
-
-    void click(const char *button) const { QTest::mouseClick(find<QAbstractButton>(button), Qt::LeftButton); }
-    QPoint frameAt(int index, int count) const
-    {
-        const QWidget *timeline = find("timeline");
-        return {timeline->width() * (2 * index + 1) / (2 * count), 20};
-    }
-    ViewerSession &session() const { return m_viewer->session(); }
-    int frame() const { return session().frame(); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    CacheTotals m_totals;
-    QPointer<ImageViewer> m_viewer;
 };
 
 QTEST_MAIN(ImageViewerTest)

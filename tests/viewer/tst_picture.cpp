@@ -287,25 +287,6 @@ private Q_SLOTS:
         QCOMPARE(imageWidget::liveTextures(), 4);
     }
 
-    void inputGoesToTheWidget()
-    {
-        QSignalSpy scrolls(m_picture, &imageWidget::verticalScrollRequested);
-        QSignalSpy zooms(m_picture, &imageWidget::zoomInRequested);
-        QWindow *drawnOn = nullptr;
-        for (QWindow *window : QGuiApplication::allWindows())
-            drawnOn = window->surfaceType() == QSurface::OpenGLSurface ? window : drawnOn;
-        QVERIFY(drawnOn);
-        m_picture->move(100, 50);
-        QTest::mousePress(drawnOn, Qt::MiddleButton, {}, QPoint(20, 30));
-        QTest::mouseMove(drawnOn, QPoint(20, 12));
-        QTest::mouseRelease(drawnOn, Qt::MiddleButton, {}, QPoint(20, 12));
-        QTRY_COMPARE(scrolls.value(0), QVariantList{18});
-        QWheelEvent wheel(QPointF(9, 9), drawnOn->mapToGlobal(QPointF(9, 9)), {}, {0, 8}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(drawnOn, &wheel);
-        QCOMPARE(zooms.size(), 1);
-    }
-
     void changesAloneRepaint_data()
     {
         addTable<Change>(
