@@ -121,20 +121,6 @@ private Q_SLOTS:
         QCOMPARE(TFileSystem::GetFilePath("/a/" + std::string(5000, 'x')), ""); // no system has it
     }
 
-    void texts()
-    {
-        QCOMPARE(TStringHelper::TokenizeString("", "\n"), Names{""});
-        QCOMPARE(TStringHelper::TokenizeString("\na\n\n", "\n"), (Names{"", "a", "", ""}));
-        QCOMPARE(TStringHelper::TokenizeString("a--b---c", "--"), (Names{"a", "b", "-c"}));
-        QCOMPARE(TStringHelper::TokenizeString("ab", ""), Names{"ab"});
-        QCOMPARE(TStringHelper::DecodeFramesMask(" /a b/c.#.exr ;; \t;d.##.exr;"),
-                 (Names{"/a b/c.#.exr", "d.##.exr"}));
-        QVERIFY(TStringHelper::DecodeFramesMask("").empty());
-        QCOMPARE(bytes(TStringHelper::Replace("a.py.py.bak", ".py", "")), "a.bak");
-        QCOMPARE(bytes(TStringHelper::Replace("aaa", "aa", "aab")), "aaba");
-        QCOMPARE(bytes(TStringHelper::Replace("abc", "", "x")), "abc");
-    }
-
     void library()
     {
         const QTemporaryDir home;

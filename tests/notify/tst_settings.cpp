@@ -243,13 +243,7 @@ private Q_SLOTS:
 
     void whatIsNoOrdinaryFile()
     {
-        QVERIFY(QDir().mkpath(QSettings().fileName()));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot read parts of the file"_s));
-        QCOMPARE(loadSettings(), Settings());
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot save the settings"_s));
-        QVERIFY(!saveSettings(Settings()));
-
-        QVERIFY(QDir().rmdir(QSettings().fileName()));
+        QVERIFY(QDir().mkpath(QFileInfo(QSettings().fileName()).path()));
         QVERIFY(QFile::link(u"/proc/version"_s, QSettings().fileName()));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Cannot save the settings"_s));
         QVERIFY(!saveSettings(Settings()));

@@ -52,7 +52,6 @@ private Q_SLOTS:
             {"asked", "expected", "focused"},
             {{"all", kAll, u"Yes No Cancel Abort Ok"_qs, u"Yes"_qs},
              {"ok and cancel", QMessageBox::Ok | QMessageBox::Cancel, u"Cancel Ok"_qs, u"Ok"_qs},
-             {"none affirmative", QMessageBox::Abort | QMessageBox::No, u"No Abort"_qs, u"No"_qs},
              {"others ignored", QMessageBox::Retry | QMessageBox::Ok, u"Ok"_qs, u"Ok"_qs},
              {"no valid one", QMessageBox::Retry, {}, {}}});
     }

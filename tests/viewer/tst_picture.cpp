@@ -212,8 +212,6 @@ private Q_SLOTS:
         addTable<Spoiling, std::size_t>(
             {"spoil", "textures"},
             {{"no planes", [](ImageFrame &frame) { frame.planes.clear(); }, 0},
-             {"no type", [](ImageFrame &frame) { frame.pixelType = 0; }, 0},
-             {"no format", [](ImageFrame &frame) { frame.internalFormat = 0; }, 0},
              {"short planes", [](ImageFrame &frame) { frame.ownedPlanes.assign(4, {std::byte()}); }, 0},
              {"negative size", [](ImageFrame &frame) { frame.planeSizes[0].width = -1; }, 0},
              {"more planes than textures", [](ImageFrame &frame) { frame.textureCount = 3; }, 4},
