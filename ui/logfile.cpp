@@ -4,6 +4,7 @@
 
 #include <QtCore/QDateTime>
 #include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtCore/QMutex>
 
 #include <algorithm>
@@ -55,7 +56,7 @@ LogFile::LogFile()
     : m_file(path())
 {
     QDir().mkpath(QFileInfo(m_file).path());
-    open();
+    open(QIODevice::Append);
     current = this;
     nextHandler = qInstallMessageHandler(&handleMessage);
 }
@@ -66,9 +67,13 @@ LogFile::~LogFile()
     current = nullptr;
 }
 
-void LogFile::open()
+void LogFile::open(QIODevice::OpenMode mode)
 {
-    if (m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
+    // A named pipe would wait for whoever reads it.
+    const QFileInfo found(m_file);
+    if (found.exists() && !found.isFile())
+        return;
+    if (m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered | mode))
         m_file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
 }
 
@@ -83,9 +88,10 @@ void LogFile::write(QtMsgType type, const char *category, const QString &text)
     const QByteArray bytes = line.toUtf8() + '\n';
     if (m_file.isOpen() && m_file.size() + bytes.size() > kLargestFile) {
         m_file.close();
-        QFile::remove(path() + QStringLiteral(".1"));
-        QFile::rename(path(), path() + QStringLiteral(".1"));
-        open();
+        const QString before = path() + QStringLiteral(".1");
+        QFile::remove(before);
+        // What cannot be moved away starts anew, or it would grow for ever.
+        open(QFile::rename(path(), before) ? QIODevice::Append : QIODevice::Truncate);
     }
     if (m_file.isOpen())
         m_file.write(bytes);

@@ -18,7 +18,7 @@ public:
     void write(QtMsgType type, const char *category, const QString &text);
 
 private:
-    void open();
+    void open(QIODevice::OpenMode mode);
 
     QFile m_file;
 };

@@ -109,6 +109,12 @@ private Q_SLOTS:
         QVERIFY(lines.last().contains(" info tarrow.net: 2999 x."));
         for (qsizetype i = 0; i < lines.size(); ++i) // none is lost, torn or forged
             QVERIFY(lines[i].contains(QByteArray(": ") + QByteArray::number(3000 - lines.size() + i) + " x"));
+        // Something stands where the file before goes.
+        QVERIFY(before.remove() && QDir().mkpath(before.fileName() + QStringLiteral("/x")));
+        LogFile log;
+        for (int i = 0; i < 3000; ++i)
+            log.write(QtInfoMsg, "tarrow.net", QString(500, u'.'));
+        QVERIFY(QFileInfo(now.fileName()).size() <= 512 * 1024);
     }
 
     void textIsShortened_data()
