@@ -113,6 +113,12 @@ void DispatcherSession::reconnect(const LinkSettings &settings)
     checkLocalConnection();
 }
 
+void DispatcherSession::retry()
+{
+    m_autoReconnect = true;
+    checkLocalConnection();
+}
+
 void DispatcherSession::refuse()
 {
     m_autoReconnect = false;

@@ -38,6 +38,8 @@ public:
     void checkLocalConnection();
     /// Drops the link and connects anew with other settings, also after a refusal.
     void reconnect(const LinkSettings &settings);
+    /// Connects at once where there is no connection and none under way, also after a refusal; what waits to be sent stays.
+    void retry();
     /// Drops the link and leaves it down, as the Dispatcher refused the log-in.
     void refuse();
     /// Has the system find out soon whether the link survived, where this machine slept since the last call.

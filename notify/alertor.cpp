@@ -102,8 +102,7 @@ void Alertor::connectSession()
     connect(&m_session, &DispatcherSession::reportChanged, this, [this] { updateIcon(true); });
     auto *emptyList = new EmptyList(m_ui->treeWidget);
     connect(emptyList, &EmptyList::configureRequested, this, &Alertor::configure);
-    connect(m_ui->linkStatus, &LinkStatus::connectRequested, this,
-            [this] { m_session.reconnect(m_settings.link()); });
+    connect(m_ui->linkStatus, &LinkStatus::connectRequested, &m_session, &DispatcherSession::retry);
     m_linkDisplay = new LinkDisplay(m_session, {m_tray, *m_ui->linkStatus, *emptyList}, this);
 }
 

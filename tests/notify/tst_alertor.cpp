@@ -95,8 +95,9 @@ private Q_SLOTS:
         QCOMPARE(farm.peer.connections(), 1);
         farm.show();
         QVERIFY(farm.text("linkState").startsWith(u"Log-in refused"_s));
+        QVERIFY(farm.alertor.sendMessage(700, "accepted", 0));
         QTest::mouseClick(farm.alertor.findChild<QPushButton *>(u"connectNow"_s), Qt::LeftButton);
-        QTRY_COMPARE(farm.peer.received().size(), 2);
+        QTRY_COMPARE(farm.peer.received().size(), 3); // two log-ins, and what was accepted between them
         QTRY_VERIFY(farm.text("linkState").startsWith(u"Connected to 127.0.0.1:"_s));
         farm.peer.send(refusal);
         QTRY_VERIFY(QApplication::activeModalWidget());
@@ -104,7 +105,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!QApplication::activeModalWidget());
         whenModalOpens([](QWidget *modal) { QTest::keyClick(modal, Qt::Key_Return); });
         farm.alertor.configure();
-        QTRY_COMPARE(farm.peer.received().size(), 3);
+        QTRY_COMPARE(farm.peer.received().size(), 4);
     }
 
     void theLinkIsToldOf()
