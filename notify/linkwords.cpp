@@ -1,5 +1,7 @@
 #include "linkwords.h"
 
+#include <ui/plaintext.h>
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDateTime>
 #include <QtCore/QLocale>
@@ -15,10 +17,18 @@ QString shortTime(const QDateTime &time)
     return QLocale::system().toString(time.time(), QLocale::ShortFormat);
 }
 
+/// Whatever was typed as name or address leaves room for the rest of the line, and for the list.
+QString brief(const QString &typed)
+{
+    constexpr qsizetype kLongest = 80;
+    const QString line = shortened(typed);
+    return line.size() <= kLongest ? line : line.first(kLongest) + u'\u2026';
+}
+
 QString server(const LinkReport &report)
 {
     const QString form = report.address.contains(u':') ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2");
-    return form.arg(report.address, QString::number(report.port));
+    return form.arg(brief(report.address), QString::number(report.port));
 }
 
 QString reason(const LinkReport &report)
@@ -42,22 +52,23 @@ QString LinkWords::state(const LinkReport &report, const QDateTime &nextAttempt)
 {
     using State = LinkReport::State;
     const QString why = reason(report);
+    const QString user = brief(report.user);
     switch (report.state) {
     case State::Idle:
         return Words::tr("Not connected");
     case State::LookingUp:
-        return Words::tr("Looking up %1").arg(report.address);
+        return Words::tr("Looking up %1").arg(brief(report.address));
     case State::Connecting:
-        return Words::tr("Connecting to %1 as %2").arg(server(report), report.user);
+        return Words::tr("Connecting to %1 as %2").arg(server(report), user);
     case State::Connected:
-        return Words::tr("Connected to %1 as %2").arg(server(report), report.user);
+        return Words::tr("Connected to %1 as %2").arg(server(report), user);
     case State::Refused:
-        return Words::tr("Log-in refused by %1 for %2").arg(server(report), report.user);
+        return Words::tr("Log-in refused by %1 for %2").arg(server(report), user);
     case State::Closing:
     case State::Waiting:
         break;
     }
-    QString text = Words::tr("Not connected to %1 as %2").arg(server(report), report.user);
+    QString text = Words::tr("Not connected to %1 as %2").arg(server(report), user);
     if (!why.isEmpty())
         text = Words::tr("%1: %2", "state of the link and why").arg(text, why);
     if (report.state == State::Waiting && nextAttempt.isValid())
