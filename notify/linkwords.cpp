@@ -80,8 +80,13 @@ QString LinkWords::state(const LinkReport &report, const QDateTime &nextAttempt)
 
 QString LinkWords::outage(const QDateTime &from, const QDateTime &to)
 {
+    // Over a night the times alone would read as minutes.
+    const auto said = [&from, &to](const QDateTime &time) {
+        return from.date() == to.date() ? shortTime(time)
+                                        : QLocale::system().toString(time, QLocale::ShortFormat);
+    };
     return Words::tr("Link was down %1 to %2; events of that time are not sent again")
-        .arg(shortTime(from), shortTime(to));
+        .arg(said(from), said(to));
 }
 
 QString LinkWords::loss(const LinkTrouble &trouble, const QDateTime &when)
