@@ -89,8 +89,14 @@ std::int32_t OiioFile::height() const
 
 bool OiioFile::isPremultiplied() const
 {
-    return m_spec.alpha_channel >= 0 && m_format.alpha == OiioAlpha::AsTold
-        && m_spec.get_int_attribute("oiio:UnassociatedAlpha") == 0;
+    return !isInterleaved() && isMultiplied();
+}
+
+bool OiioFile::isMultiplied() const
+{
+    if (m_spec.alpha_channel < 0 || m_format.alpha == OiioAlpha::Straight)
+        return false;
+    return m_format.alpha == OiioAlpha::Multiplied || m_spec.get_int_attribute("oiio:UnassociatedAlpha") == 0;
 }
 
 bool OiioFile::isInterleaved() const
@@ -143,7 +149,8 @@ CTImageChannel OiioFile::readInterleaved(Progress &progress)
         spreadGrey(channel);
     else if (m_spec.nchannels < format.samples)
         makeOpaque(channel);
-    if (m_format.alpha == OiioAlpha::Multiplied && format.samples == 4 && format.depth == 1)
+    // Interleaved pixels are shown as straight.
+    if (isMultiplied() && (m_spec.nchannels == 2 || m_spec.alpha_channel == 3))
         divideByAlpha(channel);
     return channel;
 }

@@ -22,6 +22,7 @@ public:
     /// Pixels of the upright picture.
     std::int32_t width() const;
     std::int32_t height() const;
+    /// Of what read() gives: interleaved colours are straight in any case.
     bool isPremultiplied() const;
     /// The layers: one without a name when the pixels can be shown as they are.
     std::vector<std::string> layers() const;
@@ -30,6 +31,8 @@ public:
 
 private:
     bool isInterleaved() const;
+    /// Whether the decoder hands over colours multiplied by their alpha.
+    bool isMultiplied() const;
     int orientation() const;
     void readInto(CTImageChannel &pixels, Progress &progress);
     CTImageChannel readInterleaved(Progress &progress);

@@ -1,8 +1,13 @@
 #include "planes.h"
 
 #include <OpenImageIO/imagebufalgo.h>
+#include <half.h>
 
+#include <algorithm>
+#include <cstdint>
+#include <limits>
 #include <stdexcept>
+#include <type_traits>
 #include <utility>
 
 namespace TImageLibrary {
@@ -59,6 +64,31 @@ void spreadGreyOf(CTImageChannel &channel)
     for (; pixel != end; pixel += 4) {
         pixel[3] = pixel[1];
         pixel[1] = pixel[2] = pixel[0];
+    }
+}
+
+template <typename Sample>
+Sample divided(Sample color, Sample alpha)
+{
+    if constexpr (std::is_integral_v<Sample>) {
+        constexpr std::uint32_t kFull = std::numeric_limits<Sample>::max();
+        return Sample(std::min((color * kFull + alpha / 2U) / alpha, kFull));
+    } else {
+        return Sample(float(color) / float(alpha));
+    }
+}
+
+template <typename Sample>
+void divideByAlphaOf(CTImageChannel &channel)
+{
+    auto *pixel = reinterpret_cast<Sample *>(channel.data());
+    const Sample *end = pixel + channel.format().byteSize() / sizeof(Sample);
+    const auto opaque = std::is_integral_v<Sample> ? std::numeric_limits<Sample>::max() : Sample(1);
+    for (; pixel != end; pixel += 4) {
+        if (pixel[3] == Sample(0) || pixel[3] == opaque)
+            continue;
+        for (int color = 0; color < 3; ++color)
+            pixel[color] = divided(pixel[color], pixel[3]);
     }
 }
 
@@ -132,8 +162,15 @@ void makeOpaque(CTImageChannel &channel)
 
 void divideByAlpha(CTImageChannel &channel)
 {
-    OIIO::ImageBuf pixels = wrapped(channel);
-    require(OIIO::ImageBufAlgo::unpremult(pixels, pixels), pixels);
+    const TPlaneFormat &format = channel.format();
+    if (format.depth == 1)
+        divideByAlphaOf<std::uint8_t>(channel);
+    else if (format.depth == 4)
+        divideByAlphaOf<float>(channel);
+    else if (format.isFloat)
+        divideByAlphaOf<half>(channel);
+    else
+        divideByAlphaOf<std::uint16_t>(channel);
 }
 
 } // namespace TImageLibrary

@@ -31,7 +31,8 @@ void spreadGrey(CTImageChannel &channel);
 /// Gives pixels of four samples full alpha.
 void makeOpaque(CTImageChannel &channel);
 
-/// Takes the alpha out of the colour again, in pixels of four samples.
+/// Takes the alpha out of the colour again, in pixels of four samples, to the nearest integer. Light where there is no
+/// alpha stays as it is.
 void divideByAlpha(CTImageChannel &channel);
 
 } // namespace TImageLibrary

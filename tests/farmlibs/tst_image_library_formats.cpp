@@ -4,7 +4,6 @@
 #include <QtGui/QTransform>
 #include <QtTest/QTest>
 
-#include <array>
 #include <cmath>
 
 #include <sys/stat.h>
@@ -102,41 +101,57 @@ private Q_SLOTS:
 
     void straightAlpha_data()
     {
-        addTable<QByteArray, bool>({"file", "multiplied"},
-                                   {{"PNG", "a.png", false},
-                                    {"Targa", "a.tga", false},
-                                    {"BMP", "a.bmp", false},
-                                    {"WebP", "a.webp", false},
-                                    {"TIFF, straight", "a.tif", false},
-                                    {"TIFF, multiplied", "a.tif", true}});
+        addTable<QByteArray, int, bool>({"file", "type", "multiplied"},
+                                        {{"PNG", "a.png", TypeDesc::UINT8, false},
+                                         {"Targa", "a.tga", TypeDesc::UINT8, false},
+                                         {"BMP", "a.bmp", TypeDesc::UINT8, false},
+                                         {"WebP", "a.webp", TypeDesc::UINT8, false},
+                                         {"TIFF, straight", "a.tif", TypeDesc::UINT8, false},
+                                         {"TIFF, multiplied", "a.tif", TypeDesc::UINT8, true},
+                                         {"TIFF of 16 bits, straight", "a.tif", TypeDesc::UINT16, false},
+                                         {"TIFF of 16 bits, multiplied", "a.tif", TypeDesc::UINT16, true},
+                                         {"TIFF of halves, multiplied", "a.tif", TypeDesc::HALF, true},
+                                         {"TIFF of floats, multiplied", "a.tif", TypeDesc::FLOAT, true},
+                                         {"SGI", "a.sgi", TypeDesc::UINT16, true}});
     }
 
+    /// Interleaved colours come straight whatever the file says, to the nearest value.
     void straightAlpha()
     {
         QFETCH(const QByteArray, file);
         QFETCH(const bool, multiplied);
+        QFETCH(const int, type);
         const ImageFolder folder;
         const std::string path = folder(file.constData());
-        OIIO::ImageSpec spec = picture(4, TypeDesc::UINT8);
+        OIIO::ImageSpec spec(2, 1, 4, TypeDesc(TypeDesc::BASETYPE(type)));
         spec.attribute("oiio:UnassociatedAlpha", multiplied ? 0 : 1);
-        const std::array<quint8, 4> written =
-            multiplied ? std::array<quint8, 4>{100, 50, 30, 128} : std::array<quint8, 4>{200, 100, 60, 128};
-        std::vector<quint8> pixels;
-        for (int i = 0; i < kWidth * kHeight; ++i)
-            pixels.insert(pixels.end(), written.begin(), written.end());
+        spec.attribute("tiff:half", 1);
+        // Light without alpha beside a colour
+        std::vector<float> pixels{200, 100, 60, 128, 100, 50, 30, 0};
+        for (std::size_t i = 0; i < pixels.size(); ++i)
+            pixels[i] /= multiplied && i < 3 ? 2 * 255.0F : 255.0F;
         if (file.endsWith("webp")) {
             // OpenImageIO writes no lossless ones.
             QVERIFY(writeBytes(path, QByteArray::fromHex(kStraightWebp)));
+            pixels.resize(4);
         } else {
             const auto output = OIIO::ImageOutput::create(path);
-            QVERIFY(output && output->open(path, spec) && output->write_image(TypeDesc::UINT8, pixels.data())
+            QVERIFY(output && output->open(path, spec) && output->write_image(TypeDesc::FLOAT, pixels.data())
                     && output->close());
         }
         const Image image = loadImage(path);
-        QVERIFY(image);
-        QCOMPARE(image->GetIsPremultiplied(), multiplied);
-        for (int sample = 0; sample < 4; ++sample)
-            QVERIFY(std::abs(sampleAt(image, "", 5, 5, sample) - written[std::size_t(sample)]) <= 2.0);
+        QVERIFY(image && !image->GetIsPremultiplied());
+        const double scale = fullScale(*image->GetDefaultLayer()->GetDefaultChannel());
+        const double exact = type == TypeDesc::HALF ? 1e-3
+            : scale > 1.0                           ? (file.endsWith("webp") ? 2.0 : 0.51) / scale
+                                                    : 1e-6;
+        for (int i = 0; i < int(pixels.size()); ++i) {
+            const double stored = double(pixels[std::size_t(i)]);
+            const double straight = multiplied && i < 3 ? stored / (128.0 / 255.0) : stored;
+            const double value = sampleAt(image, "", i / 4, 0, i % 4) / scale;
+            QVERIFY2(std::abs(value - straight) <= exact,
+                     qPrintable(QStringLiteral("%1 as sample %2, not %3").arg(value).arg(i).arg(straight)));
+        }
     }
 
     void manyChannelsAreLayers()
