@@ -123,7 +123,15 @@ void writeExrs(const QString &folder)
     second.part = "right";
     second.order = Imf::DECREASING_Y;
     writeExr(exr.path(QStringLiteral("parts")), {first, second});
-    writeDeepExr(exr.path(QStringLiteral("deep")));
+    for (const bool tiled : {false, true}) {
+        ExrSpec deep;
+        deep.display = deep.data = window;
+        deep.deep = true;
+        deep.tiled = tiled;
+        deep.compression = tiled ? Imf::RLE_COMPRESSION : Imf::ZIPS_COMPRESSION;
+        deep.channels = {{"A"}, {"B"}, {"G"}, {"R"}, {"Z", Imf::FLOAT}};
+        writeExr(exr.path(QStringLiteral("deep-%1").arg(int(tiled))), deep);
+    }
 }
 
 void writeImages(const QString &folder)

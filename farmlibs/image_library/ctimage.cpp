@@ -34,10 +34,11 @@ CTImageChannel resized(const CTImageChannel &channel, std::int32_t width, std::i
 } // namespace
 
 CTImage::CTImage(std::int32_t width, std::int32_t height, bool premultiplied,
-                 std::vector<CTImageLayer> layers)
+                 std::vector<CTImageLayer> layers, bool deep)
     : m_width(width)
     , m_height(height)
     , m_premultiplied(premultiplied)
+    , m_deep(deep)
     , m_layers(std::move(layers))
 { }
 
@@ -72,7 +73,7 @@ bool CTImage::Resize(std::int32_t width, std::int32_t height, CTImage *&out) con
                                            scaled(channel.GetChannelHeight(), m_height, height)));
             layers.emplace_back(layer.GetLayerName(), std::move(channels));
         }
-        out = std::make_unique<CTImage>(width, height, m_premultiplied, std::move(layers)).release();
+        out = std::make_unique<CTImage>(width, height, m_premultiplied, std::move(layers), m_deep).release();
     } catch (const std::exception &) {
         return false;
     }

@@ -12,7 +12,8 @@ namespace TImageLibrary {
 class CTImage final {
 public:
     /// `layers` must not be empty; width and height in pixels.
-    CTImage(std::int32_t width, std::int32_t height, bool premultiplied, std::vector<CTImageLayer> layers);
+    CTImage(std::int32_t width, std::int32_t height, bool premultiplied, std::vector<CTImageLayer> layers,
+            bool deep = false);
 
     /// Give the pixels of the picture (an EXR's display window). A channel may be smaller: ask the channel for its own
     /// size.
@@ -31,6 +32,9 @@ public:
     bool GetIsYFlipped() const { return true; }
     /// Tells whether the colour has been multiplied by its alpha.
     bool GetIsPremultiplied() const { return m_premultiplied; }
+    /// Tells whether the file holds any number of samples in each pixel, of which one was made. An addition to the
+    /// interface: a farm's own library need not have it.
+    bool GetIsDeep() const { return m_deep; }
 
     /// Makes a copy of the size given in pixels with a box filter, subsampled channels in proportion. False, with `out`
     /// null, when the size is not positive or there is no memory for it.
@@ -40,6 +44,7 @@ private:
     std::int32_t m_width = 0;
     std::int32_t m_height = 0;
     bool m_premultiplied = false;
+    bool m_deep = false;
     std::vector<CTImageLayer> m_layers;
 };
 

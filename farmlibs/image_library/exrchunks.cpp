@@ -1,5 +1,7 @@
 #include "exrchunks.h"
 
+#include "imageerror.h"
+
 #include <ImathBox.h>
 #include <ImathFun.h>
 #include <ImfChannelList.h>
@@ -12,7 +14,7 @@
 #include <cstdint>
 #include <cstring>
 #include <span>
-#include <stdexcept>
+#include <string>
 
 namespace TImageLibrary {
 
@@ -77,7 +79,7 @@ void checkLastChunk(ExrFile &file, int part)
     const std::span<const char> bytes(data, std::size_t(std::max(size, 0)));
     // What would not shrink is stored as it is.
     if (bytes.size() != expected && !(deflates ? inflatesTo(bytes, expected) : runsMake(bytes, expected)))
-        throw std::runtime_error("chunk of another size");
+        throw ImageError(TLoadFailure::Damaged, "chunk of another size at line " + std::to_string(box.min.y));
 }
 
 bool hasPlainLines(const ExrFile &file, int part, const std::vector<ExrTarget *> &targets)
@@ -87,8 +89,8 @@ bool hasPlainLines(const ExrFile &file, int part, const std::vector<ExrTarget *>
         && !file.isTiled(part);
     for (auto channel = header.channels().begin(); channel != header.channels().end(); ++channel)
         plain = plain && channel.channel().xSampling == 1 && channel.channel().ySampling == 1;
-    return plain && std::all_of(targets.begin(), targets.end(), [](const ExrTarget *target) {
-               return target->type == target->channel.type;
+    return plain && std::all_of(targets.begin(), targets.end(), [&targets](const ExrTarget *target) {
+               return target->type == target->channel.type && target->rows == targets.front()->rows;
            });
 }
 
@@ -127,7 +129,7 @@ void copyPlainLines(ExrFile &file, int part, const std::vector<ExrTarget *> &tar
         int size = 0;
         input.rawPixelData(row, line, size);
         if (size < 0 || std::size_t(size) != lineBytes)
-            throw std::runtime_error("line of another size");
+            throw ImageError(TLoadFailure::Damaged, "line of another size at line " + std::to_string(row));
         for (const Copy &copy : copies)
             std::memcpy(copy.to + std::size_t(row - visible.first) * copy.rowBytes, line + copy.from,
                         copy.bytes);

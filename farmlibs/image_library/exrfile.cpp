@@ -1,5 +1,8 @@
 #include "exrfile.h"
 
+#include "exrchannels.h"
+#include "imageerror.h"
+
 #include <ImathBox.h>
 #include <ImfChannelList.h>
 #include <ImfPartType.h>
@@ -7,8 +10,8 @@
 #include <algorithm>
 #include <map>
 #include <set>
-#include <stdexcept>
 #include <thread>
+#include <utility>
 
 namespace TImageLibrary {
 
@@ -45,7 +48,7 @@ CompressionFacts factsOf(Imf::Compression compression)
     case Imf::DWAB_COMPRESSION:
         return {256, 64 * kDeflate};
     default:
-        throw std::runtime_error("unknown compression");
+        throw ImageError(TLoadFailure::Unsupported, "compressed in a way that is not read here");
     }
 }
 
@@ -62,28 +65,28 @@ std::uint64_t bytesPerPixel(const Imf::ChannelList &channels)
     return bytes;
 }
 
-/// In how many flat parts each channel name occurs.
-std::map<std::string, int> countNames(const Imf::MultiPartInputFile &parts)
+/// In how many parts each channel name occurs; flat ones do not count the deep.
+std::map<std::string, int> countNames(const Imf::MultiPartInputFile &parts, bool deep)
 {
     std::map<std::string, int> counts;
     for (int part = 0; part < parts.parts(); ++part) {
         const Imf::Header &header = parts.header(part);
-        if (!isFlat(header))
+        if (!isFlat(header) && !(deep && isDeep(header)))
             continue;
-        for (auto channel = header.channels().begin(); channel != header.channels().end(); ++channel)
-            ++counts[channel.name()];
+        for (const ExrChannel &channel : channelsOf(header, part))
+            ++counts[channel.name];
     }
     return counts;
 }
 
 /// What stands before the channels of a part. The whole part takes its name when one channel must, so that the
 /// components of a colour stay together.
-std::string prefixOf(const Imf::Header &header, const std::map<std::string, int> &counts)
+std::string prefixOf(const Imf::Header &header, const std::vector<ExrChannel> &channels,
+                     const std::map<std::string, int> &counts)
 {
-    const Imf::ChannelList &channels = header.channels();
     bool shared = false;
-    for (auto channel = channels.begin(); channel != channels.end(); ++channel)
-        shared = shared || counts.at(channel.name()) > 1;
+    for (const ExrChannel &channel : channels)
+        shared = shared || counts.at(channel.name) > 1;
     return shared && header.hasName() ? header.name() + '.' : std::string();
 }
 
@@ -94,26 +97,29 @@ ExrFile::ExrFile(const SourceFile &file)
     // A table of chunks that is not there is not rebuilt: the writer has not finished, or the file is cut.
     , m_parts(file.path().c_str(), exrPoolThreads(), false)
 {
-    listChannels();
+    listChannels(false);
+    listChannels(true);
+    if (m_channels.empty())
+        throw ImageError(TLoadFailure::Unsupported,
+                         "deep pixels without the channels Z and A, which no picture can be made of");
 }
 
-void ExrFile::listChannels()
+void ExrFile::listChannels(bool deep)
 {
-    const std::map<std::string, int> counts = countNames(m_parts);
+    const std::map<std::string, int> counts = countNames(m_parts, deep);
     std::set<std::string> taken;
+    for (const ExrChannel &channel : m_channels)
+        taken.insert(channel.layer);
     for (int part = 0; part < m_parts.parts(); ++part) {
         const Imf::Header &partHeader = header(part);
-        if (!isFlat(partHeader))
+        if (deep ? !isDeep(part) : !isFlat(partHeader))
             continue;
-        const std::string prefix = prefixOf(partHeader, counts);
-        const Imf::ChannelList &channels = partHeader.channels();
-        for (auto channel = channels.begin(); channel != channels.end(); ++channel) {
-            const std::string name = channel.name();
-            const std::string layer = name.starts_with(prefix) ? name : prefix + name;
-            const Imf::Channel &details = channel.channel();
-            if (taken.insert(layer).second)
-                m_channels.push_back(
-                    {layer, name, part, details.type, {details.xSampling, details.ySampling}});
+        std::vector<ExrChannel> channels = channelsOf(partHeader, part);
+        const std::string prefix = prefixOf(partHeader, channels, counts);
+        for (ExrChannel &channel : channels) {
+            channel.layer = channel.name.starts_with(prefix) ? channel.name : prefix + channel.name;
+            if (taken.insert(channel.layer).second)
+                m_channels.push_back(std::move(channel));
         }
     }
 }
@@ -121,14 +127,17 @@ void ExrFile::listChannels()
 void ExrFile::checkPart(int part) const
 {
     if (!m_parts.partComplete(part))
-        throw std::runtime_error("chunks are missing");
+        throw ImageError(TLoadFailure::Damaged, nameOf(part) + " lacks some of its pixels");
     const Imf::Header &partHeader = header(part);
     const Imath::Box2i &window = partHeader.dataWindow();
     const std::uint64_t width = isTiled(part) ? partHeader.tileDescription().xSize
                                               : std::uint64_t(std::int64_t(window.max.x) - window.min.x + 1);
     const auto rows = std::uint64_t(chunkRows(part));
-    if (!m_source.canHold(width * rows * bytesPerPixel(partHeader.channels()), expansion(part)))
-        throw std::runtime_error("chunks larger than the file");
+    // Of a deep pixel only its count of samples has a size.
+    const std::uint64_t bytes = isDeep(part) ? sizeof(std::uint32_t) : bytesPerPixel(partHeader.channels());
+    if (!m_source.canHold(width * rows * bytes, expansion(part)))
+        throw ImageError(TLoadFailure::Damaged,
+                         nameOf(part) + " has chunks that are larger than the file can fill");
 }
 
 std::uint64_t ExrFile::expansion(int part) const
@@ -144,7 +153,19 @@ int ExrFile::chunkRows(int part) const
 
 bool ExrFile::isTiled(int part) const
 {
-    return header(part).type() == Imf::TILEDIMAGE;
+    return header(part).type() == Imf::TILEDIMAGE || header(part).type() == Imf::DEEPTILE;
+}
+
+bool ExrFile::isDeep(int part) const
+{
+    return TImageLibrary::isDeep(header(part));
+}
+
+std::string ExrFile::nameOf(int part) const
+{
+    if (m_parts.parts() == 1)
+        return "the file";
+    return header(part).hasName() ? "part \"" + header(part).name() + '"' : "part " + std::to_string(part);
 }
 
 int exrPoolThreads()

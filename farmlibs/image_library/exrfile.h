@@ -13,22 +13,30 @@
 
 namespace TImageLibrary {
 
-/// Names a channel of a flat part.
+/// Tells what the samples of a channel are made of.
+enum class ExrOrigin {
+    Stored,
+    Chroma, ///< R, G or B, of the part's luminance and chroma
+    Deep, ///< any number of samples in each pixel
+};
+
+/// Names a channel of a part.
 struct ExrChannel {
     std::string layer; ///< unique in the file
     std::string name; ///< unique in its part
     int part = 0;
     Imf::PixelType type = Imf::HALF;
     Imath::V2i sampling{1, 1};
+    ExrOrigin origin = ExrOrigin::Stored;
 };
 
-/// Reads the headers of an OpenEXR file. Deep parts, whose pixels hold any number of samples, are passed over.
+/// Reads the headers of an OpenEXR file. Deep parts count where their pixels can be flattened.
 class ExrFile final {
 public:
-    /// Throws when the headers are damaged.
+    /// Throws when the headers are damaged, or there is nothing to show.
     explicit ExrFile(const SourceFile &file);
 
-    /// Part after part, each part's in the order of its header.
+    /// Part after part, the deep ones last, each part's in the order of its header.
     const std::vector<ExrChannel> &channels() const { return m_channels; }
     const SourceFile &source() const { return m_source; }
     const Imf::Header &header(int part) const { return m_parts.header(part); }
@@ -41,9 +49,12 @@ public:
     /// Rows of pixels that the part compresses together.
     int chunkRows(int part) const;
     bool isTiled(int part) const;
+    bool isDeep(int part) const;
+    /// The part in words.
+    std::string nameOf(int part) const;
 
 private:
-    void listChannels();
+    void listChannels(bool deep);
 
     const SourceFile &m_source;
     Imf::MultiPartInputFile m_parts;

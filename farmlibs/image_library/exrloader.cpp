@@ -1,10 +1,15 @@
 #include "exrloader.h"
 
+#include "exrchroma.h"
+#include "exrdeep.h"
 #include "exrpixels.h"
 
 #include <ImathBox.h>
 #include <ImfThreading.h>
 
+#include <algorithm>
+#include <functional>
+#include <list>
 #include <map>
 #include <utility>
 
@@ -13,6 +18,34 @@ namespace TImageLibrary {
 namespace {
 
 constexpr char kFormat[] = "exr";
+
+/// Reads a flat part once, for what is stored and for the colour that is made of luminance and chroma.
+void readFlatPart(ExrFile &exr, int part, const std::vector<ExrTarget *> &targets,
+                  const std::function<void(double)> &report)
+{
+    std::vector<ExrTarget *> stored;
+    std::map<std::string, std::vector<ExrTarget *>> colors; // by their prefixes
+    for (ExrTarget *target : targets) {
+        const std::string &name = target->channel.name;
+        if (target->channel.origin == ExrOrigin::Chroma)
+            colors[name.substr(0, name.size() - 1)].push_back(target);
+        else
+            stored.push_back(target);
+    }
+    std::list<ExrChroma> chroma;
+    for (const auto &[prefix, members] : colors) {
+        chroma.emplace_back(exr, members);
+        for (ExrTarget &source : chroma.back().sources())
+            stored.push_back(&source);
+    }
+    const double steps = 1.0 + double(chroma.size());
+    readPart(exr, part, stored, [&](double fraction) { report(fraction / steps); });
+    double done = 1.0;
+    for (ExrChroma &each : chroma) {
+        each.makeColors([&](double fraction) { report((done + fraction) / steps); });
+        done += 1.0;
+    }
+}
 
 } // namespace
 
@@ -55,10 +88,14 @@ CTImage ExrLoader::load(const SourceFile &file, const std::string &, const std::
         byPart[target.channel.part].push_back(&target);
     double done = 0.0;
     for (const auto &[part, members] : byPart) {
-        readPart(exr, part, members,
-                 [&](double fraction) { progress.report((done + fraction) / double(byPart.size())); });
+        const auto report = [&](double fraction) {
+            progress.report((done + fraction) / double(byPart.size()));
+        };
+        exr.isDeep(part) ? flattenPart(exr, part, members, report) : readFlatPart(exr, part, members, report);
         done += 1.0;
     }
+    const bool deep = std::any_of(byPart.begin(), byPart.end(),
+                                  [&exr](const auto &part) { return exr.isDeep(part.first); });
 
     const Imath::V2i size = exr.header(targets.front().channel.part).displayWindow().size() + Imath::V2i(1);
     std::vector<CTImageLayer> layers;
@@ -68,7 +105,7 @@ CTImage ExrLoader::load(const SourceFile &file, const std::string &, const std::
         layers.emplace_back(target.channel.layer, std::move(channels));
     }
     // Colour is stored multiplied by its alpha in this format.
-    return CTImage(size.x, size.y, true, std::move(layers));
+    return CTImage(size.x, size.y, true, std::move(layers), deep);
 }
 
 } // namespace TImageLibrary

@@ -4,7 +4,8 @@
 
 namespace TImageLibrary {
 
-/// Reads OpenEXR files, flat parts: a layer for each channel, decoded straight into its plane.
+/// Reads OpenEXR files: a layer for each channel, decoded straight into its plane. Deep pixels are flattened, and
+/// luminance and chroma become colour.
 class ExrLoader final : public ImageLoader {
 public:
     /// Starts the pool of threads that OpenEXR decodes with, one for the process.

@@ -1,6 +1,7 @@
 #include "exrpixels.h"
 
 #include "exrchunks.h"
+#include "imageerror.h"
 
 #include <ImathBox.h>
 #include <ImfChannelList.h>
@@ -12,7 +13,6 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
-#include <stdexcept>
 
 namespace TImageLibrary {
 
@@ -113,6 +113,15 @@ private:
     std::vector<std::byte> m_data;
 };
 
+/// Whether pixels of a band lie in the plane.
+bool reaches(const Imath::Box2i &band, const ExrTarget &target)
+{
+    const Imath::V2i &sampling = target.channel.sampling;
+    const ExrSpan columns = ExrSpan::within(band.min.x, band.max.x, sampling.x);
+    const ExrSpan rows = ExrSpan::within(band.min.y, band.max.y, sampling.y);
+    return ExrSpan::common(columns, target.columns).count > 0 && ExrSpan::common(rows, target.rows).count > 0;
+}
+
 class PartReader final {
 public:
     PartReader(ExrFile &file, int part, const std::vector<ExrTarget *> &targets)
@@ -120,7 +129,6 @@ public:
         , m_part(part)
         , m_targets(targets)
         , m_data(file.header(part).dataWindow())
-        , m_display(file.header(part).displayWindow())
     {
         if (file.isTiled(part))
             m_rows = std::make_unique<TileRows>(file.parts(), part);
@@ -130,7 +138,11 @@ public:
 
     void read(const std::function<void(double)> &report)
     {
-        const bool direct = m_display.intersects(m_data.min) && m_display.intersects(m_data.max);
+        const bool direct = std::all_of(m_targets.begin(), m_targets.end(), [this](const ExrTarget *target) {
+            const Imath::V2i &sampling = target->channel.sampling;
+            return target->columns.contains(ExrSpan::within(m_data.min.x, m_data.max.x, sampling.x))
+                && target->rows.contains(ExrSpan::within(m_data.min.y, m_data.max.y, sampling.y));
+        });
         if (direct)
             setPlanes();
         // In 64 bits: a band may end behind the last row that an int can count.
@@ -171,12 +183,14 @@ private:
 
     void readThroughScratch(const Imath::Box2i &band)
     {
-        if (!band.intersects(m_display))
+        if (std::none_of(m_targets.begin(), m_targets.end(),
+                         [&band](const ExrTarget *target) { return reaches(band, *target); }))
             return;
         const std::uint64_t bytes = (std::uint64_t(band.max.x) - std::uint64_t(band.min.x) + 1)
             * (std::uint64_t(band.max.y) - std::uint64_t(band.min.y) + 1) * m_targets.size() * sizeof(float);
         if (!m_file.source().canHold(bytes, 2 * m_file.expansion(m_part)))
-            throw std::runtime_error("rows larger than the file");
+            throw ImageError(TLoadFailure::Damaged,
+                             m_file.nameOf(m_part) + " has rows larger than it can hold");
         std::vector<Scratch> scratches;
         scratches.reserve(m_targets.size());
         Imf::FrameBuffer buffer;
@@ -192,7 +206,6 @@ private:
     int m_part;
     const std::vector<ExrTarget *> &m_targets;
     Imath::Box2i m_data;
-    Imath::Box2i m_display;
     std::unique_ptr<PartRows> m_rows;
 };
 

@@ -1,11 +1,12 @@
 #include "exrplan.h"
 
+#include "imageerror.h"
+
 #include <ImathBox.h>
 #include <ImathFun.h>
 
 #include <algorithm>
 #include <cstdint>
-#include <stdexcept>
 #include <utility>
 
 namespace TImageLibrary {
@@ -21,7 +22,7 @@ std::vector<ExrChannel> chosenChannels(const std::vector<ExrChannel> &all, const
     std::vector<ExrChannel> chosen;
     std::copy_if(all.begin(), all.end(), std::back_inserter(chosen),
                  [&names](const ExrChannel &channel) { return names.contains(channel.layer); });
-    if (!chosen.empty() || all.empty())
+    if (!chosen.empty())
         return chosen;
     for (const char *name : {"R", "Y"}) {
         const auto found = std::find_if(all.begin(), all.end(),
@@ -40,6 +41,12 @@ Imf::PixelType commonType(const std::vector<ExrChannel> &channels)
     return wide ? Imf::FLOAT : Imf::HALF;
 }
 
+/// A luminance without its chroma is a grey as other formats have it: one without a name.
+std::string planeName(const std::string &layer)
+{
+    return layer == "Y" ? std::string() : layer;
+}
+
 struct Shape {
     ExrSpan columns;
     ExrSpan rows;
@@ -55,7 +62,7 @@ Shape shapeOf(const ExrFile &file, const ExrChannel &channel, Imf::PixelType typ
     shape.columns = ExrSpan::within(display.min.x, display.max.x, channel.sampling.x);
     shape.rows = ExrSpan::within(display.min.y, display.max.y, channel.sampling.y);
     if (shape.columns.count <= 0 || shape.rows.count <= 0)
-        throw std::runtime_error("channel without samples");
+        throw ImageError(TLoadFailure::Damaged, "no samples in channel " + channel.name);
     shape.format = {shape.columns.count, shape.rows.count, type == Imf::HALF ? 2 : 4, true, 1};
     shape.isCovered = data.intersects(display.min) && data.intersects(display.max);
     return shape;
@@ -78,8 +85,6 @@ ExrSpan ExrSpan::common(const ExrSpan &a, const ExrSpan &b)
 std::vector<ExrTarget> planPlanes(const ExrFile &file, const std::set<std::string> &names)
 {
     const std::vector<ExrChannel> channels = chosenChannels(file.channels(), names);
-    if (channels.empty())
-        throw std::runtime_error("no flat channels");
     const Imf::PixelType type = commonType(channels);
 
     std::vector<Shape> shapes;
@@ -93,13 +98,13 @@ std::vector<ExrTarget> planPlanes(const ExrFile &file, const std::set<std::strin
         expansion = std::max(expansion, file.expansion(channel.part) * 2);
     }
     if (!file.source().canHold(bytes - std::min(bytes, kBlankBytes), expansion))
-        throw std::runtime_error("picture larger than the file");
+        throw ImageError(TLoadFailure::Damaged, "announces more pixels than the file can hold");
 
     std::vector<ExrTarget> targets;
     for (std::size_t i = 0; i < channels.size(); ++i) {
         const auto fill = shapes[i].isCovered ? CTImageChannel::Fill::None : CTImageChannel::Fill::Zero;
         targets.push_back({channels[i], type, shapes[i].columns, shapes[i].rows,
-                           CTImageChannel(channels[i].layer, shapes[i].format, fill)});
+                           CTImageChannel(planeName(channels[i].layer), shapes[i].format, fill)});
     }
     return targets;
 }

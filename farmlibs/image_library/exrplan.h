@@ -14,14 +14,16 @@ struct ExrSpan {
     int first = 0;
     int count = 0;
 
+    bool operator==(const ExrSpan &other) const = default;
     int end() const { return first + count; }
+    bool contains(const ExrSpan &other) const { return first <= other.first && end() >= other.end(); }
     /// Those at the pixels from `min` to `max`.
     static ExrSpan within(int min, int max, int sampling);
     static ExrSpan common(const ExrSpan &a, const ExrSpan &b);
 };
 
-/// Pairs a channel to read with the plane that takes it. The plane covers the display window, which stays the same
-/// along a sequence while data windows change.
+/// Pairs a channel to read with the plane that takes it. The planes of a picture cover the display window, which stays the
+/// same along a sequence while data windows change.
 struct ExrTarget {
     ExrChannel channel;
     Imf::PixelType type; ///< of the plane: HALF or FLOAT

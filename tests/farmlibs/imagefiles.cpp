@@ -3,6 +3,7 @@
 #include <ImfChannelList.h>
 #include <ImfDeepFrameBuffer.h>
 #include <ImfDeepScanLineOutputPart.h>
+#include <ImfDeepTiledOutputPart.h>
 #include <ImfFrameBuffer.h>
 #include <ImfHeader.h>
 #include <ImfMultiPartOutputFile.h>
@@ -13,7 +14,6 @@
 
 #include <QtCore/QFile>
 
-#include <array>
 #include <bit>
 #include <cmath>
 #include <limits>
@@ -36,7 +36,10 @@ Imf::Header headerOf(const ExrSpec &spec)
     for (const ExrChannelSpec &channel : spec.channels)
         header.channels().insert(channel.name,
                                  Imf::Channel(channel.type, channel.sampling.x, channel.sampling.y));
-    header.setType(spec.tiled ? Imf::TILEDIMAGE : Imf::SCANLINEIMAGE);
+    if (spec.deep)
+        header.setType(spec.tiled ? Imf::DEEPTILE : Imf::DEEPSCANLINE);
+    else
+        header.setType(spec.tiled ? Imf::TILEDIMAGE : Imf::SCANLINEIMAGE);
     if (spec.tiled)
         header.setTileDescription(Imf::TileDescription(16, 16));
     if (!spec.part.empty())
@@ -70,24 +73,55 @@ void writePart(Imf::MultiPartOutputFile &file, int part, const ExrSpec &spec)
     }
 }
 
-constexpr std::size_t kDeepSize = 4;
-
-void writeDeepPart(Imf::MultiPartOutputFile &file, int part)
+float deepSample(const std::string &channel, int x, int y, int sample)
 {
-    std::array<unsigned, kDeepSize * kDeepSize> counts{};
-    counts.fill(1);
-    float depth = 1.0F;
-    std::array<float *, kDeepSize * kDeepSize> samples{};
-    samples.fill(&depth);
+    const float alpha = sample == 2 ? 1.0F : 0.25F + 0.125F * float(sample);
+    if (channel == "A")
+        return alpha;
+    if (channel.starts_with('Z'))
+        return float(sample) + (channel == "Z" ? 1.0F : 2.5F);
+    return alpha * testValue(x, y, channel.back()) / 1024.0F;
+}
+
+void writeDeepPart(Imf::MultiPartOutputFile &file, int part, const ExrSpec &spec)
+{
+    const Imath::Box2i &data = spec.data;
+    const auto columns = std::size_t(data.max.x - data.min.x) + 1;
+    std::vector<unsigned> counts;
+    std::vector<std::vector<std::vector<quint32>>> samples(spec.channels.size()); // by channel, then pixel
+    for (int y = data.min.y; y <= data.max.y; ++y) {
+        for (int x = data.min.x; x <= data.max.x; ++x) {
+            counts.push_back(unsigned(x * 5 + y * 3 + 64) % 5);
+            for (std::size_t i = 0; i < samples.size(); ++i) {
+                std::vector<quint32> &pixel = samples[i].emplace_back();
+                for (int sample = 0; sample < int(counts.back()); ++sample)
+                    pixel.push_back(
+                        sampleBits(deepSample(spec.channels[i].name, x, y, sample), spec.channels[i].type));
+            }
+        }
+    }
+    const auto origin = -(std::ptrdiff_t(data.min.y) * std::ptrdiff_t(columns) + data.min.x);
     Imf::DeepFrameBuffer buffer;
-    buffer.insertSampleCountSlice(Imf::Slice(Imf::UINT, reinterpret_cast<char *>(counts.data()),
-                                             sizeof(unsigned), sizeof(unsigned) * kDeepSize));
-    buffer.insert("Z",
-                  Imf::DeepSlice(Imf::FLOAT, reinterpret_cast<char *>(samples.data()), sizeof(float *),
-                                 sizeof(float *) * kDeepSize, sizeof(float)));
-    Imf::DeepScanLineOutputPart output(file, part);
-    output.setFrameBuffer(buffer);
-    output.writePixels(kDeepSize);
+    buffer.insertSampleCountSlice(Imf::Slice(Imf::UINT, reinterpret_cast<char *>(counts.data() + origin),
+                                             sizeof(unsigned), sizeof(unsigned) * columns));
+    std::vector<std::vector<quint32 *>> pointers(samples.size());
+    for (std::size_t i = 0; i < samples.size(); ++i) {
+        for (std::vector<quint32> &pixel : samples[i])
+            pointers[i].push_back(pixel.data());
+        buffer.insert(spec.channels[i].name,
+                      Imf::DeepSlice(spec.channels[i].type,
+                                     reinterpret_cast<char *>(pointers[i].data() + origin), sizeof(quint32 *),
+                                     sizeof(quint32 *) * columns, sizeof(quint32)));
+    }
+    if (spec.tiled) {
+        Imf::DeepTiledOutputPart output(file, part);
+        output.setFrameBuffer(buffer);
+        output.writeTiles(0, output.numXTiles() - 1, 0, output.numYTiles() - 1);
+    } else {
+        Imf::DeepScanLineOutputPart output(file, part);
+        output.setFrameBuffer(buffer);
+        output.writePixels(int(counts.size() / columns));
+    }
 }
 
 } // namespace
@@ -153,25 +187,7 @@ void writeExr(const std::string &path, const std::vector<ExrSpec> &parts)
         headers.push_back(headerOf(part));
     Imf::MultiPartOutputFile file(path.c_str(), headers.data(), int(headers.size()));
     for (std::size_t i = 0; i < parts.size(); ++i)
-        writePart(file, int(i), parts[i]);
-}
-
-void writeDeepExr(const std::string &path, const ExrSpec *flat)
-{
-    ExrSpec deep;
-    deep.data = deep.display = {{0, 0}, {kDeepSize - 1, kDeepSize - 1}};
-    deep.channels = {{"Z", Imf::FLOAT}};
-    deep.compression = Imf::ZIPS_COMPRESSION;
-    deep.part = "deep";
-    std::vector<Imf::Header> headers;
-    if (flat)
-        headers.push_back(headerOf(*flat));
-    headers.push_back(headerOf(deep));
-    headers.back().setType(Imf::DEEPSCANLINE);
-    Imf::MultiPartOutputFile file(path.c_str(), headers.data(), int(headers.size()));
-    if (flat)
-        writePart(file, 0, *flat);
-    writeDeepPart(file, int(headers.size()) - 1);
+        (parts[i].deep ? writeDeepPart : writePart)(file, int(i), parts[i]);
 }
 
 bool writeImage(const std::string &path, OIIO::ImageSpec spec)

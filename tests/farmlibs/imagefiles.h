@@ -46,6 +46,7 @@ struct ExrSpec {
     std::vector<ExrChannelSpec> channels{{"A"}, {"B"}, {"G"}, {"R"}};
     Imf::Compression compression = Imf::ZIP_COMPRESSION;
     bool tiled = false;
+    bool deep = false; ///< no, one or several samples in a pixel, which overlap and may hide the rest
     Imf::LineOrder order = Imf::INCREASING_Y;
     std::string part; ///< its name, in a file of several
     int rowsWritten = -1; ///< fewer than there are for a writer that was stopped
@@ -54,8 +55,6 @@ struct ExrSpec {
 /// Pixels are testValue(x, y, index of the channel), x and y in the coordinates of the windows.
 void writeExr(const std::string &path, const ExrSpec &spec);
 void writeExr(const std::string &path, const std::vector<ExrSpec> &parts);
-/// A part "deep" of deep pixels, and, when there is one, a flat part before it.
-void writeDeepExr(const std::string &path, const ExrSpec *flat = nullptr);
 
 /// Writes through OpenImageIO; samples are testValue() scaled to 0 to 1. False when it cannot.
 bool writeImage(const std::string &path, OIIO::ImageSpec spec);

@@ -83,6 +83,17 @@ const std::vector<std::pair<QByteArray, QByteArray>> &intactFiles()
             list.emplace_back("compression" + QByteArray::number(compression) + ".exr",
                               readBytes(folder("a.exr")));
         }
+        for (const char *name : {"deep.exr", "deeptiles.exr", "chroma.exr"}) {
+            ExrSpec spec;
+            spec.deep = name[0] == 'd';
+            spec.tiled = spec.deep && name[4] == 't';
+            spec.compression = Imf::ZIPS_COMPRESSION;
+            spec.channels = {{"A"}, {"B"}, {"Z"}};
+            if (!spec.deep)
+                spec.channels = {{"BY", Imf::HALF, {2, 2}}, {"RY", Imf::HALF, {2, 2}}, {"Y"}};
+            writeExr(folder("a.exr"), spec);
+            list.emplace_back(name, readBytes(folder("a.exr")));
+        }
         for (const char *name : {"a.png", "a.jpg", "a.tif", "a.tga", "a.bmp", "a.gif", "a.webp", "a.sgi",
                                  "a.dpx", "a.hdr", "a.rla", "a.ppm"}) {
             OIIO::ImageSpec spec(40, 30, 3, TypeDesc::UINT8);
@@ -111,7 +122,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("name");
         QTest::addColumn<QByteArray>("bytes");
 
-        QCOMPARE(intactFiles().size(), std::size_t(Imf::NUM_COMPRESSION_METHODS) + 14);
+        QCOMPARE(intactFiles().size(), std::size_t(Imf::NUM_COMPRESSION_METHODS) + 17);
         for (const auto &[name, bytes] : intactFiles())
             QTest::newRow(name.constData()) << name << bytes;
     }
@@ -177,6 +188,9 @@ private Q_SLOTS:
             {"name", "bytes"},
             {{"lines", "a.exr", window("compression2.exr", {0, 0, kSide, kSide})},
              {"wide lines", "a.exr", window("compression2.exr", {0, 0, kSide, 29})},
+             {"deep lines", "a.exr", window("deep.exr", {0, 0, kSide, kSide})},
+             {"deep tiles", "a.exr", window("deeptiles.exr", {0, 0, kSide, kSide})},
+             {"chroma", "a.exr", window("chroma.exr", {0, 0, kSide, 29})},
              {"many tiles", "a.exr", window("compression3.exr", {0, 0, 39, kSide})},
              {"large tiles", "a.exr",
               patched(files["compression3.exr"], QByteArray("tiledesc\0\x9\0\0\0", 13), 0,

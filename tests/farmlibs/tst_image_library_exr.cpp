@@ -1,6 +1,10 @@
 #include "imagefiles.h"
 #include "table.h"
 
+#include <ImfRgbaFile.h>
+#include <ImfStandardAttributes.h>
+#include <OpenImageIO/imagebufalgo.h>
+
 #include <QtTest/QTest>
 
 #include <cmath>
@@ -99,12 +103,16 @@ private Q_SLOTS:
         }
     }
 
-    void lumaChroma()
+    /// Beside a colour, luminance and chroma stay as they are.
+    void subsampled()
     {
         const ImageFolder folder;
         ExrSpec spec;
-        spec.channels = {
-            {"BY", Imf::HALF, {2, 2}}, {"RY", Imf::HALF, {2, 2}}, {"Y"}, {"rows", Imf::HALF, {1, 2}}};
+        spec.channels = {{"BY", Imf::HALF, {2, 2}},
+                         {"R"},
+                         {"RY", Imf::HALF, {2, 2}},
+                         {"Y"},
+                         {"rows", Imf::HALF, {1, 2}}};
         // The last column and row of the display window, and its first, have no chroma of their own.
         spec.display = {{-3, 1}, {37, 28}};
         for (const auto &[data, compression] :
@@ -119,10 +127,11 @@ private Q_SLOTS:
             QVERIFY(image);
             QCOMPARE(image->GetDefaultLayer()->GetLayerName(), "Y");
             const CTImageChannel &luma = *image->GetLayer("Y")->GetDefaultChannel();
+            QCOMPARE(luma.GetChannelName(), ""); // a grey like any other
             QCOMPARE(QSize(luma.GetChannelWidth(), luma.GetChannelHeight()), QSize(41, 28));
             // The first samples in sight are at x = -2, or -3 where every column has one, and at y = 2.
             for (const auto &[name, left, step, index] :
-                 {std::tuple("BY", -2, 2, 0), {"RY", -2, 2, 1}, {"rows", -3, 1, 3}}) {
+                 {std::tuple("BY", -2, 2, 0), {"RY", -2, 2, 2}, {"rows", -3, 1, 4}}) {
                 const CTImageChannel &chroma = *image->GetLayer(name)->GetDefaultChannel();
                 const int columns = step == 2 ? 20 : 41;
                 QCOMPARE(QSize(chroma.GetChannelWidth(), chroma.GetChannelHeight()), QSize(columns, 14));
@@ -133,6 +142,61 @@ private Q_SLOTS:
                              data.intersects(pixel) ? double(value) : 0.0);
                 }
             }
+        }
+    }
+
+    /// Luminance and chroma come as the colour that the format's own reader makes of them.
+    void lumaChroma_data()
+    {
+        addTable<Imath::Box2i, int, int>(
+            {"data", "compression", "order"},
+            {{"as it is", {{0, 0}, {39, 29}}, Imf::PIZ_COMPRESSION, Imf::INCREASING_Y},
+             {"from the bottom", {{0, 0}, {39, 29}}, Imf::ZIP_COMPRESSION, Imf::DECREASING_Y},
+             {"larger", {{-6, -4}, {53, 47}}, Imf::NO_COMPRESSION, Imf::INCREASING_Y},
+             {"smaller", {{4, 2}, {11, 5}}, Imf::ZIPS_COMPRESSION, Imf::INCREASING_Y},
+             {"two lines", {{2, 28}, {3, 29}}, Imf::RLE_COMPRESSION, Imf::INCREASING_Y}});
+    }
+
+    void lumaChroma()
+    {
+        QFETCH(const Imath::Box2i, data);
+        QFETCH(const int, compression);
+        QFETCH(const int, order);
+        const ImageFolder folder;
+        Imf::Header header({{0, 0}, {39, 29}}, data, 1, {0, 0}, 1, Imf::LineOrder(order),
+                           Imf::Compression(compression));
+        Imf::addChromaticities(header, {{0.68F, 0.32F}, {0.265F, 0.69F}, {0.15F, 0.06F}, {0.314F, 0.351F}});
+        const auto columns = std::size_t(data.max.x - data.min.x) + 1;
+        std::vector<Imf::Rgba> pixels(columns * (std::size_t(data.max.y - data.min.y) + 1));
+        for (std::size_t i = 0; i < pixels.size(); ++i)
+            pixels[i] = {testValue(int(i), 0) / 512, testValue(int(i / columns), 7) / 512, float(i % 9 == 0),
+                         testValue(int(i), 3) / 512};
+        const auto at = [&](int x, int y) {
+            return std::ptrdiff_t(y - data.min.y) * std::ptrdiff_t(columns) + x - data.min.x;
+        };
+        {
+            Imf::RgbaOutputFile file(folder("a.exr").c_str(), header, Imf::WRITE_YCA);
+            file.setFrameBuffer(pixels.data() + at(0, 0), 1, columns);
+            for (int row = data.min.y; row <= data.max.y; ++row)
+                file.writePixels();
+        }
+        Imf::RgbaInputFile reference(folder("a.exr").c_str());
+        reference.setFrameBuffer(pixels.data() + at(0, 0), 1, columns);
+        reference.readPixels(data.min.y, data.max.y);
+
+        QCOMPARE(layersOf(folder("a.exr")), R"("A" "B" "G" "R")");
+        const Image image = loadImage(folder("a.exr"));
+        QVERIFY(image);
+        for (int i = 0; i < 40 * 30 * 4; ++i) {
+            const Imath::V2i pixel(i / 4 % 40, i / 160);
+            const char *names[] = {"R", "G", "B", "A"};
+            const half Imf::Rgba::*members[] = {&Imf::Rgba::r, &Imf::Rgba::g, &Imf::Rgba::b, &Imf::Rgba::a};
+            const float expected = data.intersects(pixel)
+                ? float(pixels[std::size_t(at(pixel.x, pixel.y))].*members[i % 4])
+                : 0.0F;
+            const double value = sampleAt(image, names[i % 4], pixel.x, pixel.y);
+            QVERIFY2(std::abs(value - double(expected)) <= 1.0 / 255,
+                     qPrintable(QStringLiteral("%1 as sample %2, not %3").arg(value).arg(i).arg(expected)));
         }
     }
 
@@ -180,21 +244,69 @@ private Q_SLOTS:
                  part > 0 ? 0.0 : double(testValue(39, 2))); // the pixel before it in memory
     }
 
-    void deepPartsAreLeftOut()
+    void deep_data()
+    {
+        addTable<Imath::Box2i, int, bool, QByteArrayList>(
+            {"data", "compression", "tiled", "parts"},
+            {{"lines", {{0, 0}, {39, 29}}, Imf::ZIPS_COMPRESSION, false, {""}},
+             {"lines beyond the picture", {{-8, -70}, {50, 99}}, Imf::RLE_COMPRESSION, false, {""}},
+             {"a piece", {{7, 3}, {20, 19}}, Imf::NO_COMPRESSION, true, {""}},
+             {"tiles", {{-3, -40}, {39, 99}}, Imf::ZIPS_COMPRESSION, true, {""}},
+             {"parts", {{0, 0}, {39, 29}}, Imf::ZIPS_COMPRESSION, false, {"left", "right"}}});
+    }
+
+    void deep()
+    {
+        QFETCH(const Imath::Box2i, data);
+        QFETCH(const int, compression);
+        QFETCH(const bool, tiled);
+        QFETCH(const QByteArrayList, parts);
+        const ImageFolder folder;
+        std::vector<ExrSpec> specs;
+        for (const QByteArray &part : parts) {
+            ExrSpec spec;
+            spec.data = data;
+            spec.compression = Imf::Compression(compression);
+            spec.channels = {{"A"}, {"B"}, {"G"}, {"R", Imf::FLOAT}, {"Z", Imf::FLOAT}, {"ZBack"}};
+            spec.part = part.toStdString();
+            spec.tiled = tiled;
+            spec.deep = true;
+            specs.push_back(spec);
+        }
+        writeExr(folder("a.exr"), specs);
+        for (int part = 0; part < parts.size(); ++part) {
+            const OIIO::ImageBuf flat = OIIO::ImageBufAlgo::flatten(OIIO::ImageBuf(folder("a.exr"), part, 0));
+            QVERIFY2(!flat.has_error(), flat.geterror().c_str());
+            for (const char *name : {"R", "G", "B", "A"}) {
+                const std::string layer =
+                    specs.size() > 1 ? specs[std::size_t(part)].part + '.' + name : name;
+                const Image image = loadImage(folder("a.exr"), {layer});
+                QVERIFY(image && image->GetIsDeep() && image->GetIsPremultiplied());
+                QCOMPARE(QSize(image->GetWidth(), image->GetHeight()), QSize(40, 30));
+                for (int i = 0; i < 40 * 30; ++i) {
+                    const double expected = double(flat.getchannel(
+                        i % 40, i / 40, 0, flat.spec().channelindex(name), OIIO::ImageBuf::WrapBlack));
+                    QVERIFY(std::abs(sampleAt(image, layer.c_str(), i % 40, i / 40) - expected) <= 1.0 / 255);
+                }
+            }
+        }
+    }
+
+    void deepBesideFlat()
     {
         const ImageFolder folder;
-        writeDeepExr(folder("deep.exr"));
-        QCOMPARE(layersOf(folder("deep.exr")), "none");
-        QVERIFY(!Image(IImageCore::Load(folder("deep.exr").c_str(), "exr", {"Z"}, nullptr, nullptr)));
-
+        ExrSpec deep;
+        deep.deep = true;
+        deep.part = "deep";
+        deep.compression = Imf::ZIPS_COMPRESSION;
+        deep.channels = {{"A"}, {"Z"}, {"id", Imf::UINT}};
         ExrSpec flat;
-        flat.data = flat.display = {{0, 0}, {3, 3}};
-        flat.channels = {{"R"}, {"Z"}};
         flat.part = "flat";
-        writeDeepExr(folder("mixed.exr"), &flat);
-        QCOMPARE(layersOf(folder("mixed.exr")), R"("R" "Z")");
-        const Image image = loadImage(folder("mixed.exr"));
-        QVERIFY(image);
+        flat.channels = {{"R"}, {"Z"}};
+        writeExr(folder("mixed.exr"), {deep, flat});
+        QCOMPARE(layersOf(folder("mixed.exr")), R"("R" "Z" "deep.A" "deep.Z")");
+        const Image image = loadImage(folder("mixed.exr"), {"Z"});
+        QVERIFY(image && !image->GetIsDeep());
         QCOMPARE(sampleAt(image, "Z", 2, 1), double(testValue(2, 1, 1)));
     }
 

@@ -249,7 +249,7 @@ private Q_SLOTS:
         const Image half(made);
         QCOMPARE(QSize(half->GetWidth(), half->GetHeight()), QSize(20, 15));
         QCOMPARE(half->GetIsPremultiplied(), image->GetIsPremultiplied());
-        const CTImageChannel &luma = *half->GetLayer("Y")->GetChannel("Y");
+        const CTImageChannel &luma = *half->GetLayer("Y")->GetDefaultChannel();
         QCOMPARE(luma.GetChannelBitDepth(), 2);
         QCOMPARE(QSize(luma.GetChannelWidth(), luma.GetChannelHeight()), QSize(20, 15));
         for (int i = 0; i < 20 * 15; ++i) {
