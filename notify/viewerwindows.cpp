@@ -8,6 +8,7 @@
 #include <ui/tappstate.h>
 #include <viewer/frames/framesequence.h>
 #include <viewer/imageviewer.h>
+#include <viewer/session/viewersession.h>
 
 #include <QtCore/QTimer>
 
@@ -58,6 +59,10 @@ void ViewerWindows::setSettings(const Settings &settings)
     m_totals.videoMemoryBudget = settings.imageViewerMaxGPUCache;
     m_totals.mainMemoryBudget = settings.imageViewerMaxRAMCache;
     m_settings = {settings.imageViewerExrImportGamma, settings.imageViewerDefaultImportGamma};
+    for (const QPointer<ImageViewer> &viewer : std::as_const(m_viewers)) {
+        if (viewer)
+            viewer->session().applyBudgets();
+    }
 }
 
 ImageViewer *ViewerWindows::create(QWidget *parent)

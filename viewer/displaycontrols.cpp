@@ -8,10 +8,12 @@
 #include <viewer/session/viewersession.h>
 
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QStandardItemModel>
 #include <QtGui/qopengl.h>
 #include <QtWidgets/QColorDialog>
 
 #include <algorithm>
+#include <utility>
 
 DisplayControls::DisplayControls(const Ui::ImageViewerClass &form, ViewerSession &session)
     : m_form(form)
@@ -56,7 +58,7 @@ void DisplayControls::connectSession()
     });
     connect(&m_session, &ViewerSession::opened, this, [this] { setChannelViewMode(0); });
     connect(&m_session, &ViewerSession::loaded, this, [this] {
-        if (m_session.lastLoad().layers)
+        if (m_session.lastLoad().shown())
             showLayers();
         enableChannels();
     });
@@ -95,17 +97,31 @@ void DisplayControls::setChannelViewMode(int mode)
 
 void DisplayControls::showLayers()
 {
+    const LayerList &layers = m_session.layers();
+    const QString shown = QString::fromStdString(m_session.layer());
+    const bool isMissing = !layers.offers(m_session.chosenLayer());
     QStringList entries;
-    for (const std::string &entry : m_session.layers().entries)
+    for (const std::string &entry : layers.entries)
         entries += QString::fromStdString(entry);
     if (entries.isEmpty())
         entries += QStringLiteral("Default");
+    int current = std::max(0, int(entries.indexOf(shown)));
+    if (isMissing) {
+        current = 0;
+        entries.prepend(tr("%1 (not in this frame, %2 is shown)")
+                            .arg(QString::fromStdString(m_session.chosenLayer()), shown));
+    }
     QComboBox &selector = *m_form.layersSelector;
     const QSignalBlocker blocker(selector);
-    selector.clear();
-    for (const QString &entry : std::as_const(entries))
-        selector.addItem(shortened(entry), entry);
-    selector.setCurrentIndex(std::max(0, int(entries.indexOf(QString::fromStdString(m_session.layer())))));
+    if (entries != std::exchange(m_layerEntries, entries)) {
+        selector.clear();
+        for (const QString &entry : std::as_const(entries))
+            selector.addItem(shortened(entry), entry);
+        // What is not there cannot be chosen.
+        if (auto *items = qobject_cast<QStandardItemModel *>(selector.model()); items && isMissing)
+            items->item(0)->setEnabled(false);
+    }
+    selector.setCurrentIndex(current);
 }
 
 void DisplayControls::enableChannels()

@@ -2,6 +2,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QStringList>
 #include <QtGui/QColor>
 
 class QToolButton;
@@ -35,6 +36,7 @@ private:
 
     const Ui::ImageViewerClass &m_form;
     ViewerSession &m_session;
+    QStringList m_layerEntries; // that the selector holds
     QColor m_backgroundColor = Qt::black;
     QColor m_hudColor = Qt::white;
 };

@@ -11,12 +11,11 @@ namespace {
 
 const QString kStateKey = QStringLiteral("fileSelectorsCaches/ImageViewer");
 
-QString filters()
+QString filters(TImageLibrary::IImageCore *library)
 {
-    using TImageLibrary::IImageCore;
     QString text = QCoreApplication::translate("ImageViewer", "All files (*)");
-    const auto end = IImageCore::LoaderExtensionsEnd();
-    for (auto it = IImageCore::LoaderExtensionsBegin(); it != end; ++it) {
+    const auto end = library->LoaderExtensionsEnd();
+    for (auto it = library->LoaderExtensionsBegin(); it != end; ++it) {
         const QString extension = QString::fromStdString(it.extension());
         text += QStringLiteral(";;%1 (*.%2)").arg(extension.toUpper(), extension);
     }
@@ -25,13 +24,13 @@ QString filters()
 
 } // namespace
 
-QString pickImageFile(QWidget *parent)
+QString pickImageFile(QWidget *parent, TImageLibrary::IImageCore *library)
 {
     QSettings settings;
     const QPointer<QFileDialog> dialog =
         new QFileDialog(parent, QCoreApplication::translate("ImageViewer", "Select images"));
     dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilters(filters().split(QStringLiteral(";;")));
+    dialog->setNameFilters(filters(library).split(QStringLiteral(";;")));
     dialog->restoreState(settings.value(kStateKey).toByteArray());
     const bool chosen = dialog->exec() == QDialog::Accepted && dialog;
     QString file;

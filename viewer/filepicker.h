@@ -4,6 +4,10 @@
 
 class QWidget;
 
-/// Lets the user choose an image among those that the image library reads; opens where the last one was chosen.
+namespace TImageLibrary {
+class IImageCore;
+}
+
+/// Lets the user choose an image among those that the library reads; opens where the last one was chosen.
 /// Empty when nothing was chosen.
-QString pickImageFile(QWidget *parent);
+QString pickImageFile(QWidget *parent, TImageLibrary::IImageCore *library);

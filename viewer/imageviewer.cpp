@@ -10,6 +10,7 @@
 #include "waitcursor.h"
 #include "zoomcontrol.h"
 
+#include <image_library/iimagecore.h>
 #include <ui/plaintext.h>
 #include <viewer/frames/cachetotals.h>
 #include <viewer/frames/imageframe.h>
@@ -32,6 +33,7 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     , m_ui(std::make_unique<Ui::ImageViewerClass>())
     , m_totals(totals)
     , m_settings(settings)
+    , m_imageCore(TImageLibrary::IImageCore::GetUniqueClass())
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setName(QStringLiteral("imageViewer"));
@@ -117,6 +119,8 @@ void ImageViewer::connectSession()
         m_zoom->refresh();
         m_ui->infoLabel->setText(m_totals.statusText());
     });
+    connect(m_session.get(), &ViewerSession::cacheTrimmed, this,
+            [this] { m_ui->infoLabel->setText(m_totals.statusText()); });
 }
 
 void ImageViewer::filterKeys()
@@ -188,7 +192,7 @@ void ImageViewer::editFramesPath()
 void ImageViewer::pickFramesPath()
 {
     const QPointer<ImageViewer> self(this);
-    const QString file = pickImageFile(this);
+    const QString file = pickImageFile(this, m_imageCore);
     if (self && !file.isEmpty())
         setFramesPath({.path = file.toStdString(), .maskIsSequence = true});
 }

@@ -18,6 +18,10 @@ class imageWidget;
 struct CacheTotals;
 struct FramesRequest;
 
+namespace TImageLibrary {
+class IImageCore;
+}
+
 namespace Ui {
 class ImageViewerClass;
 }
@@ -71,6 +75,8 @@ private:
     const std::unique_ptr<Ui::ImageViewerClass> m_ui;
     CacheTotals &m_totals;
     const ViewerSettings m_settings;
+    // A farm's own library may come to life when it is asked for this: before the first frame is loaded.
+    TImageLibrary::IImageCore *const m_imageCore;
     std::unique_ptr<ViewerSession> m_session; // ends before the picture that shows its frames
     ZoomControl *m_zoom = nullptr;
     // These end before the session.

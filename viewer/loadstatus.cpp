@@ -37,17 +37,49 @@ void LoadStatus::showOutcome()
     const bool failed = load.failed();
     if (failed) {
         const bool missing = load.outcome == LoadOutcome::NotFound;
-        const QString text = missing ? tr("File not found at path: %1") : tr("Corrupted file at path: %1");
         m_form.imageWarningLabel->setPixmap(missing ? m_pictures.missing : m_pictures.broken);
-        m_form.imageWarningReason->setText(text.arg(shortened(m_session.file())));
+        m_form.imageWarningReason->setText(
+            outcomeText(load.outcome).arg(shortened(m_session.file())));
+        m_form.imageWarningDetails->setText(reasonText(load.failure));
         // The focus would go to the next field with the picture, and take the keys of the frames along: the form takes it.
         if (m_form.image->hasFocus())
             m_form.imageContainer->parentWidget()->setFocus();
     } else {
         m_form.imageWarningReason->clear();
+        m_form.imageWarningDetails->clear();
     }
     m_form.imageContainer->setVisible(!failed);
     m_form.imageWarningWidget->setVisible(failed);
+}
+
+QString LoadStatus::outcomeText(LoadOutcome outcome)
+{
+    switch (outcome) {
+    case LoadOutcome::NotFound:
+        return tr("File not found at path: %1");
+    case LoadOutcome::Unreadable:
+        return tr("File that cannot be shown at path: %1");
+    default:
+        return tr("Corrupted file at path: %1");
+    }
+}
+
+QString LoadStatus::reasonText(const FarmHelpers::LoadFailure &failure)
+{
+    using FarmHelpers::LoadFailure;
+    const QString reason = QString::fromStdString(failure.reason);
+    switch (failure.kind) {
+    case LoadFailure::Forbidden:
+        return tr("You have no permission to read it.");
+    case LoadFailure::NoImage:
+        return tr("It is no image of a format that the viewer reads.");
+    case LoadFailure::TooLarge:
+        return tr("Its picture is too large for the memory of this computer.");
+    case LoadFailure::Unsupported:
+        return tr("The viewer cannot read it: %1").arg(reason);
+    default:
+        return reason.isEmpty() ? QString() : tr("What is wrong: %1").arg(reason);
+    }
 }
 
 void LoadStatus::showProgress(const LoadProgress::Step &step)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <viewer/frames/frameloader.h>
 #include <viewer/frames/loadprogress.h>
 
 #include <QtCore/QObject>
@@ -30,6 +31,9 @@ private:
     };
 
     void showOutcome();
+    static QString outcomeText(LoadOutcome outcome);
+    /// Why the file does not load; empty where the image library does not tell.
+    static QString reasonText(const FarmHelpers::LoadFailure &failure);
     void showProgress(const LoadProgress::Step &step);
 
     const Ui::ImageViewerClass &m_form;

@@ -35,9 +35,10 @@ TransportControls::TransportControls(const Ui::ImageViewerClass &form, ViewerSes
     connect(&m_session, &ViewerSession::frameChanged, this, &TransportControls::showFrame);
     connect(&m_session, &ViewerSession::loaded, this, [this] {
         // A frame that was cached changes nothing in the cache.
-        if (!m_session.lastLoad().shown() || m_session.lastLoad().layers)
+        if (!m_session.lastLoad().shown() || m_session.lastLoad().decoded)
             m_form.imageAllocation->update();
     });
+    connect(&m_session, &ViewerSession::cacheTrimmed, m_form.imageAllocation, qOverload<>(&QWidget::update));
     showSequence();
 }
 

@@ -33,8 +33,8 @@ struct ExrChannel {
 /// Reads the headers of an OpenEXR file. Deep parts count where their pixels can be flattened.
 class ExrFile final {
 public:
-    /// Throws when the headers are damaged, or there is nothing to show.
-    explicit ExrFile(const SourceFile &file);
+    /// Throws when the headers are damaged or of a newer OpenEXR, or there is nothing to show.
+    static ExrFile open(const SourceFile &file);
 
     /// Part after part, the deep ones last, each part's in the order of its header.
     const std::vector<ExrChannel> &channels() const { return m_channels; }
@@ -54,6 +54,7 @@ public:
     std::string nameOf(int part) const;
 
 private:
+    explicit ExrFile(const SourceFile &file);
     void listChannels(bool deep);
 
     const SourceFile &m_source;

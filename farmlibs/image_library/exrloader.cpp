@@ -71,7 +71,7 @@ bool ExrLoader::knows(const std::string &format) const
 
 std::set<std::string> ExrLoader::layers(const SourceFile &file, const std::string &) const
 {
-    const ExrFile exr(file);
+    const ExrFile exr = ExrFile::open(file);
     std::set<std::string> names;
     for (const ExrChannel &channel : exr.channels())
         names.insert(channel.layer);
@@ -81,7 +81,7 @@ std::set<std::string> ExrLoader::layers(const SourceFile &file, const std::strin
 CTImage ExrLoader::load(const SourceFile &file, const std::string &, const std::set<std::string> &names,
                         Progress &progress) const
 {
-    ExrFile exr(file);
+    ExrFile exr = ExrFile::open(file);
     std::vector<ExrTarget> targets = planPlanes(exr, names);
     std::map<int, std::vector<ExrTarget *>> byPart;
     for (ExrTarget &target : targets)

@@ -3,6 +3,7 @@
 #include "exrchunks.h"
 #include "imageerror.h"
 
+#include <IexBaseExc.h>
 #include <ImathBox.h>
 #include <ImfChannelList.h>
 #include <ImfFrameBuffer.h>
@@ -13,6 +14,7 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
+#include <string>
 
 namespace TImageLibrary {
 
@@ -122,6 +124,20 @@ bool reaches(const Imath::Box2i &band, const ExrTarget &target)
     return ExrSpan::common(columns, target.columns).count > 0 && ExrSpan::common(rows, target.rows).count > 0;
 }
 
+/// Calls a function of OpenEXR's and adds the place to what it says of damage.
+template <typename Function>
+void located(const std::string &place, const Function &function)
+{
+    try {
+        function();
+    } catch (const Iex::BaseExc &damage) {
+        std::string reason = damage.what();
+        while (reason.ends_with('.'))
+            reason.pop_back();
+        throw ImageError(TLoadFailure::Damaged, reason + ", " + place);
+    }
+}
+
 class PartReader final {
 public:
     PartReader(ExrFile &file, int part, const std::vector<ExrTarget *> &targets)
@@ -150,7 +166,7 @@ public:
         for (std::int64_t top = m_data.min.y; top <= m_data.max.y; top += bandRows) {
             const auto bottom = int(std::min<std::int64_t>(top + bandRows - 1, m_data.max.y));
             if (direct)
-                m_rows->read(int(top), bottom);
+                readRows(int(top), bottom);
             else
                 readThroughScratch({{m_data.min.x, int(top)}, {m_data.max.x, bottom}});
             report(double(bottom - m_data.min.y + 1) / double(m_data.max.y - m_data.min.y + 1));
@@ -181,6 +197,12 @@ private:
         m_rows->setFrameBuffer(buffer);
     }
 
+    void readRows(int top, int bottom)
+    {
+        located("in the lines " + std::to_string(top) + " to " + std::to_string(bottom),
+                [&] { m_rows->read(top, bottom); });
+    }
+
     void readThroughScratch(const Imath::Box2i &band)
     {
         if (std::none_of(m_targets.begin(), m_targets.end(),
@@ -197,7 +219,7 @@ private:
         for (ExrTarget *target : m_targets)
             buffer.insert(target->channel.name, scratches.emplace_back(*target, band).slice());
         m_rows->setFrameBuffer(buffer);
-        m_rows->read(band.min.y, band.max.y);
+        readRows(band.min.y, band.max.y);
         for (const Scratch &scratch : scratches)
             scratch.copyToPlane();
     }
@@ -214,7 +236,7 @@ private:
 void readPart(ExrFile &file, int part, const std::vector<ExrTarget *> &targets,
               const std::function<void(double)> &report)
 {
-    checkLastChunk(file, part);
+    located("in its last lines", [&] { checkLastChunk(file, part); });
     if (hasPlainLines(file, part, targets))
         copyPlainLines(file, part, targets, report);
     else

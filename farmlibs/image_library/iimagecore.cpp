@@ -1,11 +1,14 @@
 #include "iimagecore.h"
 
+#include "imageerror.h"
 #include "imageloader.h"
 #include "imagemodules.h"
 
 #include <algorithm>
 #include <exception>
 #include <memory>
+#include <new>
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -25,12 +28,6 @@ auto firstAnswer(const Ask &ask) -> decltype(ask(std::declval<const ImageLoader 
     return oiio ? ask(oiio->loader) : nullptr;
 }
 
-const ImageLoader *loaderOf(const char *format)
-{
-    const std::string name = format ? format : "";
-    return firstAnswer([&name](const ImageLoader &loader) { return loader.knows(name) ? &loader : nullptr; });
-}
-
 const std::vector<std::string> &extensions()
 {
     static const std::vector<std::string> all = [] {
@@ -47,15 +44,86 @@ const std::vector<std::string> &extensions()
     return all;
 }
 
-/// The decoders throw what they like, often std::bad_alloc: no image is the one answer to all of it.
-template <typename Function>
-auto guarded(const Function &function) -> decltype(function())
+TLoadFailure &lastFailure()
+{
+    thread_local TLoadFailure failure;
+    return failure;
+}
+
+/// What a decoder says as one line, without the path, beside which it is shown.
+std::string plainReason(std::string text, const char *path)
+{
+    constexpr std::size_t kLongest = 500;
+    const std::string quoted = " \"" + std::string(path ? path : "") + '"';
+    for (std::size_t at = text.find(quoted); at != std::string::npos; at = text.find(quoted))
+        text.erase(at, quoted.size());
+    // Each layer of a decoder may put its own words before those of the next, and they may be the same.
+    const std::size_t sentence = text.find(". ") == std::string::npos ? text.size() : text.find(". ") + 2;
+    while (text.size() > sentence && text.compare(sentence, sentence, text, 0, sentence) == 0)
+        text.erase(0, sentence);
+    text.resize(std::min(text.size(), kLongest));
+    std::replace_if(
+        text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 0x7f; }, ' ');
+    while (!text.empty() && (text.back() == ' ' || text.back() == '.'))
+        text.pop_back();
+    return text.empty() ? "damaged" : text;
+}
+
+TLoadFailure failureOf(const std::exception &fault, const char *path)
+{
+    if (const auto *known = dynamic_cast<const ImageError *>(&fault))
+        return {known->kind(), plainReason(known->what(), path)};
+    if (dynamic_cast<const std::bad_alloc *>(&fault) || dynamic_cast<const std::length_error *>(&fault))
+        return {TLoadFailure::TooLarge, "not enough memory for its pixels"};
+    const std::string reason = plainReason(fault.what(), path);
+    // What a decoder does not support it says in so many words.
+    const bool sound = reason.find("support") != std::string::npos;
+    return {sound ? TLoadFailure::Unsupported : TLoadFailure::Damaged, reason};
+}
+
+void keepFailure(const std::exception &fault, const char *path) noexcept
 {
     try {
-        return function();
+        lastFailure() = failureOf(fault, path);
     } catch (...) {
-        return {};
+        lastFailure().kind = TLoadFailure::TooLarge; // not even for the words
     }
+}
+
+/// The decoders throw what they like, often std::bad_alloc: no image is the one answer to all of it, and the reason is kept.
+template <typename Function>
+auto guarded(const char *path, const Function &function) -> decltype(function())
+{
+    lastFailure() = {};
+    try {
+        return function();
+    } catch (const std::exception &fault) {
+        keepFailure(fault, path);
+    } catch (...) {
+        keepFailure(std::runtime_error("damaged"), path);
+    }
+    return {};
+}
+
+const ImageLoader &loaderOf(const char *format)
+{
+    const std::string name = format ? format : "";
+    const ImageLoader *found =
+        firstAnswer([&name](const ImageLoader &loader) { return loader.knows(name) ? &loader : nullptr; });
+    if (!found)
+        throw ImageError(TLoadFailure::Unsupported, '"' + name + "\" is no format that is read here");
+    return *found;
+}
+
+/// The bytes are no image's: damage where the name is one.
+[[noreturn]] void failUnknown(const SourceFile &file)
+{
+    if (!exrModule() && !oiioModule())
+        throw ImageError(TLoadFailure::Unsupported, "the decoders are not installed");
+    const bool hasName =
+        std::find(extensions().begin(), extensions().end(), file.extension()) != extensions().end();
+    throw ImageError(hasName ? TLoadFailure::Damaged : TLoadFailure::NoImage,
+                     "not an image of a known format");
 }
 
 } // namespace
@@ -78,21 +146,18 @@ CTExtensionsIterator IImageCore::LoaderExtensionsEnd()
 
 const char *IImageCore::Probe(const char *path)
 {
-    return guarded([path]() -> const char * {
-        const auto file = SourceFile::open(path);
-        if (!file)
-            return nullptr;
-        return firstAnswer([&file](const ImageLoader &loader) { return loader.probe(*file); });
+    return guarded(path, [path]() -> const char * {
+        const SourceFile file = SourceFile::open(path);
+        const char *format = firstAnswer([&file](const ImageLoader &loader) { return loader.probe(file); });
+        if (!format)
+            failUnknown(file);
+        return format;
     });
 }
 
 bool IImageCore::LoadLayers(const char *path, const char *format, std::set<std::string> &names)
 {
-    names = guarded([path, format]() -> std::set<std::string> {
-        const ImageLoader *loader = loaderOf(format);
-        const auto file = SourceFile::open(path);
-        return loader && file ? loader->layers(*file, format) : std::set<std::string>();
-    });
+    names = guarded(path, [path, format] { return loaderOf(format).layers(SourceFile::open(path), format); });
     return !names.empty();
 }
 
@@ -100,13 +165,16 @@ CTImage *IImageCore::Load(const char *path, const char *format, const std::set<s
                           TLoadProgress progress, void *user)
 {
     Progress reported(progress, user);
-    return guarded([&]() -> CTImage * {
-        const ImageLoader *loader = loaderOf(format);
-        const auto file = SourceFile::open(path);
-        if (!loader || !file)
-            return nullptr;
-        return std::make_unique<CTImage>(loader->load(*file, format, names, reported)).release();
+    return guarded(path, [&]() -> CTImage * {
+        const ImageLoader &loader = loaderOf(format);
+        const SourceFile file = SourceFile::open(path);
+        return std::make_unique<CTImage>(loader.load(file, format, names, reported)).release();
     });
+}
+
+const TLoadFailure &IImageCore::GetLoadFailure()
+{
+    return lastFailure();
 }
 
 void IImageCore::DestroyImage(CTImage *image)

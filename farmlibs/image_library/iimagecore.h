@@ -2,6 +2,7 @@
 
 #include "ctextensionsiterator.h"
 #include "ctimage.h"
+#include "tloadfailure.h"
 
 #include <set>
 #include <string>
@@ -40,6 +41,10 @@ public:
 
     /// Ends an image; null does nothing.
     static void DestroyImage(CTImage *image);
+
+    /// Tells why the last Probe(), LoadLayers() or Load() of this thread gave nothing. An addition to the interface: a
+    /// farm's own library need not have it.
+    static const TLoadFailure &GetLoadFailure();
 
 private:
     IImageCore() = default;

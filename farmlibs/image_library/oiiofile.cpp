@@ -1,5 +1,6 @@
 #include "oiiofile.h"
 
+#include "imageerror.h"
 #include "oiioformats.h"
 #include "planes.h"
 
@@ -59,17 +60,23 @@ OiioFile::OiioFile(const SourceFile &file, const OiioFormat &format)
     : m_format(format)
     , m_input(OIIO::ImageInput::create(format.name))
 {
-    if (!m_input || (format.isWhole && !format.isWhole(file)))
-        throw std::runtime_error("damaged file");
+    if (!m_input)
+        throw ImageError(TLoadFailure::Unsupported, std::string("no support for ") + format.name);
+    if (format.isWhole && !format.isWhole(file))
+        throw ImageError(TLoadFailure::Damaged, "the file ends before its picture does");
     OIIO::ImageSpec wish;
     // The display multiplies by alpha itself.
     wish.attribute("oiio:UnassociatedAlpha", 1);
     if (!m_input->open(file.path(), m_spec, wish))
         fail(*m_input);
-    if (m_spec.width <= 0 || m_spec.height <= 0 || m_spec.depth > 1 || m_spec.nchannels <= 0 || m_spec.deep)
-        throw std::runtime_error("no flat picture");
+    if (m_spec.depth > 1 || m_spec.deep)
+        throw ImageError(TLoadFailure::Unsupported, "no flat picture");
+    if (m_spec.width <= 0 || m_spec.height <= 0 || m_spec.nchannels <= 0)
+        throw ImageError(TLoadFailure::Damaged, "a picture without pixels");
     if (!file.canHold(m_spec.image_bytes(true), format.expansion))
-        throw std::runtime_error("picture larger than the file");
+        throw ImageError(TLoadFailure::Damaged,
+                         "announces " + std::to_string(m_spec.width) + 'x' + std::to_string(m_spec.height)
+                             + " pixels, more than the file can hold");
 }
 
 int OiioFile::orientation() const

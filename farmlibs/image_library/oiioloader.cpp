@@ -1,11 +1,11 @@
 #include "oiioloader.h"
 
+#include "imageerror.h"
 #include "oiiofile.h"
 #include "oiioformats.h"
 
 #include <algorithm>
 #include <iterator>
-#include <stdexcept>
 #include <utility>
 
 namespace TImageLibrary {
@@ -16,7 +16,7 @@ OiioFile opened(const SourceFile &file, const std::string &name)
 {
     const OiioFormat *format = findFormat(name);
     if (!format)
-        throw std::runtime_error("unknown format");
+        throw ImageError(TLoadFailure::Unsupported, "no format that is read here");
     return OiioFile(file, *format);
 }
 

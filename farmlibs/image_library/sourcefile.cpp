@@ -1,6 +1,9 @@
 #include "sourcefile.h"
 
+#include "imageerror.h"
+
 #include <algorithm>
+#include <cerrno>
 #include <fstream>
 #include <system_error>
 
@@ -25,34 +28,50 @@ std::string extensionOf(const std::filesystem::path &path)
     return extension.empty() ? std::string() : lowerCase({extension.begin() + 1, extension.end()});
 }
 
+[[noreturn]] void fail(const std::error_code &error)
+{
+    const bool forbidden =
+        error == std::errc::permission_denied || error == std::errc::operation_not_permitted;
+    throw ImageError(forbidden ? TLoadFailure::Forbidden : TLoadFailure::Unsupported,
+                     forbidden   ? "permission denied"
+                         : error ? error.message()
+                                 : "cannot be read");
+}
+
 } // namespace
 
-std::optional<SourceFile> SourceFile::open(const char *path)
+SourceFile SourceFile::open(const char *path)
 {
-    if (!path)
-        return std::nullopt;
     SourceFile file;
-    file.m_path = path;
+    file.m_path = path ? path : "";
     file.m_nativePath = std::u8string(file.m_path.begin(), file.m_path.end());
     std::error_code error;
     // Opening a pipe would wait for its writer.
-    if (!std::filesystem::is_regular_file(file.m_nativePath, error))
-        return std::nullopt;
+    const auto type = std::filesystem::status(file.m_nativePath, error).type();
+    if (type == std::filesystem::file_type::not_found)
+        throw ImageError(TLoadFailure::Missing, "no such file");
+    if (type == std::filesystem::file_type::none)
+        fail(error);
+    if (type != std::filesystem::file_type::regular)
+        throw ImageError(TLoadFailure::NoImage, "not a file");
     file.m_size = std::filesystem::file_size(file.m_nativePath, error);
     if (error)
-        return std::nullopt;
-    file.m_head = file.bytes(0, std::min(file.m_size, kHeadBytes));
+        fail(error);
+    if (file.m_size == 0)
+        throw ImageError(TLoadFailure::Damaged, "the file is empty");
+    file.m_head = file.beginning(kHeadBytes);
+    if (file.m_head.empty())
+        fail(std::error_code(errno, std::generic_category()));
     const std::uint64_t tail = std::min(file.m_size, kTailBytes);
     file.m_tail = file.bytes(file.m_size - tail, tail);
     file.m_extension = extensionOf(file.m_nativePath);
-    if (file.m_head.empty())
-        return std::nullopt;
     return file;
 }
 
 std::string SourceFile::bytes(std::uint64_t offset, std::uint64_t count) const
 {
     std::string result(count, '\0');
+    errno = 0;
     std::ifstream stream(m_nativePath, std::ios::binary);
     stream.seekg(std::streamoff(offset));
     stream.read(result.data(), std::streamsize(count));
@@ -62,6 +81,11 @@ std::string SourceFile::bytes(std::uint64_t offset, std::uint64_t count) const
 std::string SourceFile::contents() const
 {
     return bytes(0, m_size);
+}
+
+std::string SourceFile::beginning(std::uint64_t count) const
+{
+    return bytes(0, std::min(m_size, count));
 }
 
 bool SourceFile::canHold(std::uint64_t pixelBytes, std::uint64_t expansion) const

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -11,8 +10,8 @@ namespace TImageLibrary {
 /// Tells what a regular file is and what it may hold, by its size, its ends and the extension of its name.
 class SourceFile final {
 public:
-    /// Opens a file; nothing when the path (UTF-8) names no regular file that can be read, or an empty one.
-    static std::optional<SourceFile> open(const char *path);
+    /// Opens a file. Throws when the path (UTF-8) names no regular file that can be read, or an empty one.
+    static SourceFile open(const char *path);
 
     const std::string &path() const { return m_path; }
     /// The first bytes, 512 at most.
@@ -23,6 +22,8 @@ public:
     const std::string &extension() const { return m_extension; }
     /// The whole file; empty when it cannot be read.
     std::string contents() const;
+    /// Its first bytes, `count` at most; empty when it cannot be read.
+    std::string beginning(std::uint64_t count) const;
 
     /// Whether the file's bytes can hold so many bytes of pixels when a byte of the file makes at most `expansion` of
     /// them. A plain picture shrinks to next to nothing in any format, so an everyday size is believed of every file.
@@ -34,7 +35,7 @@ private:
 
     std::string m_path;
     std::filesystem::path m_nativePath;
-    std::uint64_t m_size = 0;
+    std::uint64_t m_size = 0; // at least 1
     std::string m_head;
     std::string m_tail;
     std::string m_extension;

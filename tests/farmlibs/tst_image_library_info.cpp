@@ -6,6 +6,8 @@
 #include <QtCore/QProcess>
 #include <QtTest/QTest>
 
+#include <unistd.h>
+
 namespace {
 
 struct Result {
@@ -63,12 +65,41 @@ private Q_SLOTS:
         const QJsonArray reports = QJsonDocument::fromJson(result.output).array();
         QCOMPARE(reports.size(), 2);
         QCOMPARE(reports[0][u"format"].toString(), QStringLiteral("exr"));
-        QVERIFY(reports[1].toObject().contains(u"error"));
+        QVERIFY(!reports[1][u"error"].toString().isEmpty());
+        QVERIFY(!reports[1][u"error"].toString().contains(file("bad.exr")));
         const QJsonValue chroma = reports[0][u"layers"][2];
         QCOMPARE(chroma[u"name"].toString() + chroma[u"channels"][0][u"type"].toString(),
                  QStringLiteral("BYhalf"));
         QCOMPARE(chroma[u"channels"][0][u"width"].toInt(), 20);
         QCOMPARE(chroma[u"channels"][0][u"height"].toInt(), 15);
+    }
+
+    void reasons()
+    {
+        QVERIFY(writeBytes(m_folder("empty.png"), {}) && writeBytes(m_folder("text.txt"), "no picture"));
+        QVERIFY(writeBytes(m_folder("locked.exr"), readBytes(m_folder("a.exr"))));
+        QVERIFY(QFile::setPermissions(file("locked.exr"), {}));
+        QByteArray newer = readBytes(m_folder("a.exr"));
+        const QByteArray attribute("compression\0compression\0\1\0\0\0", 28);
+        newer[newer.indexOf(attribute) + attribute.size()] = 10;
+        QVERIFY(writeBytes(m_folder("newer.exr"), newer));
+        ExrSpec deep;
+        deep.deep = true;
+        deep.compression = Imf::NO_COMPRESSION;
+        deep.channels = {{"Z"}};
+        writeExr(m_folder("deep.exr"), deep);
+        const std::pair<const char *, QByteArray> reasons[] = {
+            {"missing.exr", "no such file"},
+            {"empty.png", "the file is empty"},
+            {"text.txt", "not an image of a known format"},
+            {"newer.exr", "compressed with HTJ2K, which this OpenEXR does not read"},
+            {"deep.exr", "deep pixels without the channels Z and A, which no picture can be made of"},
+            {"locked.exr", geteuid() == 0 ? "" : "permission denied"}};
+        QVERIFY(run({file("bad.exr")}).errors.contains(", in its last lines"));
+        for (const auto &[name, reason] : reasons) {
+            const QByteArray line = file(name).toUtf8() + ": cannot be read: " + reason + '\n';
+            QCOMPARE(run({file(name)}).errors, reason.isEmpty() ? QByteArray() : line);
+        }
     }
 
     void exitStatus()

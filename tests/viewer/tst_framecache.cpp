@@ -17,14 +17,14 @@ struct Window {
     { }
 
     /// A frame of two planes, 4 and 8 bytes, whose image goes after the load.
-    ImageFrame &insert(char path)
+    ImageFrame &insert(char path, int scale = 1)
     {
         auto frame = std::make_unique<ImageFrame>();
-        frame->planeSizes = {{2, 1}, {2, 2}};
-        frame->planes = {pixels.constData(), pixels.constData() + 4};
+        frame->planeSizes = {{2, scale}, {2, 2 * scale}};
+        frame->planes = {pixels.constData(), pixels.constData() + 4 * scale};
         frame->components = 1;
         frame->pixelType = GL_HALF_FLOAT;
-        frame->byteSize = kFrameBytes;
+        frame->byteSize = kFrameBytes * std::uint64_t(scale);
         frame->display = &display;
         display.uploadTextures(*frame);
         ImageFrame &inserted = cache.insert(std::move(frame), std::string(1, path));
@@ -42,7 +42,7 @@ struct Window {
         return places.trimmed();
     }
 
-    QByteArray pixels = "0123456789ab";
+    QByteArray pixels = QByteArray("0123456789ab").repeated(50);
     FakeDisplay display;
     FrameCache cache;
 };
@@ -77,6 +77,21 @@ private Q_SLOTS:
             window.cache.clear();
             QCOMPARE(window.display.textures, 0);
             QCOMPARE(totals.videoMemoryUsed + totals.mainMemoryUsed, std::uint64_t(0));
+        }
+    }
+
+    /// Large frames after small ones: the small ones leave until less than the budget is in use.
+    void framesOfAnySize()
+    {
+        CacheTotals totals{0, 0, 60, 60};
+        Window window(totals);
+        for (char path = 'a'; path <= 'j'; ++path)
+            window.insert(path);
+        QCOMPARE(totals.videoMemoryUsed + totals.mainMemoryUsed, 120U);
+        for (char path = 'k'; path <= 'z'; ++path) {
+            window.insert(path, 50);
+            QVERIFY(totals.videoMemoryUsed < 60 + 50 * kFrameBytes);
+            QVERIFY(totals.mainMemoryUsed < 60 + 50 * kFrameBytes);
         }
     }
 };

@@ -84,10 +84,12 @@ private Q_SLOTS:
     {
         const Bytes colour = "A B G R p.B p.G p.R Z";
         // The values: the channel's place in the list, per texture
-        addTable<Bytes, Bytes, Bytes, QList<float>>({"channels", "layer", "layout", "values"},
-                                                    {{"colour", colour, "", "R,G,B,A", {4, 3, 2, 1}},
-                                                     {"the default layer", colour, "deep", "R", {4}},
-                                                     {"luma", "Y BY RY A", "", "Y,Cb,Cr,A", {1, 2, 3, 4}}});
+        addTable<Bytes, Bytes, Bytes, QList<float>>(
+            {"channels", "layer", "layout", "values"},
+            {{"colour", colour, "", "R,G,B,A", {4, 3, 2, 1}},
+             {"a layer that is not there", colour, "deep", "R,G,B,A", {4, 3, 2, 1}},
+             {"luma beside colour", "Y BY RY R", "YCbCr", "Y,Cb,Cr", {1, 2, 3}},
+             {"grey", "Y Z", "", "Luminance", {1}}});
     }
 
     void layers()
@@ -107,23 +109,31 @@ private Q_SLOTS:
     /// A failure leaves the cache as it was, and the next try starts anew.
     void failures()
     {
-        using Row = std::tuple<int, LoadOutcome, bool>;
+        using Kind = FarmHelpers::LoadFailure::Kind;
+        using Row = std::tuple<int, LoadOutcome, Kind, bool>;
         // No file, an empty one, one cut in its header, one cut in its pixels
-        for (const auto &[keptBytes, outcome, isCleared] :
-             {Row{-1, LoadOutcome::NotFound, false}, Row{0, LoadOutcome::Corrupted, true},
-              Row{40, LoadOutcome::Corrupted, false}, Row{450, LoadOutcome::Corrupted, false}}) {
+        for (const auto &[keptBytes, outcome, kind, isCleared] :
+             {Row{-1, LoadOutcome::NotFound, Kind::None, false},
+              Row{0, LoadOutcome::Corrupted, Kind::Damaged, true},
+              Row{40, LoadOutcome::Corrupted, Kind::Damaged, false},
+              Row{450, LoadOutcome::Corrupted, Kind::Damaged, false}}) {
             init();
             writeExr(path("a.exr"), "Z", 64);
             QVERIFY(load("a.exr").shown());
             QFile cut(path("b.exr"));
             QVERIFY(keptBytes < 0 || (QFile::copy(path("a.exr"), path("b.exr")) && cut.resize(keptBytes)));
-            QCOMPARE(load("b.exr").outcome, outcome);
+            const LoadResult result = load("b.exr");
+            QCOMPARE(result.outcome, outcome);
+            QCOMPARE(result.failure.kind, kind);
+            QCOMPARE(result.failure.reason.empty(), keptBytes < 0);
             QCOMPARE(m_display->shown == nullptr, isCleared);
             QVERIFY(m_cache->contains(path("a.exr").toStdString())
                     && !m_cache->contains(path("b.exr").toStdString()));
             writeExr(path("b.exr"), "Z");
             QVERIFY(load("b.exr").shown());
         }
+        struct Plain { };
+        QVERIFY(FarmHelpers::lastFailure<Plain>().reason.empty() && !FarmHelpers::isDeep(Plain()));
     }
 
     void downsampling()
@@ -167,7 +177,7 @@ private:
         m_fraction = 0.0F;
         const auto note = [](float fraction, void *user) { *static_cast<float *>(user) = fraction; };
         return FrameLoader(*m_cache, *m_display)
-            .load({path(name).toStdString(), layer, false, true, downsampling, note, &m_fraction});
+            .load({path(name).toStdString(), layer, true, downsampling, note, &m_fraction});
     }
     /// First float of each plane of the last upload.
     QList<float> uploadedValues() const

@@ -173,6 +173,13 @@ private Q_SLOTS:
 
         click("stepBackward");
         QCOMPARE(reason->text(), u"Corrupted file at path: %1"_s.arg(broken));
+        QVERIFY(find<QLabel>("imageWarningDetails")->text().startsWith(u"What is wrong: "_s));
+        QFile notes(path(u"notes.txt"_s));
+        QVERIFY(notes.open(QIODevice::WriteOnly) && notes.write("healthy") > 0);
+        notes.close();
+        m_viewer->setJob({});
+        m_viewer->setFramesPath({.path = notes.fileName().toStdString()});
+        QCOMPARE(reason->text(), u"File that cannot be shown at path: %1"_s.arg(notes.fileName()));
         QVERIFY(!find<QLabel>("imageWarningLabel")->pixmap().isNull());
     }
 
@@ -188,6 +195,19 @@ private Q_SLOTS:
         QCOMPARE(text("startFrame") + text("endFrame"), u"26"_s);
         QCOMPARE(frame(), 3);
         QCOMPARE(seen(), u"#ffffff"_s);
+    }
+
+    void eachFrameTellsItsOwnLayers()
+    {
+        writeFrame(path(u"shot.0002.exr"_s), kFrame, {{"Z", 1.0F}});
+        open(u"shot.0001.exr"_s);
+        auto *layers = find<QComboBox>("layersSelector");
+        press(Qt::Key_Right);
+        QCOMPARE(layers->currentText(), u"RGBA (not in this frame, Z is shown)"_s);
+        press(Qt::Key_Left); // from the cache
+        QCOMPARE(layers->count(), 1);
+        QCOMPARE(layers->currentText(), u"RGBA"_s);
+        QVERIFY(find("alphaChannelButton")->isEnabled());
     }
 
     void marks()

@@ -204,6 +204,52 @@ private Q_SLOTS:
         QVERIFY(m_session->lastLoad().shown());
     }
 
+    void layers()
+    {
+        writeFrame(file(2), kFrame, {{"R", 1.0F}, {"G", 1.0F}, {"B", 1.0F}});
+        writeFrame(file(3), kFrame, {{"Z", 1.0F}});
+        open(u"shot.0001.exr"_s);
+        QVERIFY(!m_session->setLayer("Z"));
+        const int uploads = m_display.uploads;
+        QVERIFY(m_session->setLayer("RGBA"));
+        QCOMPARE(m_display.uploads, uploads + 1);
+        // Each frame has its own, also from the cache, and the choice outlives those that lack it.
+        for (int round = 0; round < 2; ++round) {
+            for (const auto &[frame, entry] : {std::pair(2, "RGB"), {3, "Z"}, {4, "RGBA"}}) {
+                m_session->setFrame(frame);
+                QCOMPARE(m_session->lastLoad().decoded, round == 0);
+                QCOMPARE(m_session->layers().entries, std::vector<std::string>{entry});
+                QCOMPARE(m_session->layer(), entry);
+                QCOMPARE(m_session->chosenLayer(), "RGBA");
+                QCOMPARE(m_session->layers().offers("RGBA"), frame != 3);
+            }
+        }
+        open(file(3));
+        QCOMPARE(m_session->chosenLayer(), "RGBA"); // the same path
+        m_session->reload();
+        QCOMPARE(m_session->chosenLayer(), "RGBA");
+    }
+
+    void lowerBudgets()
+    {
+        open(u"shot.0001.exr"_s);
+        const std::uint64_t bytes = m_totals.videoMemoryUsed;
+        m_totals.videoMemoryBudget = 2 * bytes;
+        for (int frame = 2; frame <= 5; ++frame)
+            m_session->setFrame(frame);
+        QCOMPARE(m_totals.mainMemoryUsed, 3 * bytes);
+        m_session->setFrame(1);
+        m_totals.videoMemoryBudget = m_totals.mainMemoryBudget = bytes;
+        QSignalSpy trimmed(m_session.get(), &ViewerSession::cacheTrimmed);
+        m_session->applyBudgets();
+        QCOMPARE(trimmed.count(), 1);
+        QCOMPARE(m_totals.videoMemoryUsed, bytes);
+        QCOMPARE(m_totals.mainMemoryUsed, bytes);
+        m_totals.videoMemoryBudget = 0;
+        m_session->applyBudgets();
+        QCOMPARE(shownFile(), file(1)); // what is looked at stays
+    }
+
 private:
     void open(const QString &name)
     {

@@ -1,5 +1,6 @@
 #include "imagereport.h"
 
+#include <helpers/imageextras.h>
 #include <helpers/imagepointer.h>
 #include <image_library/iimagecore.h>
 
@@ -110,6 +111,7 @@ bool inspectLayers(const Source &source, const Names &names, ImageReport &report
     report.width = std::max(report.width, int(image->GetWidth()));
     report.height = std::max(report.height, int(image->GetHeight()));
     report.premultiplied = image->GetIsPremultiplied();
+    report.deep = report.deep || FarmHelpers::isDeep(*image);
     for (const std::string &name : names) {
         const CTImageLayer *layer = image->GetLayer(name.c_str());
         if (!layer)
@@ -124,19 +126,23 @@ bool inspectLayers(const Source &source, const Names &names, ImageReport &report
 
 } // namespace
 
-std::optional<ImageReport> inspectImage(const QString &path)
+std::optional<ImageReport> inspectImage(const QString &path, QString &reason)
 {
+    IImageCore::GetUniqueClass();
     const Source source{path.toUtf8(), IImageCore::Probe(path.toUtf8().constData())};
     Names names;
-    if (!source.format || !IImageCore::LoadLayers(source.path.constData(), source.format, names))
-        return std::nullopt;
+    bool loads = source.format && IImageCore::LoadLayers(source.path.constData(), source.format, names);
     ImageReport report;
     report.format = QString::fromUtf8(source.format);
-    while (!names.empty()) {
+    while (loads && !names.empty()) {
         const auto end = std::next(names.begin(), std::ptrdiff_t(std::min(kBatch, names.size())));
-        if (!inspectLayers(source, Names(names.begin(), end), report))
-            return std::nullopt;
+        loads = inspectLayers(source, Names(names.begin(), end), report);
         names.erase(names.begin(), end);
     }
-    return report;
+    if (loads)
+        return report;
+    reason = QString::fromStdString(FarmHelpers::lastFailure<IImageCore>().reason);
+    if (reason.isEmpty())
+        reason = QStringLiteral("damaged, cut short, or no image of a known format");
+    return std::nullopt;
 }

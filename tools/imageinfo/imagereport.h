@@ -33,8 +33,9 @@ struct ImageReport {
     int width = 0;
     int height = 0;
     bool premultiplied = false;
+    bool deep = false; ///< flattened
     std::vector<LayerReport> layers;
 };
 
-/// Tells what the image library makes of a file; nothing when it cannot load it.
-std::optional<ImageReport> inspectImage(const QString &path);
+/// Tells what the image library makes of a file; nothing when it cannot load it, for the reason given.
+std::optional<ImageReport> inspectImage(const QString &path, QString &reason);

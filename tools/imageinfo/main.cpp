@@ -28,13 +28,12 @@ bool printReports(const QStringList &paths, bool asJson)
     bool allLoaded = true;
     QJsonArray reports;
     for (const QString &path : paths) {
-        const auto report = inspectImage(path);
+        QString reason;
+        const auto report = inspectImage(path, reason);
         if (!report) {
             allLoaded = false;
-            print(stderr,
-                  path.toUtf8() + ": cannot be read: damaged, cut short, or no image of a known format\n");
-            reports.append(QJsonObject{{QStringLiteral("file"), path},
-                                       {QStringLiteral("error"), QStringLiteral("cannot be loaded")}});
+            print(stderr, (path + QStringLiteral(": cannot be read: ") + reason + u'\n').toUtf8());
+            reports.append(QJsonObject{{QStringLiteral("file"), path}, {QStringLiteral("error"), reason}});
         } else if (asJson) {
             reports.append(toJson(path, *report));
         } else {

@@ -13,7 +13,7 @@ QString lineOf(const LayerReport &layer, const ChannelReport &channel)
 {
     // A channel of its layer's name adds nothing.
     QString name = layer.name.isEmpty() ? QStringLiteral("Default") : layer.name;
-    if (channel.name != layer.name)
+    if (channel.name != layer.name && !channel.name.isEmpty())
         name += QLatin1Char('/') + channel.name;
     QString line = QStringLiteral("  %1  %2x%3  %4 x %5  min %6  mean %7  max %8")
                        .arg(name, QString::number(channel.width), QString::number(channel.height),
@@ -43,8 +43,9 @@ QJsonObject toJson(const ChannelReport &channel)
 
 QString toText(const QString &path, const ImageReport &report)
 {
-    QString text = QStringLiteral("%1: %2, %3x%4, layers: %5\n")
-                       .arg(path, report.format, QString::number(report.width),
+    const QString deep = report.deep ? QStringLiteral(", deep") : QString();
+    QString text = QStringLiteral("%1: %2%3, %4x%5, layers: %6\n")
+                       .arg(path, report.format, deep, QString::number(report.width),
                             QString::number(report.height), QString::number(report.layers.size()));
     for (const LayerReport &layer : report.layers) {
         for (const ChannelReport &channel : layer.channels)
@@ -69,6 +70,7 @@ QJsonObject toJson(const QString &path, const ImageReport &report)
         {QStringLiteral("width"), report.width},
         {QStringLiteral("height"), report.height},
         {QStringLiteral("premultiplied"), report.premultiplied},
+        {QStringLiteral("deep"), report.deep},
         {QStringLiteral("layers"), layers},
     };
 }

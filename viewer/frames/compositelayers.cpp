@@ -8,9 +8,10 @@ namespace {
 
 constexpr char kDefaultEntry[] = "Default";
 constexpr char kColour[] = "RGBA";
+constexpr std::size_t kMostMembers = 4;
 
 struct Recipe {
-    std::array<const char *, 4> members; ///< the last one may be missing
+    std::array<const char *, kMostMembers> members; ///< the last one may be missing
     std::array<const char *, 2> names; ///< without and with the last member
     std::array<const char *, 2> layouts;
     bool isYCbCr;
@@ -37,6 +38,20 @@ std::optional<CompositeLayer> combined(const Recipe &recipe, const std::string &
     return composite;
 }
 
+/// The name of a composite's like, with alpha for one without and without for one with; empty for other entries.
+std::string likeOf(const std::string &entry)
+{
+    for (const Recipe &recipe : {kRgb, kYCbCr}) {
+        for (const std::size_t which : {0U, 1U}) {
+            const std::string name = recipe.names[which];
+            const bool isNamed = entry == name || entry.ends_with('.' + name);
+            if (isNamed)
+                return entry.substr(0, entry.size() - name.size()) + recipe.names[1 - which];
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 const CompositeLayer *LayerList::composite(std::string_view entry) const
@@ -46,13 +61,47 @@ const CompositeLayer *LayerList::composite(std::string_view entry) const
     return found == composites.end() ? nullptr : &*found;
 }
 
-std::string LayerList::resolved(const std::string &chosen, bool fresh) const
+std::string LayerList::defaultEntry() const
 {
-    const bool isListed = std::find(entries.begin(), entries.end(), chosen) != entries.end();
-    const std::string entry = fresh && !isListed ? std::string() : chosen;
-    if ((entry.empty() || entry == kDefaultEntry) && composite(kColour))
+    // Composites are told from layers of their names, and those of their own beginning from those of a prefix.
+    for (const char *name : {kColour, "RGB", "YCbCrA", "YCbCr"}) {
+        if (composite(name))
+            return name;
+    }
+    for (const char *name : {kDefaultEntry, "R", "Y"}) {
+        if (holds(name))
+            return name;
+    }
+    // The first of them by name stands last.
+    const auto alpha = std::find_if(composites.rbegin(), composites.rend(), [](const CompositeLayer &layer) {
+        return layer.members.size() == kMostMembers;
+    });
+    if (alpha != composites.rend())
+        return alpha->name;
+    if (!composites.empty())
+        return composites.back().name;
+    return entries.empty() ? std::string() : entries.front();
+}
+
+bool LayerList::holds(const std::string &entry) const
+{
+    return std::find(entries.begin(), entries.end(), entry) != entries.end();
+}
+
+std::string LayerList::resolved(const std::string &chosen) const
+{
+    if (chosen == kDefaultEntry && composite(kColour))
         return kColour;
-    return entry.empty() && !entries.empty() ? entries.front() : entry;
+    if (holds(chosen))
+        return chosen;
+    const std::string alike = likeOf(chosen);
+    return !alike.empty() && composite(alike) ? alike : defaultEntry();
+}
+
+bool LayerList::offers(const std::string &chosen) const
+{
+    const std::string alike = likeOf(chosen);
+    return chosen.empty() || chosen == kDefaultEntry || holds(chosen) || (!alike.empty() && composite(alike));
 }
 
 std::string LayerList::layerName(const std::string &entry)

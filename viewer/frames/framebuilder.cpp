@@ -2,6 +2,8 @@
 
 #include "sampleformat.h"
 
+#include <helpers/imageextras.h>
+
 #include <limits>
 
 using TImageLibrary::CTImage;
@@ -60,6 +62,7 @@ std::unique_ptr<ImageFrame> buildFrame(const CTImage &image, const CompositeLaye
     frame->isYCbCr = composite.isYCbCr;
     frame->yFlipped = image.GetIsYFlipped();
     frame->premultiplied = image.GetIsPremultiplied();
+    frame->isDeep = FarmHelpers::isDeep(image);
     for (const std::string &member : composite.members) {
         const CTImageChannel *channel = channelOf(image.GetLayer(member.c_str()));
         // A plane of another type would be read with the wrong size of samples, past its end.
@@ -91,6 +94,7 @@ std::unique_ptr<ImageFrame> buildFrame(const CTImage &image, const std::string &
         singleTextureFormat(channel->GetChannelBitDepth(), channel->GetChannelBitType(), frame->components);
     frame->isYCbCr = name == "Y" || name == "YCbCr" || name == "YCbCrA";
     frame->yFlipped = image.GetIsYFlipped();
+    frame->isDeep = FarmHelpers::isDeep(image);
     if (frame->internalFormat == 0 || !addPlane(*frame, *channel))
         return nullptr;
     return frame;

@@ -65,6 +65,21 @@ bool FrameCache::remove(const std::string &path)
     return true;
 }
 
+bool FrameCache::trim(const std::string &keptPath)
+{
+    const std::size_t before = m_frames.size();
+    const auto drop = [&](const Queue &queue, const std::uint64_t &used, std::uint64_t budget) {
+        for (auto path = queue.begin(); path != queue.end() && used > budget;) {
+            const auto entry = m_frames.find(**path++);
+            if (entry->first != keptPath)
+                destroy(entry);
+        }
+    };
+    drop(m_videoMemory, m_totals.videoMemoryUsed, m_totals.videoMemoryBudget);
+    drop(m_mainMemory, m_totals.mainMemoryUsed, m_totals.mainMemoryBudget);
+    return m_frames.size() < before;
+}
+
 void FrameCache::clear()
 {
     m_display.showFrame(nullptr);
@@ -81,14 +96,10 @@ void FrameCache::place(ImageFrame &frame)
         frame.inVideoMemory = !keepInMainMemory(frame);
         return;
     }
-    removeOldest(m_videoMemory);
-    removeOldest(m_mainMemory);
-}
-
-void FrameCache::removeOldest(const Queue &queue)
-{
-    if (!queue.empty())
-        destroy(m_frames.find(*queue.front()));
+    while (m_totals.videoMemoryUsed >= m_totals.videoMemoryBudget && !m_videoMemory.empty())
+        destroy(m_frames.find(*m_videoMemory.front()));
+    while (m_totals.mainMemoryUsed >= m_totals.mainMemoryBudget && !m_mainMemory.empty())
+        destroy(m_frames.find(*m_mainMemory.front()));
 }
 
 void FrameCache::destroy(Frames::iterator entry)

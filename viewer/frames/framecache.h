@@ -13,8 +13,8 @@
 
 /// The decoded frames of one viewer window by their file path. A frame stays in video memory as textures or in main
 /// memory as copies of its planes, within budgets that all windows share; the oldest frames leave first, however often
-/// they were used. The budgets are soft: a frame of any size enters where less than the budget is in use, and a full
-/// cache lets one more in for every eviction.
+/// they were used. The budgets are soft by one frame: a frame of any size enters where less than the budget is in use, and
+/// what is older leaves until that is so.
 class FrameCache final {
 public:
     /// Both must outlive the cache.
@@ -31,6 +31,8 @@ public:
     ImageFrame &insert(std::unique_ptr<ImageFrame> frame, const std::string &path);
     /// False when there is no such frame.
     bool remove(const std::string &path);
+    /// Drops the oldest frames until the budgets hold, but for the one under `keptPath`. True when any went.
+    bool trim(const std::string &keptPath);
     /// Empties the display first.
     void clear();
 
@@ -44,7 +46,6 @@ private:
     using Frames = std::map<std::string, Entry>;
 
     void place(ImageFrame &frame);
-    void removeOldest(const Queue &queue);
     void destroy(Frames::iterator entry);
     Queue &queueOf(const ImageFrame &frame);
     std::uint64_t &usedBy(const ImageFrame &frame);

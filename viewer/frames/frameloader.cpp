@@ -3,6 +3,7 @@
 #include "framebuilder.h"
 #include "framecache.h"
 #include "framedisplay.h"
+#include "viewerlog.h"
 
 #include <framework/filesystem.h>
 #include <helpers/imagepointer.h>
@@ -53,39 +54,48 @@ LoadResult FrameLoader::load(const LoadRequest &request)
     if (cached && (cached->stamp == result.stamp || !result.stamp.exists)) {
         m_display.showFrame(cached);
         result.outcome = LoadOutcome::Shown;
+        result.layers = cached->layers;
+        result.layer = cached->layer;
         return result;
     }
     if (!TFramework::TFileSystem::CheckFile(request.path)) {
         result.outcome = LoadOutcome::NotFound;
         return result;
     }
-    result.outcome = LoadOutcome::Corrupted;
     const char *format = IImageCore::Probe(request.path.c_str());
     if (!format) {
         m_display.showFrame(nullptr);
+        result.outcome = failure(request, result);
         return result;
     }
     std::set<std::string> names;
-    if (!IImageCore::LoadLayers(request.path.c_str(), format, names))
+    if (!IImageCore::LoadLayers(request.path.c_str(), format, names)) {
+        result.outcome = failure(request, result);
         return result;
-    result.layers = listLayers(names);
-    result.layer = result.layers->resolved(request.layer, request.fresh);
+    }
+    LayerList layers = listLayers(names);
+    if (!m_lastLayers || layers != *m_lastLayers)
+        m_lastLayers = std::make_shared<const LayerList>(std::move(layers));
+    result.layers = m_lastLayers;
+    result.layer = result.layers->resolved(request.layer);
     result.outcome = loadLayer(request, format, result);
+    result.decoded = result.shown();
     return result;
 }
 
-LoadOutcome FrameLoader::loadLayer(const LoadRequest &request, const std::string &format,
-                                   const LoadResult &result)
+LoadOutcome FrameLoader::loadLayer(const LoadRequest &request, const std::string &format, LoadResult &result)
 {
     Image image(IImageCore::Load(request.path.c_str(), format.c_str(), result.layers->members(result.layer),
                                  request.progress, request.user));
     if (!image)
-        return LoadOutcome::Corrupted;
+        return failure(request, result);
     image = downsampled(std::move(image), request.downsampling);
     auto frame = image ? buildFrame(*image, *result.layers, result.layer) : nullptr;
     if (!frame)
         return LoadOutcome::NothingShown;
 
+    frame->layers = result.layers;
+    frame->layer = result.layer;
     frame->filePath = request.path;
     frame->stamp = result.stamp;
     frame->formatName = format;
@@ -96,4 +106,23 @@ LoadOutcome FrameLoader::loadLayer(const LoadRequest &request, const std::string
     m_display.showFrame(&kept);
     kept.planes.clear(); // they go with the image
     return LoadOutcome::Shown;
+}
+
+LoadOutcome FrameLoader::failure(const LoadRequest &request, LoadResult &result)
+{
+    using FarmHelpers::LoadFailure;
+    result.failure = FarmHelpers::lastFailure<IImageCore>();
+    const std::string line = request.path + ": " + result.failure.reason;
+    // A sequence that is played meets its broken frames again and again.
+    if (m_logged.insert(line).second)
+        qCWarning(lcViewer, "Cannot load %s", line.c_str());
+    switch (result.failure.kind) {
+    case LoadFailure::Missing:
+        return LoadOutcome::NotFound;
+    case LoadFailure::None:
+    case LoadFailure::Damaged:
+        return LoadOutcome::Corrupted;
+    default:
+        return LoadOutcome::Unreadable;
+    }
 }

@@ -3,10 +3,12 @@
 #include "compositelayers.h"
 #include "filestamp.h"
 
+#include <helpers/imageextras.h>
 #include <image_library/iimagecore.h>
 
 #include <cstdint>
-#include <optional>
+#include <memory>
+#include <set>
 #include <string>
 
 class FrameCache;
@@ -16,7 +18,6 @@ class FrameDisplay;
 struct LoadRequest {
     std::string path;
     std::string layer; ///< the layer selector's entry; empty when there is none yet
-    bool fresh = false; ///< the first frame of a frame set: the selector is to be filled anew
     bool premultiplied = true; ///< off: colours count as straight, whatever the file says
     std::int32_t downsampling = 0; ///< halvings of width and height, at most LoadRequest::kMaxDownsampling
     TImageLibrary::TLoadProgress progress = nullptr;
@@ -29,20 +30,22 @@ enum class LoadOutcome {
     Shown,
     NotFound,
     Corrupted,
+    Unreadable, ///< for a reason that is not the file's fault
     NothingShown, ///< the file is sound, but holds the layer in no form that can be shown
 };
 
 /// What a load came to.
 struct LoadResult {
     LoadOutcome outcome = LoadOutcome::NothingShown;
-    std::optional<LayerList>
-        layers; ///< set when the file's layers were listed, which a cached frame does not need
+    bool decoded = false; ///< the frame was read from its file, not taken from the cache
+    std::shared_ptr<const LayerList> layers; ///< of the frame; null when they could not be listed
     std::string layer; ///< the entry of `layers` that was loaded
     FileStamp stamp; ///< of the file, before it was read
+    FarmHelpers::LoadFailure failure; ///< why the file does not load, where the image library tells
 
     bool shown() const { return outcome == LoadOutcome::Shown; }
     /// The file is missing or broken, which another look at it may find mended.
-    bool failed() const { return outcome == LoadOutcome::NotFound || outcome == LoadOutcome::Corrupted; }
+    bool failed() const { return !shown() && outcome != LoadOutcome::NothingShown; }
 };
 
 /// Brings one frame on the display, from the cache or from its file through the image library; blocks meanwhile. A frame
@@ -56,8 +59,12 @@ public:
     LoadResult load(const LoadRequest &request);
 
 private:
-    LoadOutcome loadLayer(const LoadRequest &request, const std::string &format, const LoadResult &result);
+    LoadOutcome loadLayer(const LoadRequest &request, const std::string &format, LoadResult &result);
+    /// Tells why in the result, and once for each reason in the log.
+    LoadOutcome failure(const LoadRequest &request, LoadResult &result);
 
     FrameCache &m_cache;
     FrameDisplay &m_display;
+    std::shared_ptr<const LayerList> m_lastLayers; // most frames of a sequence have the same
+    std::set<std::string> m_logged;
 };

@@ -4,10 +4,12 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
 class FrameDisplay;
+struct LayerList;
 
 /// Width and height in pixels.
 struct PlaneSize {
@@ -22,6 +24,8 @@ struct PlaneSize {
 struct ImageFrame {
     std::vector<PlaneSize> planeSizes;
     std::string channelLayout; ///< "R,G,B,A", "R,G,B", "Y,Cb,Cr,A", "Y,Cb,Cr", or the one channel's name
+    std::shared_ptr<const LayerList> layers; ///< of the file
+    std::string layer; ///< the one of them that the frame was made of
     std::string filePath;
     FileStamp stamp; ///< of the file that was read
     std::string formatName; ///< as the image library's probe calls it, for example "exr"
@@ -35,6 +39,7 @@ struct ImageFrame {
     std::uint32_t pixelType = 0; ///< of one sample
     bool inVideoMemory = true; ///< counts against the video-memory budget and keeps its textures
     bool isYCbCr = false;
+    bool isDeep = false; ///< flattened from any number of samples in each pixel
     std::uint64_t byteSize = 0; ///< of all planes
     bool yFlipped = false;
     bool premultiplied = false;

@@ -55,7 +55,7 @@ void ViewerSession::open(const FramesRequest &request)
     m_frame = found.frame;
     m_range = {m_sequence.first(), m_sequence.last(), m_sequence.byFrame};
     listPlayed();
-    m_layers = {};
+    m_layers = std::make_shared<const LayerList>();
     m_anyShown = false;
     Q_EMIT opened();
     load(true);
@@ -117,9 +117,10 @@ void ViewerSession::listPlayed()
 
 bool ViewerSession::setLayer(const std::string &entry)
 {
-    if (std::find(m_layers.entries.begin(), m_layers.entries.end(), entry) == m_layers.entries.end())
+    const std::vector<std::string> &entries = m_layers->entries;
+    if (std::find(entries.begin(), entries.end(), entry) == entries.end())
         return false;
-    m_layer = entry;
+    m_chosenLayer = entry;
     loadAnew();
     return true;
 }
@@ -136,6 +137,12 @@ void ViewerSession::setDownsampling(std::int32_t halvings)
     loadAnew();
 }
 
+void ViewerSession::applyBudgets()
+{
+    if (m_cache.trim(file()))
+        Q_EMIT cacheTrimmed();
+}
+
 void ViewerSession::loadAnew()
 {
     m_cache.clear();
@@ -148,8 +155,7 @@ void ViewerSession::load(bool fresh)
     request.path = file();
     if (request.path.empty())
         return;
-    request.layer = m_layer;
-    request.fresh = fresh || m_layers.entries.empty();
+    request.layer = m_chosenLayer;
     request.premultiplied = m_premultiplied;
     request.downsampling = m_downsampling;
     request.progress = &ViewerSession::progressed;
@@ -157,8 +163,11 @@ void ViewerSession::load(bool fresh)
     m_lastLoad = m_loader.load(request);
     const bool shown = m_lastLoad.shown();
     if (shown && m_lastLoad.layers) {
-        m_layers = *m_lastLoad.layers;
+        const bool isFirst = fresh || m_layers->entries.empty();
+        m_layers = m_lastLoad.layers;
         m_layer = m_lastLoad.layer;
+        if (isFirst)
+            m_chosenLayer = m_layer;
     }
     if (!shown)
         m_display.showFrame(nullptr);

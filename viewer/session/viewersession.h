@@ -14,6 +14,7 @@
 #include <QtCore/QObject>
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -38,9 +39,12 @@ public:
     const PlaybackRange &range() const { return m_range; }
     /// Frames of the sequence within the range, in order: what steps and playback stop at.
     const std::vector<std::int32_t> &playedFrames() const { return m_played; }
-    const LayerList &layers() const { return m_layers; }
-    /// Entry of layers().
+    /// Of the frame on show, or the one shown last.
+    const LayerList &layers() const { return *m_layers; }
+    /// Entry of layers() that is shown.
     const std::string &layer() const { return m_layer; }
+    /// Entry that was chosen. It stays while frames that lack it are shown, which show their default.
+    const std::string &chosenLayer() const { return m_chosenLayer; }
     const LoadResult &lastLoad() const { return m_lastLoad; }
     const FrameCache &cache() const { return m_cache; }
     const Marking &marking() const { return m_marking; }
@@ -64,6 +68,8 @@ public:
     void setPremultiplied(bool on);
     /// Halvings of width and height.
     void setDownsampling(std::int32_t halvings);
+    /// The budgets have changed: what exceeds them goes, but for the frame on show.
+    void applyBudgets();
 
     void togglePlaying();
     /// Keeps playback at its frame while the user holds the timeline.
@@ -88,11 +94,13 @@ Q_SIGNALS:
     /// A load has ended, as lastLoad() says.
     void loaded();
     void marksChanged();
+    /// Frames have left the cache without a load.
+    void cacheTrimmed();
 
 private:
     void moveTo(long frame);
     void listPlayed();
-    /// `fresh` as in LoadRequest.
+    /// `fresh` for the first frame of a path: a layer that it lacks is chosen no longer.
     void load(bool fresh);
     void loadAnew();
     void playStep();
@@ -110,8 +118,9 @@ private:
     std::vector<std::int32_t> m_played;
     PlaybackRange m_range;
     LoadResult m_lastLoad;
-    LayerList m_layers;
+    std::shared_ptr<const LayerList> m_layers = std::make_shared<const LayerList>(); // never null
     std::string m_layer;
+    std::string m_chosenLayer;
     std::int32_t m_frame = 1;
     std::int32_t m_downsampling = 0;
     bool m_premultiplied = true;

@@ -85,7 +85,8 @@ QStringList hudLines(const ImageFrame &frame)
 {
     const PlaneSize size = frame.planeSizes.empty() ? PlaneSize() : frame.planeSizes.front();
     return {Hud::tr("File: %1").arg(value(frame.filePath)),
-            Hud::tr("File format: %1").arg(value(frame.formatName).toUpper()),
+            (frame.isDeep ? Hud::tr("File format: %1, deep") : Hud::tr("File format: %1"))
+                .arg(value(frame.formatName).toUpper()),
             Hud::tr("Image size: %1x%2").arg(size.width).arg(size.height),
             pixelFormatLine(frame.pixelType),
             Hud::tr("Layers: %1").arg(value(frame.channelLayout)),
