@@ -108,8 +108,8 @@ void DisplayControls::showLayers()
     int current = std::max(0, int(entries.indexOf(shown)));
     if (isMissing) {
         current = 0;
-        entries.prepend(tr("%1 (not in this frame, %2 is shown)")
-                            .arg(QString::fromStdString(m_session.chosenLayer()), shown));
+        // The layer that is shown, and the one that this frame lacks.
+        entries.prepend(tr("%1 (no %2)").arg(shown, QString::fromStdString(m_session.chosenLayer())));
     }
     QComboBox &selector = *m_form.layersSelector;
     const QSignalBlocker blocker(selector);

@@ -203,7 +203,7 @@ private Q_SLOTS:
         open(u"shot.0001.exr"_s);
         auto *layers = find<QComboBox>("layersSelector");
         press(Qt::Key_Right);
-        QCOMPARE(layers->currentText(), u"RGBA (not in this frame, Z is shown)"_s);
+        QCOMPARE(layers->currentText(), u"Z (no RGBA)"_s);
         press(Qt::Key_Left); // from the cache
         QCOMPARE(layers->count(), 1);
         QCOMPARE(layers->currentText(), u"RGBA"_s);
