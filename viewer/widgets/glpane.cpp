@@ -185,5 +185,7 @@ void GlPane::resizeEvent(QResizeEvent *event)
 {
     m_holder->setGeometry(rect());
     QWidget::resizeEvent(event);
+    // No window system tells of a window that shrinks.
+    update();
     Q_EMIT resized();
 }

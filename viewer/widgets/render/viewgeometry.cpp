@@ -18,9 +18,10 @@ int clamped(int wanted, int room)
     return room >= 0 ? std::min(wanted, room) : 0;
 }
 
-qreal centred(int view, int displayed)
+/// On a whole pixel: at zoom 1 half a pixel aside would blur all of them.
+int centred(int view, int displayed)
 {
-    return displayed < view ? (view - displayed) * 0.5 : 0.0;
+    return displayed < view ? (view - displayed) / 2 : 0;
 }
 
 } // namespace
@@ -36,17 +37,17 @@ QPoint ViewGeometry::clampedPan(QPoint wanted) const
     return {clamped(wanted.x(), room.width()), clamped(wanted.y(), room.height())};
 }
 
-QRectF ViewGeometry::quad() const
+QRect ViewGeometry::quad() const
 {
     const QSize displayed = displayedSize();
-    return {QPointF(centred(view.width(), displayed.width()), centred(view.height(), displayed.height())),
-            QSizeF(displayed)};
+    return {{centred(view.width(), displayed.width()), centred(view.height(), displayed.height())},
+            displayed};
 }
 
 QPoint ViewGeometry::checkerOffset() const
 {
-    const QPointF origin = quad().topLeft();
-    return {static_cast<int>(origin.x() - pan.x()), static_cast<int>(view.height() - origin.y() + pan.y())};
+    const QPoint origin = quad().topLeft() - pan;
+    return {origin.x(), view.height() - origin.y()};
 }
 
 QMatrix4x4 ViewGeometry::projection() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QPoint>
+#include <QtCore/QRect>
 #include <QtCore/QRectF>
 #include <QtCore/QSize>
 #include <QtGui/QMatrix4x4>
@@ -19,8 +20,8 @@ struct ViewGeometry {
     QSize displayedSize() const;
     /// Limits each coordinate to what the picture reaches beyond the view; 0 where the picture is the smaller one.
     QPoint clampedPan(QPoint wanted) const;
-    /// Centres a picture smaller than the view, to half a pixel; starts a larger one at 0.
-    QRectF quad() const;
+    /// Centres a picture smaller than the view, on whole pixels; starts a larger one at 0.
+    QRect quad() const;
     /// Gives the quad's top left corner in window coordinates, which count from the bottom.
     QPoint checkerOffset() const;
     QMatrix4x4 projection() const;
