@@ -30,20 +30,118 @@ float knee(float value, float f)
     return log(value * f + 1.0) / f;
 }
 
-vec4 texel()
+// Far beyond white, and far from where arithmetic overflows.
+const float kMost = 1.0e18;
+
+// Infinity is the brightest there is, and what is no number is black: arithmetic would spread both.
+float finite(float value)
+{
+    return value > 0.0 ? min(value, kMost) : value < 0.0 ? max(value, -kMost) : 0.0;
+}
+
+vec4 finite(vec4 texel)
+{
+    return vec4(finite(texel.r), finite(texel.g), finite(texel.b), abs(texel.a) <= kMost ? texel.a : 1.0);
+}
+
+vec4 texelAt(vec2 place)
 {
     if (numOfTextures == 1) {
-        vec4 whole = TEXTURE(tex0, fragTexCoord);
+        vec4 whole = TEXTURE(tex0, place);
         return redChannelOnly == 1 ? vec4(whole.rrr, 1.0) : whole;
     }
     if (numOfTextures != 3 && numOfTextures != 4)
         return vec4(0.0);
-    vec4 planes = vec4(TEXTURE(tex0, fragTexCoord).r, TEXTURE(tex1, fragTexCoord).r,
-                       TEXTURE(tex2, fragTexCoord).r, 1.0);
+    vec4 planes =
+        vec4(TEXTURE(tex0, place).r, TEXTURE(tex1, place).r, TEXTURE(tex2, place).r, 1.0);
     if (numOfTextures == 4)
-        planes.a = TEXTURE(tex3, fragTexCoord).r;
+        planes.a = TEXTURE(tex3, place).r;
     return planes;
 }
+
+#if defined(MAGNIFIED) || defined(REDUCED)
+uniform vec2 frameSize;
+
+// A transparent texel has no colour to give to its neighbours.
+float coverage(float alpha)
+{
+    return premultiplied == 1 || skipAlpha == 1 ? 1.0 : abs(alpha);
+}
+
+// Sums the colours of texels by their coverage, the coverage, and the alphas.
+struct Sum {
+    vec3 rgb;
+    float covered;
+    float alpha;
+    float weight;
+};
+
+void add(inout Sum sum, vec4 texel, float weight)
+{
+    float covered = weight * coverage(texel.a);
+    sum.rgb += texel.rgb * covered;
+    sum.covered += covered;
+    sum.alpha += texel.a * weight;
+    sum.weight += weight;
+}
+
+vec4 averageOf(Sum sum)
+{
+    return vec4(sum.covered > 0.0 ? sum.rgb / sum.covered : vec3(0.0), sum.alpha / sum.weight);
+}
+#endif
+
+#if defined(MAGNIFIED)
+bool isFinite(vec4 texel)
+{
+    return abs(texel.r) + abs(texel.g) + abs(texel.b) + abs(texel.a) <= kMost;
+}
+
+// Linear between the four texels around; one that is not finite has its own square to itself.
+vec4 texel()
+{
+    vec2 place = fragTexCoord * frameSize - 0.5;
+    vec2 first = floor(place);
+    vec2 second = place - first;
+    vec4 low = (first.xyxy + vec4(0.5, 0.5, 1.5, 1.5)) / frameSize.xyxy;
+    vec4 texels[4];
+    texels[0] = texelAt(low.xy);
+    texels[1] = texelAt(low.zy);
+    texels[2] = texelAt(low.xw);
+    texels[3] = texelAt(low.zw);
+    vec4 weights = vec4(1.0 - second.x, second.x, 1.0 - second.x, second.x)
+        * vec4(1.0 - second.y, 1.0 - second.y, second.y, second.y);
+    vec4 nearest = second.y < 0.5 ? (second.x < 0.5 ? texels[0] : texels[1])
+                                  : (second.x < 0.5 ? texels[2] : texels[3]);
+    Sum sum = Sum(vec3(0.0), 0.0, 0.0, 0.0);
+    add(sum, finite(texels[0]), isFinite(texels[0]) ? weights.x : 0.0);
+    add(sum, finite(texels[1]), isFinite(texels[1]) ? weights.y : 0.0);
+    add(sum, finite(texels[2]), isFinite(texels[2]) ? weights.z : 0.0);
+    add(sum, finite(texels[3]), isFinite(texels[3]) ? weights.w : 0.0);
+    return isFinite(nearest) ? averageOf(sum) : finite(nearest);
+}
+#elif defined(REDUCED)
+uniform vec2 pixelSize;
+uniform int taps;
+
+// The mean of the texels that a pixel covers.
+vec4 texel()
+{
+    vec2 step = pixelSize / float(taps);
+    vec2 place = fragTexCoord - 0.5 * (pixelSize - step);
+    Sum sum = Sum(vec3(0.0), 0.0, 0.0, 0.0);
+    for (int y = 0; y < taps; ++y) {
+        for (int x = 0; x < taps; ++x)
+            add(sum, finite(texelAt(place + step * vec2(x, y))), 1.0);
+    }
+    return averageOf(sum);
+}
+#else
+vec4 texel()
+{
+    return finite(texelAt(fragTexCoord));
+}
+#endif
 
 // The row vector times the matrix: each output channel is the product with a column.
 vec3 fromYCbCr(vec3 rgb)
@@ -58,7 +156,7 @@ vec3 fromYCbCr(vec3 rgb)
 // What is below black has no power and stays.
 float power(float value, float exponent)
 {
-    return value >= 0.0 ? pow(value, exponent) : value;
+    return value >= 0.0 ? min(pow(value, exponent), kMost) : value;
 }
 
 vec3 power(vec3 rgb, float exponent)
@@ -108,7 +206,7 @@ void main()
         colour.rgb = fromYCbCr(colour.rgb);
     if (skipAlpha == 1 && channelViewMode != 4)
         colour.a = 1.0;
-    if (premultiplied == 1)
+    if (premultiplied == 1 && colour.a != 0.0)
         colour.rgb /= colour.a;
     // Beyond what halves hold, and infinite, a sample would spoil the other channels by the intensity.
     colour.rgb = clamp(colour.rgb, -65504.0, 65504.0);

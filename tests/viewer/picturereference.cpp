@@ -75,7 +75,7 @@ Rgba viewed(const Rgba &colour, int mode)
 
 Rgba shaded(const Rgba &texel, const ImageFrame &frame, const PictureLook &look)
 {
-    auto [r, g, b, a] = sampled(texel, frame);
+    auto [r, g, b, a] = texel;
     Rgb rgb = {r, g, b};
     if (frame.isYCbCr)
         rgb = {r + g + b, -0.3441 * g + 1.7720 * b, 1.4020 * r - 0.7141 * g};
@@ -94,21 +94,30 @@ Rgba shaded(const Rgba &texel, const ImageFrame &frame, const PictureLook &look)
     return viewed({rgb[0], rgb[1], rgb[2], a}, look.channelViewMode);
 }
 
-/// What linear filters and clamped edges make of a point, both coordinates from 0 to 1.
-Rgba filtered(const PictureFrame &shown, double s, double t)
+/// What linear filters and clamped edges make of a point, both coordinates from 0 to 1. Straight colours count by their
+/// alpha where that is shown.
+Rgba filtered(const PictureFrame &shown, const PictureLook &look, double s, double t)
 {
     const double x = s * shown.size.width() - 0.5;
     const double y = t * shown.size.height() - 0.5;
     Rgba result{};
+    double covered = 0.0;
     for (const double row : {std::floor(y), std::floor(y) + 1.0}) {
         for (const double column : {std::floor(x), std::floor(x) + 1.0}) {
-            const int texel = std::clamp(int(row), 0, shown.size.height() - 1) * shown.size.width()
+            const int index = std::clamp(int(row), 0, shown.size.height() - 1) * shown.size.width()
                 + std::clamp(int(column), 0, shown.size.width() - 1);
-            for (std::size_t i = 0; i < 4; ++i)
-                result[i] += (1.0 - std::abs(x - column)) * (1.0 - std::abs(y - row))
-                    * shown.texels[static_cast<std::size_t>(texel)][i];
+            const Rgba texel = sampled(shown.texels[static_cast<std::size_t>(index)], shown.frame);
+            const double weight = (1.0 - std::abs(x - column)) * (1.0 - std::abs(y - row));
+            const bool asItIs = shown.frame.premultiplied || !look.alphaOn;
+            const double counts = weight * (asItIs ? 1.0 : std::abs(texel[3]));
+            for (std::size_t i = 0; i < 3; ++i)
+                result[i] += counts * texel[i];
+            covered += counts;
+            result[3] += weight * texel[3];
         }
     }
+    for (std::size_t i = 0; i < 3; ++i)
+        result[i] = covered > 0.0 ? result[i] / covered : 0.0;
     return result;
 }
 
@@ -195,8 +204,8 @@ std::vector<std::optional<Rgba>> drawReference(const PictureSetup &setup, const 
     const QSize frame = shown ? shown->size : QSize(320, 240);
     const auto width = double(std::lround(frame.width() * setup.zoom));
     const auto height = double(std::lround(frame.height() * setup.zoom));
-    const double left = std::max(setup.view.width() - width, 0.0) * 0.5;
-    const double top = std::max(setup.view.height() - height, 0.0) * 0.5;
+    const double left = std::floor(std::max(setup.view.width() - width, 0.0) * 0.5);
+    const double top = std::floor(std::max(setup.view.height() - height, 0.0) * 0.5);
     const QPoint offset(int(left - setup.pan.x()), int(setup.view.height() - top + setup.pan.y()));
     const QColor &background = setup.look.background;
     std::vector<std::optional<Rgba>> picture;
@@ -213,7 +222,8 @@ std::vector<std::optional<Rgba>> drawReference(const PictureSetup &setup, const 
                 colour.fill(checkerAt(setup, QPoint(x, setup.view.height() - 1 - y) - offset));
             if (shown && inside) {
                 const double t = dy / height;
-                const Rgba texel = filtered(*shown, dx / width, shown->frame.yFlipped ? t : 1.0 - t);
+                const Rgba texel =
+                    filtered(*shown, setup.look, dx / width, shown->frame.yFlipped ? t : 1.0 - t);
                 colour = blended(colour, shaded(texel, shown->frame, setup.look), setup.look.alphaOn);
             }
             // A red line two pixels wide, its middle two pixels outside.

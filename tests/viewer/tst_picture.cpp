@@ -14,7 +14,10 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 
+#include <algorithm>
+#include <array>
 #include <functional>
+#include <limits>
 #include <map>
 #include <tuple>
 
@@ -184,7 +187,7 @@ private Q_SLOTS:
         addTable<QSize, float, QPoint, bool>({"frame", "zoom", "pan", "checkerOn"},
                                              {{"no frame, larger", {}, 4.0F, {37, 81}, true},
                                               {"no frame, smaller", {}, 0.25F, {}, true},
-                                              {"half a pixel aside", {101, 80}, 1.0F, {}, true},
+                                              {"an odd pixel to spare", {101, 79}, 1.0F, {}, true},
                                               {"no checker", {100, 80}, 1.0F, {}, false},
                                               {"larger, panned", {640, 500}, 1.0F, {33, 71}, true},
                                               {"zoomed in, panned", {320, 250}, 2.0F, {127, 49}, true},
@@ -205,6 +208,51 @@ private Q_SLOTS:
         compare(setup, shown.get());
         QCOMPARE(m_picture->viewSize(), setup.view);
         QCOMPARE(m_picture->pan(), pan);
+    }
+
+    void texelsKeepToThemselves_data()
+    {
+        addTable<float>({"zoom"}, {{"own pixels", 1.0F}, {"magnified", 3.0F}, {"reduced", 0.25F}});
+    }
+    void texelsKeepToThemselves()
+    {
+        QFETCH(float, zoom);
+        m_picture->setGeometry(0, 0, 240, 180);
+        m_picture->setBackgroundColor(Qt::black);
+        m_picture->setCheckerOn(false);
+        m_picture->setZoomFactor(zoom);
+        const std::array<float, 4> grey{0.25F, 0.25F, 0.25F, 1.0F};
+        constexpr float kInfinity = std::numeric_limits<float>::infinity();
+        constexpr float kNone = std::numeric_limits<float>::quiet_NaN();
+        // What a texel holds, and what the middle of it has to show; a transparent one is to lend nobody its colour.
+        const std::tuple<std::array<float, 4>, QColor> texels[] = {
+            {{kInfinity, kInfinity, kInfinity, kInfinity}, Qt::white},
+            {{-kInfinity, kInfinity, 0, 1}, Qt::green},
+            {{kNone, kNone, kNone, kNone}, Qt::black},
+            {{1, 0, 0, 0}, Qt::black}};
+        for (const auto &[texel, colour] : texels) {
+            const auto shown = show(flagged(), QSize(40, 40), [&](ImageFrame &frame) {
+                auto *pixels = static_cast<float *>(const_cast<void *>(frame.planes[0]));
+                for (int i = 0; i < 40 * 40; ++i)
+                    std::copy_n((i == 20 * 40 + 20 ? texel : grey).begin(), 4,
+                                pixels + 4 * std::ptrdiff_t(i));
+            });
+            const QImage picture = m_picture->grabFramebuffer();
+            const QRect place = ViewGeometry{m_picture->viewSize(), {40, 40}, zoom, {}}.quad();
+            const QPoint middle = place.topLeft() + QPoint(int(20.5F * zoom), int(20.5F * zoom));
+            for (int y = place.top(); y <= place.bottom(); ++y) {
+                for (int x = place.left(); x <= place.right(); ++x) {
+                    const QColor found = picture.pixelColor(x, y);
+                    const int away = std::max(std::abs(x - middle.x()), std::abs(y - middle.y()));
+                    if (away == 0 && zoom >= 1.0F)
+                        QCOMPARE(found, colour);
+                    else if (texel[3] == 0.0F)
+                        QVERIFY(found.red() == found.green() && found.green() == found.blue());
+                    else if (away > zoom / 2.0F)
+                        QCOMPARE(found, picture.pixelColor(place.topLeft()));
+                }
+            }
+        }
     }
 
     void unusableFrames_data()
@@ -299,6 +347,7 @@ private Q_SLOTS:
              {"background", [](imageWidget &picture) { picture.setBackgroundColor(Qt::cyan); }},
              {"zoom", [](imageWidget &picture) { picture.setZoomFactor(3.0F); }},
              {"pan", [](imageWidget &picture) { picture.setPan(QPoint(5, 6)); }},
+             {"a smaller view", [](imageWidget &picture) { picture.resize(399, 299); }},
              {"frame", [](imageWidget &picture) { picture.showFrame(nullptr); }}});
     }
     void changesAloneRepaint()

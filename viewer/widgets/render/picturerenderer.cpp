@@ -11,12 +11,18 @@ namespace {
 
 constexpr float kBorderWidth = 2.0F;
 
+QSize sizeOf(const ImageFrame &frame)
+{
+    return {frame.planeSizes.front().width, frame.planeSizes.front().height};
+}
+
 } // namespace
 
 PictureRenderer::PictureRenderer(const GlContext &context)
     : m_gl(context.gl)
     , m_textures(context)
-    , m_picture(context)
+    , m_context(context)
+    , m_picture(context, Sampling::Direct)
     , m_border(context)
     , m_checker(context)
     , m_pictureVertices(context, m_picture, kQuadCorners)
@@ -96,7 +102,8 @@ void PictureRenderer::drawChecker(const Scene &scene, const QMatrix4x4 &matrix, 
 
 void PictureRenderer::drawFrame(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad)
 {
-    if (!m_picture.bind())
+    PictureProgram &program = programFor(scene);
+    if (!program.bind())
         return;
     if (scene.look.alphaOn)
         enableBlending();
@@ -108,12 +115,27 @@ void PictureRenderer::drawFrame(const Scene &scene, const QMatrix4x4 &matrix, co
         }
     };
     bindTextures(true);
-    m_picture.setMatrix(matrix);
-    m_picture.setUniforms(scene.look, *scene.frame);
+    program.setMatrix(matrix);
+    program.setUniforms(scene.look, *scene.frame);
+    if (&program != &m_picture)
+        program.setSizes(sizeOf(*scene.frame), scene.geometry.displayedSize());
     m_pictureVertices.draw(GL_TRIANGLES, quad.data(), (scene.frame->yFlipped ? kTopDown : kBottomUp).data());
     bindTextures(false);
     m_gl.glDisable(GL_BLEND);
-    m_picture.release();
+    program.release();
+}
+
+PictureProgram &PictureRenderer::programFor(const Scene &scene)
+{
+    const QSize size = sizeOf(*scene.frame);
+    const QSize displayed = scene.geometry.displayedSize();
+    if (displayed == size || !havePlanesOneSize(*scene.frame))
+        return m_picture;
+    const bool reduced = displayed.width() * 2 < size.width() && displayed.height() * 2 < size.height();
+    std::optional<PictureProgram> &program = reduced ? m_reduced : m_magnified;
+    if (!program)
+        program.emplace(m_context, reduced ? Sampling::Reduced : Sampling::Magnified);
+    return program->isLinked() ? *program : m_picture;
 }
 
 void PictureRenderer::enableBlending()

@@ -37,6 +37,7 @@ public:
     void drawHud(const Scene &scene, const QStringList &lines, qreal devicePixelRatio);
 
 private:
+    PictureProgram &programFor(const Scene &scene);
     void drawChecker(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad);
     void drawFrame(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad);
     void enableBlending();
@@ -44,7 +45,10 @@ private:
 
     QOpenGLFunctions &m_gl;
     Textures m_textures;
+    const GlContext m_context;
     PictureProgram m_picture;
+    std::optional<PictureProgram> m_magnified; ///< made when one is first wanted, as the next
+    std::optional<PictureProgram> m_reduced;
     BorderProgram m_border;
     CheckerProgram m_checker;
     VertexSet m_pictureVertices;

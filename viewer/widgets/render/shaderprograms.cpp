@@ -7,7 +7,9 @@
 
 #include <QtCore/QFile>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -31,10 +33,29 @@ constexpr char kFragment150[] = R"(#version 150
 out vec4 fragColor;
 )";
 
-QByteArray source(const char *prologue, const char *name)
+// The same in all programs, so that one set of vertices serves those of a kind.
+constexpr int kVertex = 0;
+constexpr int kTexCoord = 1;
+
+// Enough for pictures 64 times as large as they are shown: what has to be read then takes long as it is.
+constexpr double kMostTaps = 64.0;
+
+QByteArray source(const QByteArray &prologue, const char *name)
 {
     QFile file(QStringLiteral(":/Shaders/") + QLatin1String(name));
     return file.open(QIODevice::ReadOnly) ? prologue + file.readAll() : QByteArray();
+}
+
+const char *definesOf(Sampling sampling)
+{
+    switch (sampling) {
+    case Sampling::Magnified:
+        return "#define MAGNIFIED\n";
+    case Sampling::Reduced:
+        return "#define REDUCED\n";
+    default:
+        return "";
+    }
 }
 
 } // namespace
@@ -47,9 +68,11 @@ ShaderProgram::ShaderProgram(const Sources &sources, const GlContext &context)
     if (!m_program.addShaderFromSourceCode(QOpenGLShader::Vertex,
                                            source(context.core ? kVertex150 : kVertex120, sources.vertex)))
         warn("vertex shader");
-    if (!m_program.addShaderFromSourceCode(
-            QOpenGLShader::Fragment, source(context.core ? kFragment150 : kFragment120, sources.fragment)))
+    const QByteArray prologue = QByteArray(context.core ? kFragment150 : kFragment120) + sources.defines;
+    if (!m_program.addShaderFromSourceCode(QOpenGLShader::Fragment, source(prologue, sources.fragment)))
         warn("fragment shader");
+    m_program.bindAttributeLocation("vertex", kVertex);
+    m_program.bindAttributeLocation("vertTexCoord", kTexCoord);
     if (!m_program.link()) {
         warn("shader link");
         return;
@@ -59,24 +82,27 @@ ShaderProgram::ShaderProgram(const Sources &sources, const GlContext &context)
     m_matrix = m_program.uniformLocation("matrix");
 }
 
-PictureProgram::PictureProgram(const GlContext &context)
-    : ShaderProgram({"Program", "picture.vert.glsl", "picture.frag.glsl"}, context)
-    , m_textureCount(m_program.uniformLocation("numOfTextures"))
-    , m_redChannelOnly(m_program.uniformLocation("redChannelOnly"))
-    , m_isYCbCr(m_program.uniformLocation("isYCbCr"))
-    , m_skipAlpha(m_program.uniformLocation("skipAlpha"))
-    , m_premultiplied(m_program.uniformLocation("premultiplied"))
-    , m_channelViewMode(m_program.uniformLocation("channelViewMode"))
-    , m_sourceGamma(m_program.uniformLocation("sourceGamma"))
-    , m_gamma(m_program.uniformLocation("gamma"))
-    , m_brightness(m_program.uniformLocation("brightness"))
-    , m_saturation(m_program.uniformLocation("saturation"))
-    , m_contrast(m_program.uniformLocation("contrast"))
-    , m_levelInputMin(m_program.uniformLocation("levelInputMin"))
-    , m_levelInputMax(m_program.uniformLocation("levelInputMax"))
-    , m_levelOutputMin(m_program.uniformLocation("levelOutputMin"))
-    , m_levelOutputMax(m_program.uniformLocation("levelOutputMax"))
-    , m_softClip(m_program.uniformLocation("softClip"))
+PictureProgram::PictureProgram(const GlContext &context, Sampling sampling)
+    : ShaderProgram({"Program", "picture.vert.glsl", "picture.frag.glsl", definesOf(sampling)}, context)
+    , m_textureCount(location("numOfTextures"))
+    , m_redChannelOnly(location("redChannelOnly"))
+    , m_isYCbCr(location("isYCbCr"))
+    , m_skipAlpha(location("skipAlpha"))
+    , m_premultiplied(location("premultiplied"))
+    , m_channelViewMode(location("channelViewMode"))
+    , m_sourceGamma(location("sourceGamma"))
+    , m_gamma(location("gamma"))
+    , m_brightness(location("brightness"))
+    , m_saturation(location("saturation"))
+    , m_contrast(location("contrast"))
+    , m_levelInputMin(location("levelInputMin"))
+    , m_levelInputMax(location("levelInputMax"))
+    , m_levelOutputMin(location("levelOutputMin"))
+    , m_levelOutputMax(location("levelOutputMax"))
+    , m_softClip(location("softClip"))
+    , m_frameSize(location("frameSize"))
+    , m_pixelSize(location("pixelSize"))
+    , m_taps(location("taps"))
 {
     if (!bind())
         return;
@@ -119,14 +145,24 @@ void PictureProgram::setUniforms(const PictureLook &look, const ImageFrame &fram
     m_program.setUniformValue(m_softClip, calibration.softClip);
 }
 
+void PictureProgram::setSizes(QSize frame, QSize displayed)
+{
+    const double across = double(frame.width()) / std::max(displayed.width(), 1);
+    const double down = double(frame.height()) / std::max(displayed.height(), 1);
+    m_program.setUniformValue(m_frameSize, QSizeF(frame));
+    m_program.setUniformValue(m_pixelSize, QSizeF(across / frame.width(), down / frame.height()));
+    m_program.setUniformValue(m_taps,
+                              static_cast<GLint>(std::ceil(std::min(std::max(across, down), kMostTaps))));
+}
+
 BorderProgram::BorderProgram(const GlContext &context)
     : ShaderProgram({"Border", "position.vert.glsl", "border.frag.glsl"}, context)
 { }
 
 CheckerProgram::CheckerProgram(const GlContext &context)
     : ShaderProgram({"Checker", "position.vert.glsl", "checker.frag.glsl"}, context)
-    , m_offset(m_program.uniformLocation("offset"))
-    , m_zoomFactor(m_program.uniformLocation("zoomFactor"))
+    , m_offset(location("offset"))
+    , m_zoomFactor(location("zoomFactor"))
 { }
 
 void CheckerProgram::setUniforms(QPoint offset, float zoom)
@@ -137,5 +173,5 @@ void CheckerProgram::setUniforms(QPoint offset, float zoom)
 
 HudProgram::HudProgram(const GlContext &context)
     : ShaderProgram({"Hud", "picture.vert.glsl", "hud.frag.glsl"}, context)
-    , m_texture(m_program.uniformLocation("tex0"))
+    , m_texture(location("tex0"))
 { }

@@ -17,11 +17,13 @@ public:
         const char *name; ///< begins each line of its log
         const char *vertex; ///< files in the resources
         const char *fragment;
+        const char *defines = ""; ///< of the fragment shader
     };
 
     ShaderProgram(const Sources &sources, const GlContext &context);
 
-    bool bind() { return m_program.isLinked() && m_program.bind(); }
+    bool isLinked() const { return m_program.isLinked(); }
+    bool bind() { return isLinked() && m_program.bind(); }
     void release() { m_program.release(); }
     void setMatrix(const QMatrix4x4 &matrix) { m_program.setUniformValue(m_matrix, matrix); }
 
@@ -30,6 +32,9 @@ public:
     bool textured() const { return m_texCoord >= 0; }
 
 protected:
+    /// -1 in a program that did not link.
+    int location(const char *uniform) const { return isLinked() ? m_program.uniformLocation(uniform) : -1; }
+
     QOpenGLShaderProgram m_program;
 
 private:
@@ -41,13 +46,22 @@ private:
 struct PictureLook;
 struct ImageFrame;
 
+/// Tells what a pixel of the view takes from the frame.
+enum class Sampling {
+    Direct, ///< what the texture gives at its middle
+    Magnified, ///< a mix of the four texels around it
+    Reduced, ///< the mean of the texels that it covers
+};
+
 /// Samples the frame's textures, puts the calibration to them and shows the channels that were chosen.
 class PictureProgram final : public ShaderProgram {
 public:
-    explicit PictureProgram(const GlContext &context);
+    PictureProgram(const GlContext &context, Sampling sampling);
 
     /// Hands over what has changed since the last call; the program is bound.
     void setUniforms(const PictureLook &look, const ImageFrame &frame);
+    /// Says how large the frame is and how large it is shown, in pixels, for all but direct sampling; the program is bound.
+    void setSizes(QSize frame, QSize displayed);
 
 private:
     struct Values {
@@ -80,6 +94,9 @@ private:
     int m_levelOutputMin;
     int m_levelOutputMax;
     int m_softClip;
+    int m_frameSize;
+    int m_pixelSize;
+    int m_taps;
 };
 
 /// Draws red: the line round the picture.

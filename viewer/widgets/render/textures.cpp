@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <functional>
 
 namespace {
 
@@ -41,12 +42,19 @@ GLenum pixelDataFormat(GLenum internalFormat)
     return holds(kLuminanceFormats, internalFormat) ? GL_LUMINANCE : GL_RGBA;
 }
 
+bool havePlanesOneSize(const ImageFrame &frame)
+{
+    const auto &sizes = frame.planeSizes;
+    return std::adjacent_find(sizes.begin(), sizes.end(), std::not_equal_to<>()) == sizes.end();
+}
+
 struct Textures::Image {
     GLenum internalFormat = GL_RGBA;
     GLenum dataFormat = GL_RGBA;
     GLenum pixelType = GL_UNSIGNED_BYTE;
     PlaneSize size;
     const void *data = nullptr;
+    GLint filter = GL_NEAREST;
 };
 
 Textures::Textures(const GlContext &context)
@@ -68,10 +76,11 @@ void Textures::upload(ImageFrame &frame)
     }
 
     const GLenum dataFormat = pixelDataFormat(frame.internalFormat);
+    const GLint filter = havePlanesOneSize(frame) ? GL_NEAREST : GL_LINEAR;
     takeError();
     for (std::size_t i = 0; i < planes; ++i)
-        frame.textureNames.push_back(make(
-            {frame.internalFormat, dataFormat, frame.pixelType, frame.planeSizes[i], frame.planeData(i)}));
+        frame.textureNames.push_back(make({frame.internalFormat, dataFormat, frame.pixelType,
+                                           frame.planeSizes[i], frame.planeData(i), filter}));
     if (const GLenum error = takeError(); error != GL_NO_ERROR) {
         qCWarning(lcViewer, "%s was refused by OpenGL with error 0x%x: not shown", frame.filePath.c_str(),
                   error);
@@ -132,8 +141,8 @@ GLuint Textures::make(const Image &image)
     m_gl.glPixelStorei(GL_UNPACK_ROW_LENGTH, 0);
     m_gl.glPixelStorei(GL_UNPACK_SKIP_ROWS, 0);
     m_gl.glPixelStorei(GL_UNPACK_SKIP_PIXELS, 0);
-    m_gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
-    m_gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+    m_gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, image.filter);
+    m_gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, image.filter);
     m_gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
     m_gl.glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
     m_gl.glTexImage2D(GL_TEXTURE_2D, 0, static_cast<GLint>(internalFormat), image.size.width,

@@ -9,6 +9,10 @@ struct ImageFrame;
 /// Names the samples of a texture with that internal format: GL_RGB, GL_LUMINANCE or else GL_RGBA.
 GLenum pixelDataFormat(GLenum internalFormat);
 
+/// Tells whether each texel of a plane has its counterpart in the others. The textures of such a frame give single texels,
+/// others mix theirs.
+bool havePlanesOneSize(const ImageFrame &frame);
+
 /// Makes, fills and deletes textures, each through here, so that they can be counted; the context is current.
 class Textures final {
 public:
