@@ -126,6 +126,7 @@ void probeOpenGl(TAppState &state)
     qCDebug(lcApp, "Supports 3.2 profile: No");
     if (!state.gl21Supported) {
         qCDebug(lcApp, "No supported OpenGL format available");
+        state.openGlUsable = false;
         return;
     }
     qCDebug(lcApp, "Setting default openGL format to compatibility profile 2.1");

@@ -117,7 +117,7 @@ void ImageViewer::connectSession()
     });
     connect(m_session.get(), &ViewerSession::loaded, this, [this] {
         m_zoom->refresh();
-        m_ui->infoLabel->setText(m_totals.statusText());
+        m_ui->infoLabel->setText(m_totals.statusText() + m_loadStatus->sizeText());
     });
     connect(m_session.get(), &ViewerSession::cacheTrimmed, this,
             [this] { m_ui->infoLabel->setText(m_totals.statusText()); });
@@ -145,7 +145,7 @@ void ImageViewer::retranslate()
     }
     m_transport->retranslate();
     m_markings->retranslate();
-    m_ui->infoLabel->setText(m_totals.statusText());
+    m_ui->infoLabel->setText(m_totals.statusText() + m_loadStatus->sizeText());
     showTitle();
 }
 

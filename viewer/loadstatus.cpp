@@ -33,34 +33,67 @@ LoadStatus::LoadStatus(const Ui::ImageViewerClass &form, ViewerSession &session)
 
 void LoadStatus::showOutcome()
 {
-    const LoadResult &load = m_session.lastLoad();
-    const bool failed = load.failed();
-    if (failed) {
-        const bool missing = load.outcome == LoadOutcome::NotFound;
+    const QString fault = faultText();
+    m_form.imageWarningReason->setText(fault);
+    m_form.imageWarningDetails->setText(detailsText());
+    if (!fault.isEmpty()) {
+        const bool missing = m_session.lastLoad().outcome == LoadOutcome::NotFound;
         m_form.imageWarningLabel->setPixmap(missing ? m_pictures.missing : m_pictures.broken);
-        m_form.imageWarningReason->setText(
-            outcomeText(load.outcome).arg(shortened(m_session.file())));
-        m_form.imageWarningDetails->setText(reasonText(load.failure));
         // The focus would go to the next field with the picture, and take the keys of the frames along: the form takes it.
         if (m_form.image->hasFocus())
             m_form.imageContainer->parentWidget()->setFocus();
-    } else {
-        m_form.imageWarningReason->clear();
-        m_form.imageWarningDetails->clear();
     }
-    m_form.imageContainer->setVisible(!failed);
-    m_form.imageWarningWidget->setVisible(failed);
+    m_form.imageContainer->setVisible(fault.isEmpty());
+    m_form.imageWarningWidget->setVisible(!fault.isEmpty());
 }
 
-QString LoadStatus::outcomeText(LoadOutcome outcome)
+QString LoadStatus::faultText() const
 {
-    switch (outcome) {
+    const QString path = shortened(m_session.file());
+    switch (m_session.lastLoad().outcome) {
     case LoadOutcome::NotFound:
-        return tr("File not found at path: %1");
+        return tr("File not found at path: %1").arg(path);
+    case LoadOutcome::Corrupted:
+        return tr("Corrupted file at path: %1").arg(path);
     case LoadOutcome::Unreadable:
-        return tr("File that cannot be shown at path: %1");
+    case LoadOutcome::Refused:
+        return tr("File that cannot be shown at path: %1").arg(path);
     default:
-        return tr("Corrupted file at path: %1");
+        return {};
+    }
+}
+
+QString LoadStatus::detailsText() const
+{
+    const LoadResult &load = m_session.lastLoad();
+    if (load.outcome == LoadOutcome::Refused)
+        return refusalText(load.refusal);
+    return load.failed() ? reasonText(load.failure) : QString();
+}
+
+QString LoadStatus::sizeText() const
+{
+    const LoadResult &load = m_session.lastLoad();
+    if (!load.shown() || load.forcedHalvings == 0)
+        return {};
+    return tr("Too large for OpenGL: shown at 1/%1 of its size").arg(qulonglong(1) << load.forcedHalvings);
+}
+
+QString LoadStatus::refusalText(Refusal refusal)
+{
+    switch (refusal) {
+    case Refusal::NoContext:
+        return tr("OpenGL does not start.");
+    case Refusal::NoShaders:
+        return tr("OpenGL does not build the shaders that draw pictures. The log says why.");
+    case Refusal::NoMemory:
+        return tr("OpenGL has no memory for it. Choose a higher downsampling.");
+    case Refusal::TooLarge:
+        return tr("It is too large for OpenGL.");
+    case Refusal::UnknownSamples:
+        return tr("This OpenGL cannot show samples of its kind.");
+    default:
+        return tr("It holds too few samples for its size.");
     }
 }
 

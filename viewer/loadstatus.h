@@ -21,6 +21,9 @@ public:
     /// Both outlive the status.
     LoadStatus(const Ui::ImageViewerClass &form, ViewerSession &session);
 
+    /// Says for the status line that the picture is shown smaller than it is; empty where it is not.
+    QString sizeText() const;
+
 private:
     struct StatusPictures {
         QPixmap missing;
@@ -31,9 +34,11 @@ private:
     };
 
     void showOutcome();
-    static QString outcomeText(LoadOutcome outcome);
-    /// Why the file does not load; empty where the image library does not tell.
+    /// What is wrong, and why where that is known; empty where nothing is.
+    QString faultText() const;
+    QString detailsText() const;
     static QString reasonText(const FarmHelpers::LoadFailure &failure);
+    static QString refusalText(Refusal refusal);
     void showProgress(const LoadProgress::Step &step);
 
     const Ui::ImageViewerClass &m_form;

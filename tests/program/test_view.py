@@ -23,9 +23,9 @@ def make(name, colour, channels="R,G,B,A"):
     oiiotool("--pattern", f"constant:color={colour}", SIZE, str(channels.count(",") + 1), "--chnames", channels, "-d", "half", "-o", path(name))
 
 
-def view(*arguments, code=0):
+def view(*arguments, code=0, **environment):
     """What the program prints, both streams; the code is the one that it ends with."""
-    done = subprocess.run([VIEW, *arguments], capture_output=True, text=True, timeout=120)
+    done = subprocess.run([VIEW, *arguments], capture_output=True, text=True, timeout=120, env={**os.environ, **environment})
     equal(done.returncode, code, f"exit of {arguments}: {done.stdout}{done.stderr}")
     return done.stdout + done.stderr
 
@@ -94,4 +94,19 @@ grab = ["--grab", path("none.png")]
 for arguments in [[*grab, path("missing.exr")], [*grab, path("broken.exr")], [*grab, path("empty")], grab,
                   [*grab, "--layer", "depth", path("a.exr")], ["--grab", path("missing/none.png"), path("a.exr")]]:
     check(view(*arguments, code=1).strip(), f"{arguments} failed without a word")
+
+# Drivers that draw no pictures, none of this kind, or none so large.
+OLD = {"MESA_GL_VERSION_OVERRIDE": "2.1"}
+for told, file, driver in [
+    ("tarrow.viewer: Program ", "a.png", {**OLD, "MESA_GLSL_VERSION_OVERRIDE": "110"}),
+    ("refused by OpenGL", "a.exr", {**OLD, "MESA_EXTENSION_OVERRIDE": "-GL_ARB_texture_float -GL_ARB_texture_rg"}),
+    ("OpenGL not supported by your GPU!", "a.png", {"MESA_GL_VERSION_OVERRIDE": "2.0"}),
+]:
+    output = view(*grab, path(file), code=1, **driver)
+    check(told in output and "uniformLocation" not in output, f"{driver} says {output}")
 check(not os.path.exists(path("none.png")), "a failed grab left a file")
+oiiotool("--pattern", "constant:color=1,1,1", "20000x8", "3", "-d", "half", "-o", path("wide.exr"))
+view(path("wide.exr"), "--grab", path("wide.png"))
+oiiotool(path("wide.png"), "-o", path("wide.ppm"))
+with open(path("wide.ppm"), "rb") as wide:
+    equal(wide.read().split(b"\n", 2)[1], b"10000 4", "a picture wider than OpenGL allows, at half its size")

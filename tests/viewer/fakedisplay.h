@@ -12,8 +12,12 @@
 /// frame when another takes its place, so that a sanitizer sees what is gone.
 class FakeDisplay final : public FrameDisplay {
 public:
+    std::int32_t longestSide() override { return longest; }
     void uploadTextures(ImageFrame &frame) override
     {
+        frame.refusal = refusal;
+        if (refusal != Refusal::None)
+            return;
         uploaded.clear();
         for (std::size_t i = 0; i < frame.planeSizes.size(); ++i) {
             const auto *data = static_cast<const char *>(frame.planeData(i));
@@ -44,6 +48,8 @@ public:
     }
 
     ImageFrame *shown = nullptr;
+    Refusal refusal = Refusal::None; ///< of every upload
+    std::int32_t longest = std::numeric_limits<std::int32_t>::max();
     QList<QByteArray> uploaded; ///< planes of the last upload
     int uploads = 0;
     qsizetype textures = 0; ///< alive

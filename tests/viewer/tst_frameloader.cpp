@@ -148,6 +148,30 @@ private Q_SLOTS:
         QCOMPARE(m_display->shown->planeSizes.front(), (PlaneSize{1, 1})); // a side never becomes 0
     }
 
+    /// What the display refuses leaves no trace in the cache, and is tried again; what is too large becomes smaller.
+    void refusals()
+    {
+        m_totals.videoMemoryBudget = 0; // a frame in main memory is uploaded whenever it is shown
+        writeExr(path("a.exr"), "R G B", 64);
+        writeExr(path("b.exr"), "Z");
+        QVERIFY(load("a.exr").shown() && load("b.exr").shown());
+        const auto used = m_totals.mainMemoryUsed;
+        m_display->refusal = Refusal::NoMemory;
+        writeExr(path("c.exr"), "Z");
+        for (const char *name : {"c.exr", "a.exr"}) {
+            const LoadResult refused = load(name);
+            QVERIFY(refused.outcome == LoadOutcome::Refused && refused.refusal == Refusal::NoMemory);
+            QVERIFY(!refused.failed() && !m_cache->contains(path(name).toStdString()));
+        }
+        QVERIFY(m_totals.mainMemoryUsed < used);
+        m_display->refusal = Refusal::None;
+        m_display->longest = 20;
+        for (int again = 0; again < 2; ++again) {
+            QCOMPARE(load("a.exr", {}, 1).forcedHalvings, 1);
+            QCOMPARE(m_display->shown->planeSizes.front().width, 16);
+        }
+    }
+
     void progress()
     {
         std::int64_t now = 41;

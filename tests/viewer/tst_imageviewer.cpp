@@ -183,6 +183,18 @@ private Q_SLOTS:
         QVERIFY(!find<QLabel>("imageWarningLabel")->pixmap().isNull());
     }
 
+    void whatIsTooLargeForOpenGlShowsSmaller()
+    {
+        QImage wide(20000, 8, QImage::Format_RGB32);
+        QVERIFY(wide.save(path(u"wide.png"_s)) && wide.copy(0, 0, 9, 8).save(path(u"narrow.png"_s)));
+        const QString text = u"Too large for OpenGL: shown at 1/2 of its size"_s;
+        open(u"wide.png"_s);
+        QVERIFY(find<QLabel>("infoLabel")->text().endsWith(text));
+        delete m_viewer;
+        open(u"narrow.png"_s);
+        QVERIFY(!find<QLabel>("infoLabel")->text().contains(text));
+    }
+
     void reloadFindsFramesThatCameAndWent()
     {
         open(u"shot.0003.exr"_s);

@@ -20,11 +20,21 @@ namespace {
 
 using Image = FarmHelpers::ImagePointer;
 
+/// Halvings that a display needs beyond those that are wanted.
+std::int32_t halvingsToFit(const CTImage &image, std::int32_t wanted, std::int32_t longestSide)
+{
+    const std::int32_t side = std::max(image.GetWidth(), image.GetHeight()) >> wanted;
+    std::int32_t halvings = 0;
+    while (side >> halvings > std::max(longestSide, 1))
+        ++halvings;
+    return halvings;
+}
+
 /// Null when the smaller image cannot be made. No side becomes less than a pixel.
 Image downsampled(Image image, std::int32_t halvings)
 {
-    const std::int32_t divisor = 1 << std::clamp(halvings, 0, LoadRequest::kMaxDownsampling);
-    if (!image || divisor == 1)
+    const std::int32_t divisor = 1 << halvings;
+    if (divisor == 1)
         return image;
     CTImage *smaller = nullptr;
     image->Resize(std::max(1, image->GetWidth() / divisor), std::max(1, image->GetHeight() / divisor),
@@ -51,13 +61,9 @@ LoadResult FrameLoader::load(const LoadRequest &request)
     LoadResult result;
     result.stamp = FileStamp::of(request.path);
     ImageFrame *cached = m_cache.find(request.path);
-    if (cached && (cached->stamp == result.stamp || !result.stamp.exists)) {
-        m_display.showFrame(cached);
-        result.outcome = LoadOutcome::Shown;
-        result.layers = cached->layers;
-        result.layer = cached->layer;
+    const bool isCurrent = cached && (cached->stamp == result.stamp || !result.stamp.exists);
+    if (isCurrent && showCached(*cached, result))
         return result;
-    }
     if (!TFramework::TFileSystem::CheckFile(request.path)) {
         result.outcome = LoadOutcome::NotFound;
         return result;
@@ -83,13 +89,30 @@ LoadResult FrameLoader::load(const LoadRequest &request)
     return result;
 }
 
+/// A frame in main memory is uploaded anew, which may be refused this time: it is read again then, which fits it.
+bool FrameLoader::showCached(ImageFrame &frame, LoadResult &result)
+{
+    m_display.showFrame(&frame);
+    if (frame.refusal != Refusal::None) {
+        m_cache.remove(std::string(frame.filePath));
+        return false;
+    }
+    result.outcome = LoadOutcome::Shown;
+    result.layers = frame.layers;
+    result.layer = frame.layer;
+    result.forcedHalvings = frame.forcedHalvings;
+    return true;
+}
+
 LoadOutcome FrameLoader::loadLayer(const LoadRequest &request, const std::string &format, LoadResult &result)
 {
     Image image(IImageCore::Load(request.path.c_str(), format.c_str(), result.layers->members(result.layer),
                                  request.progress, request.user));
     if (!image)
         return failure(request, result);
-    image = downsampled(std::move(image), request.downsampling);
+    const std::int32_t wanted = std::clamp(request.downsampling, 0, LoadRequest::kMaxDownsampling);
+    result.forcedHalvings = halvingsToFit(*image, wanted, m_display.longestSide());
+    image = downsampled(std::move(image), wanted + result.forcedHalvings);
     auto frame = image ? buildFrame(*image, *result.layers, result.layer) : nullptr;
     if (!frame)
         return LoadOutcome::NothingShown;
@@ -100,8 +123,12 @@ LoadOutcome FrameLoader::loadLayer(const LoadRequest &request, const std::string
     frame->stamp = result.stamp;
     frame->formatName = format;
     frame->premultiplied = frame->premultiplied && request.premultiplied;
+    frame->forcedHalvings = result.forcedHalvings;
     frame->display = &m_display;
     m_display.uploadTextures(*frame);
+    result.refusal = frame->refusal;
+    if (result.refusal != Refusal::None)
+        return LoadOutcome::Refused;
     ImageFrame &kept = m_cache.insert(std::move(frame), request.path);
     m_display.showFrame(&kept);
     kept.planes.clear(); // they go with the image

@@ -2,6 +2,7 @@
 
 #include "compositelayers.h"
 #include "filestamp.h"
+#include "imageframe.h"
 
 #include <helpers/imageextras.h>
 #include <image_library/iimagecore.h>
@@ -32,6 +33,7 @@ enum class LoadOutcome {
     Corrupted,
     Unreadable, ///< for a reason that is not the file's fault
     NothingShown, ///< the file is sound, but holds the layer in no form that can be shown
+    Refused, ///< the file is sound, but the display cannot show it
 };
 
 /// What a load came to.
@@ -42,10 +44,16 @@ struct LoadResult {
     std::string layer; ///< the entry of `layers` that was loaded
     FileStamp stamp; ///< of the file, before it was read
     FarmHelpers::LoadFailure failure; ///< why the file does not load, where the image library tells
+    Refusal refusal = Refusal::None; ///< why, where the outcome is Refused
+    std::int32_t forcedHalvings = 0; ///< as in ImageFrame
 
     bool shown() const { return outcome == LoadOutcome::Shown; }
     /// The file is missing or broken, which another look at it may find mended.
-    bool failed() const { return !shown() && outcome != LoadOutcome::NothingShown; }
+    bool failed() const
+    {
+        return outcome == LoadOutcome::NotFound || outcome == LoadOutcome::Corrupted
+            || outcome == LoadOutcome::Unreadable;
+    }
 };
 
 /// Brings one frame on the display, from the cache or from its file through the image library; blocks meanwhile. A frame
@@ -59,6 +67,7 @@ public:
     LoadResult load(const LoadRequest &request);
 
 private:
+    bool showCached(ImageFrame &frame, LoadResult &result);
     LoadOutcome loadLayer(const LoadRequest &request, const std::string &format, LoadResult &result);
     /// Tells why in the result, and once for each reason in the log.
     LoadOutcome failure(const LoadRequest &request, LoadResult &result);

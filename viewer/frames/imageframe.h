@@ -19,6 +19,17 @@ struct PlaneSize {
     bool operator==(const PlaneSize &other) const = default;
 };
 
+/// Says why a display cannot show a frame.
+enum class Refusal {
+    None,
+    NoContext, ///< OpenGL does not come up
+    NoShaders, ///< what draws pictures does not build
+    NoMemory,
+    TooLarge,
+    UnknownSamples, ///< of a kind that this OpenGL does not take
+    NoSamples, ///< planes that are not there, or shorter than their size says
+};
+
 /// One decoded frame: its planes, what GL makes of them, and who shows it. Built by buildFrame(), owned by the frame
 /// cache, which also deletes the textures. Plane lists have one entry per texture; GL enums are plain numbers.
 struct ImageFrame {
@@ -31,6 +42,7 @@ struct ImageFrame {
     std::string formatName; ///< as the image library's probe calls it, for example "exr"
     std::int32_t textureCount = 0; ///< 1, 3 or 4
     std::vector<std::uint32_t> textureNames; ///< empty unless uploaded
+    Refusal refusal = Refusal::None; ///< what came of the last upload
     std::vector<const void *> planes; ///< into the library's image; empty once that is released
     std::vector<std::vector<std::byte>>
         ownedPlanes; ///< copies of the planes, of a frame kept in main memory only
@@ -41,6 +53,7 @@ struct ImageFrame {
     bool isYCbCr = false;
     bool isDeep = false; ///< flattened from any number of samples in each pixel
     std::uint64_t byteSize = 0; ///< of all planes
+    std::int32_t forcedHalvings = 0; ///< of width and height, for a display that takes no larger picture
     bool yFlipped = false;
     bool premultiplied = false;
     std::int32_t displayCount = 0;

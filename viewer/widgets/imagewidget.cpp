@@ -81,9 +81,18 @@ QPoint imageWidget::setPan(QPoint wanted)
     return m_pan;
 }
 
+std::int32_t imageWidget::longestSide()
+{
+    return makeCurrent() ? m_renderer->textures().longestSide() : FrameDisplay::longestSide();
+}
+
 void imageWidget::uploadTextures(ImageFrame &frame)
 {
-    if (makeCurrent())
+    if (!makeCurrent())
+        frame.refusal = Refusal::NoContext;
+    else if (!m_renderer->usable())
+        frame.refusal = Refusal::NoShaders;
+    else
         m_renderer->textures().upload(frame);
 }
 

@@ -38,6 +38,7 @@ public:
     /// Moves the view to an offset, kept within the displayed picture; returns what it became.
     QPoint setPan(QPoint wanted);
 
+    std::int32_t longestSide() override;
     void uploadTextures(ImageFrame &frame) override;
     void deleteTextures(ImageFrame &frame) override;
     void showFrame(ImageFrame *frame) override;

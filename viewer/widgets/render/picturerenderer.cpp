@@ -29,12 +29,14 @@ PictureRenderer::PictureRenderer(const GlContext &context)
     , m_checkerVertices(context, m_checker, kQuadCorners)
     , m_borderVertices(context, m_border, kLoopCorners)
     , m_wideLines(canWidenLines())
+    , m_usable(m_picture.isBuilt())
 {
     if (!context.core)
         return;
     m_hud.emplace(context, m_textures);
-    static_cast<void>(m_pictureVertices.createBuffers() && m_checkerVertices.createBuffers()
-                      && m_borderVertices.createBuffers() && m_hud->createBuffers());
+    m_usable = m_pictureVertices.createBuffers() && m_usable;
+    static_cast<void>(m_checkerVertices.createBuffers() && m_borderVertices.createBuffers()
+                      && m_hud->createBuffers());
 }
 
 void PictureRenderer::drawPicture(const Scene &scene)
@@ -135,7 +137,7 @@ PictureProgram &PictureRenderer::programFor(const Scene &scene)
     std::optional<PictureProgram> &program = reduced ? m_reduced : m_magnified;
     if (!program)
         program.emplace(m_context, reduced ? Sampling::Reduced : Sampling::Magnified);
-    return program->isLinked() ? *program : m_picture;
+    return program->isBuilt() ? *program : m_picture;
 }
 
 void PictureRenderer::enableBlending()

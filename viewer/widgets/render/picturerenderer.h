@@ -28,6 +28,8 @@ public:
 
     explicit PictureRenderer(const GlContext &context);
 
+    /// False when what draws frames did not build, as the log says.
+    bool usable() const { return m_usable; }
     Textures &textures() { return m_textures; }
 
     /// Draws background, checker and frame.
@@ -58,4 +60,5 @@ private:
     QOpenGLPaintDevice m_view; ///< for the HUD on another
     HudText m_hudText;
     bool m_wideLines;
+    bool m_usable;
 };

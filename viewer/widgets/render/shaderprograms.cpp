@@ -65,18 +65,25 @@ ShaderProgram::ShaderProgram(const Sources &sources, const GlContext &context)
     const auto warn = [this, &sources](const char *step) {
         qCWarning(lcViewer, "%s %s: %s", sources.name, step, qPrintable(m_program.log()));
     };
-    if (!m_program.addShaderFromSourceCode(QOpenGLShader::Vertex,
-                                           source(context.core ? kVertex150 : kVertex120, sources.vertex)))
-        warn("vertex shader");
+    const auto checked = [&warn](bool done, const char *step) {
+        if (!done)
+            warn(step);
+        return done;
+    };
     const QByteArray prologue = QByteArray(context.core ? kFragment150 : kFragment120) + sources.defines;
-    if (!m_program.addShaderFromSourceCode(QOpenGLShader::Fragment, source(prologue, sources.fragment)))
-        warn("fragment shader");
+    const bool vertex =
+        checked(m_program.addShaderFromSourceCode(
+                    QOpenGLShader::Vertex, source(context.core ? kVertex150 : kVertex120, sources.vertex)),
+                "vertex shader");
+    const bool fragment = checked(
+        m_program.addShaderFromSourceCode(QOpenGLShader::Fragment, source(prologue, sources.fragment)),
+        "fragment shader");
     m_program.bindAttributeLocation("vertex", kVertex);
     m_program.bindAttributeLocation("vertTexCoord", kTexCoord);
-    if (!m_program.link()) {
-        warn("shader link");
+    // A program without shaders links, and draws as OpenGL did before there were any.
+    m_built = checked(m_program.link(), "shader link") && vertex && fragment;
+    if (!m_built)
         return;
-    }
     m_vertex = m_program.attributeLocation("vertex");
     m_texCoord = m_program.attributeLocation("vertTexCoord");
     m_matrix = m_program.uniformLocation("matrix");

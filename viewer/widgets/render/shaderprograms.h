@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// A program and where its variables are, looked up once. One that does not compile or link logs why and does not bind.
+/// A program and where its variables are, looked up once. One that does not build logs why and does not bind.
 /// Made, used and destroyed with its context current.
 class ShaderProgram {
     Q_DISABLE_COPY_MOVE(ShaderProgram)
@@ -22,8 +22,8 @@ public:
 
     ShaderProgram(const Sources &sources, const GlContext &context);
 
-    bool isLinked() const { return m_program.isLinked(); }
-    bool bind() { return isLinked() && m_program.bind(); }
+    bool isBuilt() const { return m_built; }
+    bool bind() { return m_built && m_program.bind(); }
     void release() { m_program.release(); }
     void setMatrix(const QMatrix4x4 &matrix) { m_program.setUniformValue(m_matrix, matrix); }
 
@@ -32,12 +32,13 @@ public:
     bool textured() const { return m_texCoord >= 0; }
 
 protected:
-    /// -1 in a program that did not link.
-    int location(const char *uniform) const { return isLinked() ? m_program.uniformLocation(uniform) : -1; }
+    /// -1 in a program that is not built.
+    int location(const char *uniform) const { return m_built ? m_program.uniformLocation(uniform) : -1; }
 
     QOpenGLShaderProgram m_program;
 
 private:
+    bool m_built = false;
     int m_vertex = -1;
     int m_texCoord = -1;
     int m_matrix = -1;

@@ -28,6 +28,18 @@ bool holds(const std::array<GLenum, N> &list, GLenum value)
     return std::find(list.begin(), list.end(), value) != list.end();
 }
 
+const char *whatIsWrong(Refusal refusal)
+{
+    switch (refusal) {
+    case Refusal::UnknownSamples:
+        return "has samples of a kind that is not shown";
+    case Refusal::TooLarge:
+        return "is larger than OpenGL allows";
+    default:
+        return "has a plane with too few samples";
+    }
+}
+
 std::int32_t samplesOf(GLenum dataFormat)
 {
     return dataFormat == GL_RGB ? 3 : dataFormat == GL_LUMINANCE ? 1 : 4;
@@ -66,25 +78,22 @@ Textures::Textures(const GlContext &context)
 
 void Textures::upload(ImageFrame &frame)
 {
-    const std::size_t planes = frame.planeSizes.size();
-    const char *reason = planes == 0 || planes > kMostPlanes ? "has no planes to show" : nullptr;
-    for (std::size_t i = 0; i < planes && !reason; ++i)
-        reason = refusal(frame, i);
-    if (reason) {
-        qCWarning(lcViewer, "%s %s: not shown", frame.filePath.c_str(), reason);
+    frame.refusal = refusal(frame);
+    if (frame.refusal != Refusal::None) {
+        qCWarning(lcViewer, "%s %s: not shown", frame.filePath.c_str(), whatIsWrong(frame.refusal));
         return;
     }
-
     const GLenum dataFormat = pixelDataFormat(frame.internalFormat);
     const GLint filter = havePlanesOneSize(frame) ? GL_NEAREST : GL_LINEAR;
     takeError();
-    for (std::size_t i = 0; i < planes; ++i)
+    for (std::size_t i = 0; i < frame.planeSizes.size(); ++i)
         frame.textureNames.push_back(make({frame.internalFormat, dataFormat, frame.pixelType,
                                            frame.planeSizes[i], frame.planeData(i), filter}));
     if (const GLenum error = takeError(); error != GL_NO_ERROR) {
         qCWarning(lcViewer, "%s was refused by OpenGL with error 0x%x: not shown", frame.filePath.c_str(),
                   error);
         remove(frame);
+        frame.refusal = error == GL_OUT_OF_MEMORY ? Refusal::NoMemory : Refusal::UnknownSamples;
     }
 }
 
@@ -153,22 +162,29 @@ GLuint Textures::make(const Image &image)
     return texture;
 }
 
-const char *Textures::refusal(const ImageFrame &frame, std::size_t plane) const
+Refusal Textures::refusal(const ImageFrame &frame) const
 {
-    if (frame.internalFormat == 0 || !holds(kPixelTypes, frame.pixelType))
-        return "has samples of an unknown type";
-    if (holds(kIntegerFormats, frame.internalFormat))
-        return "has an integer format that cannot be filtered";
+    const std::size_t planes = frame.planeSizes.size();
+    Refusal reason = planes == 0 || planes > kMostPlanes ? Refusal::NoSamples : Refusal::None;
+    for (std::size_t i = 0; i < planes && reason == Refusal::None; ++i)
+        reason = refusal(frame, i);
+    return reason;
+}
+
+Refusal Textures::refusal(const ImageFrame &frame, std::size_t plane) const
+{
+    // Integers that are not scaled to a range cannot be sampled as colours.
+    if (frame.internalFormat == 0 || !holds(kPixelTypes, frame.pixelType)
+        || holds(kIntegerFormats, frame.internalFormat))
+        return Refusal::UnknownSamples;
     const PlaneSize &size = frame.planeSizes[plane];
     if (size.width > m_longestSide || size.height > m_longestSide)
-        return "is larger than OpenGL allows";
+        return Refusal::TooLarge;
     const auto read = planeBytes(size.width, size.height, samplesOf(pixelDataFormat(frame.internalFormat)),
                                  bytesPerSample(frame.pixelType));
     const std::uint64_t there =
         plane < frame.ownedPlanes.size() ? frame.ownedPlanes[plane].size() : frame.planeBytes(plane);
-    if (!read || !frame.planeData(plane) || *read > there)
-        return "has a plane with too few samples";
-    return nullptr;
+    return !read || !frame.planeData(plane) || *read > there ? Refusal::NoSamples : Refusal::None;
 }
 
 GLenum Textures::takeError()

@@ -2,9 +2,9 @@
 
 #include "glcontext.h"
 
-#include <QtCore/QSize>
+#include <viewer/frames/imageframe.h>
 
-struct ImageFrame;
+#include <QtCore/QSize>
 
 /// Names the samples of a texture with that internal format: GL_RGB, GL_LUMINANCE or else GL_RGBA.
 GLenum pixelDataFormat(GLenum internalFormat);
@@ -21,8 +21,8 @@ public:
     /// Longest side of a texture, in pixels.
     int longestSide() const { return m_longestSide; }
 
-    /// Makes a texture of each plane and names them in the frame; logs and names none when GL would refuse the frame or
-    /// read past a plane.
+    /// Makes a texture of each plane and names them in the frame; logs, names none and notes why in the frame when GL
+    /// refuses it or would read past a plane.
     void upload(ImageFrame &frame);
     /// Makes one texture of packed 8-bit RGBA rows; returns 0 when GL refuses it.
     GLuint upload(const QSize &size, const void *rgba);
@@ -36,8 +36,9 @@ private:
     struct Image;
 
     GLuint make(const Image &image);
-    /// Tells why GL cannot take a plane; null when it can.
-    const char *refusal(const ImageFrame &frame, std::size_t plane) const;
+    /// Tells why GL cannot take the planes.
+    Refusal refusal(const ImageFrame &frame) const;
+    Refusal refusal(const ImageFrame &frame, std::size_t plane) const;
     GLenum takeError();
 
     QOpenGLFunctions &m_gl;
