@@ -115,6 +115,8 @@ void ImageViewer::connectSession()
         m_ui->framesPath->setText(QString::fromStdString(m_session->sequence().framesPath));
         m_zoom->resetZoom();
     });
+    connect(m_ui->image, &imageWidget::texturesLost, m_session.get(), &ViewerSession::loadAnew,
+            Qt::QueuedConnection);
     connect(m_session.get(), &ViewerSession::loaded, this, [this] {
         m_zoom->refresh();
         m_ui->infoLabel->setText(m_totals.statusText() + m_loadStatus->sizeText());

@@ -4,7 +4,12 @@
 #include <viewer/calibrationpanel.h>
 
 #include <QtCore/QFile>
+#include <QtCore/QProcess>
 #include <QtCore/QSettings>
+#include <QtGui/QOpenGLContext>
+#include <QtGui/QScreen>
+#include <QtGui/QWindow>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
 
@@ -195,6 +200,37 @@ private Q_SLOTS:
         QVERIFY(!find<QLabel>("infoLabel")->text().contains(text));
     }
 
+    void contextThatDiesIsReplaced()
+    {
+        imageWidget &picture = openOnScreen();
+        const QImage before = onScreen(picture);
+        // As after a driver's reset, whatever is asked of the context fails.
+        QOpenGLContext *context = picture.context();
+        using Destroy = void (*)(void *, void *);
+        const auto destroy = reinterpret_cast<Destroy>(context->getProcAddress("glXDestroyContext"));
+        context->doneCurrent();
+        destroy(qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->display(),
+                context->nativeInterface<QNativeInterface::QGLXContext>()->nativeContext());
+        QTest::ignoreMessage(QtWarningMsg, "The OpenGL context has died: pictures are loaded again");
+        picture.setBackgroundColor(Qt::green);
+        QTRY_COMPARE(onScreen(picture).pixelColor(1, 1), QColor(Qt::green));
+        picture.setBackgroundColor(Qt::black);
+        QTRY_COMPARE(onScreen(picture), before);
+    }
+
+    void windowDestroyedFromOutsideIsReplaced()
+    {
+        imageWidget &picture = openOnScreen();
+        const QImage before = onScreen(picture);
+        for (const QWindow *window : QGuiApplication::allWindows()) {
+            if (window->surfaceType() == QSurface::OpenGLSurface)
+                QProcess::execute(u"xdotool"_s, {u"windowclose"_s, QString::number(window->winId())});
+        }
+        QTest::ignoreMessage(QtWarningMsg, "The window of the picture is gone: it is made anew");
+        QTRY_VERIFY(onScreen(picture) != before);
+        QTRY_COMPARE(onScreen(picture), before);
+    }
+
     void reloadFindsFramesThatCameAndWent()
     {
         open(u"shot.0003.exr"_s);
@@ -297,6 +333,25 @@ private Q_SLOTS:
             QTRY_VERIFY(!viewer);
         }
     }
+
+private:
+    static QImage onScreen(const imageWidget &picture)
+    {
+        return picture.screen()->grabWindow().toImage().copy({picture.mapToGlobal(QPoint()), picture.size()});
+    }
+
+    /// The picture, once it is there to be seen.
+    imageWidget &openOnScreen()
+    {
+        imageWidget &picture = open(u"shot.0003.exr"_s)->picture();
+        const auto isShown = [&] {
+            return onScreen(picture).pixelColor(picture.rect().center()).name() == u"#ba88ff"_s;
+        };
+        if (!QTest::qWaitFor(isShown))
+            qWarning("the frame is not on the screen");
+        return picture;
+    }
+
 };
 
 QTEST_MAIN(ImageViewerTest)

@@ -66,6 +66,8 @@ public:
     bool setLayer(const std::string &entry);
     /// Off: colours count as straight, whatever the file says.
     void setPremultiplied(bool on);
+    /// Forgets every frame that was loaded, and loads the one on show.
+    void loadAnew();
     /// Halvings of width and height.
     void setDownsampling(std::int32_t halvings);
     /// The budgets have changed: what exceeds them goes, but for the frame on show.
@@ -102,7 +104,6 @@ private:
     void listPlayed();
     /// `fresh` for the first frame of a path: a layer that it lacks is chosen no longer.
     void load(bool fresh);
-    void loadAnew();
     void playStep();
     static void progressed(float fraction, void *session);
 

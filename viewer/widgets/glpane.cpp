@@ -58,19 +58,44 @@ bool GlPane::createContext()
 {
     if (m_failed)
         return false;
-    m_context = std::make_unique<QOpenGLContext>();
-    m_context->setFormat(opaqueFormat());
     m_offscreen = std::make_unique<QOffscreenSurface>();
     m_offscreen->setFormat(opaqueFormat());
     m_offscreen->create();
-    m_failed = !m_context->create() || !m_context->makeCurrent(m_offscreen.get());
+    QSurfaceFormat telling = opaqueFormat();
+    telling.setOption(QSurfaceFormat::ResetNotification);
+    m_failed = !tryContext(telling) && !tryContext(opaqueFormat());
     if (m_failed) {
         qCWarning(lcViewer, "No OpenGL context comes up: pictures are not shown");
         m_context.reset();
         return false;
     }
+    for (const char *name : {"glGetGraphicsResetStatus", "glGetGraphicsResetStatusARB"}) {
+        if (!m_resetStatus && m_context->format().testOption(QSurfaceFormat::ResetNotification))
+            m_resetStatus = reinterpret_cast<ResetStatus>(m_context->getProcAddress(name));
+    }
     initializeGL();
     return true;
+}
+
+bool GlPane::tryContext(const QSurfaceFormat &format)
+{
+    m_context = std::make_unique<QOpenGLContext>();
+    m_context->setFormat(format);
+    return m_context->create() && m_context->makeCurrent(m_offscreen.get());
+}
+
+bool GlPane::renewContext()
+{
+    qCWarning(lcViewer, "The OpenGL context has died: pictures are loaded again");
+    contextLost();
+    m_resetStatus = nullptr;
+    m_context.reset();
+    return createContext();
+}
+
+bool GlPane::hasReset() const
+{
+    return m_resetStatus && m_resetStatus() != GL_NO_ERROR;
 }
 
 bool GlPane::isCurrent() const
@@ -82,10 +107,15 @@ bool GlPane::makeCurrent()
 {
     if (!m_context && !createContext())
         return false;
-    QSurface *surface = m_offscreen.get();
-    if (m_window->handle())
-        surface = m_window;
-    return (isCurrent() && m_context->surface() == surface) || m_context->makeCurrent(surface);
+    const auto enter = [this] {
+        QSurface *surface = m_offscreen.get();
+        if (m_window->handle())
+            surface = m_window;
+        return (isCurrent() && m_context->surface() == surface) || m_context->makeCurrent(surface);
+    };
+    if (enter() && !hasReset())
+        return true;
+    return renewContext() && enter();
 }
 
 QSize GlPane::viewSize() const
@@ -146,6 +176,10 @@ bool GlPane::eventFilter(QObject *watched, QEvent *event)
     switch (event->type()) {
     case QEvent::Expose:
         update();
+        // Queued: it is no good to end a window amid its own event.
+        if (isWindowLost())
+            QMetaObject::invokeMethod(this, &GlPane::renewWindow, Qt::QueuedConnection);
+        m_wasExposed = m_wasExposed || m_window->isExposed();
         break;
     case QEvent::PlatformSurface:
         if (isCurrent())
@@ -162,6 +196,24 @@ bool GlPane::eventFilter(QObject *watched, QEvent *event)
         break;
     }
     return QWidget::eventFilter(watched, event);
+}
+
+/// A window that goes while all around it is shown was taken away by another program.
+bool GlPane::isWindowLost() const
+{
+    const QWindow *around = window()->windowHandle();
+    return m_wasExposed && !m_window->isExposed() && m_window->isVisible() && isVisible() && around
+        && around->isExposed();
+}
+
+void GlPane::renewWindow()
+{
+    if (!isWindowLost())
+        return;
+    qCWarning(lcViewer, "The window of the picture is gone: it is made anew");
+    m_wasExposed = false;
+    m_window->destroy();
+    m_window->show();
 }
 
 void GlPane::passOn(const QSinglePointEvent &event)

@@ -9,12 +9,13 @@
 class QOffscreenSurface;
 class QOpenGLContext;
 class QSinglePointEvent;
+class QSurfaceFormat;
 class QWindow;
 
 /// Draws by OpenGL on a native window of its own within the widget, so that a new frame costs no more than itself: a
 /// QOpenGLWidget has all of its window composed anew whenever a part of it changes.
 /// Input goes to the widget. The context comes up when it is first needed and stays until the widget ends, whatever
-/// window that moves to; without a usable one nothing is drawn, and the log says so.
+/// window that moves to; without a usable one nothing is drawn, and the log says so. One that dies is replaced.
 class GlPane : public QWidget {
     Q_OBJECT
 
@@ -47,6 +48,8 @@ Q_SIGNALS:
 protected:
     /// Prepares drawing; the context has come up and is current.
     virtual void initializeGL() = 0;
+    /// The context has died, with all that it held; another comes up next. None is current.
+    virtual void contextLost() = 0;
     /// Draws into an image of this size; null without a usable context.
     QImage drawn(QSize pixels, const std::function<void()> &draw);
     /// Ends the context and all drawing; for the derived class's destructor, once what it made is gone.
@@ -58,7 +61,13 @@ protected:
 
 private:
     bool createContext();
+    bool tryContext(const QSurfaceFormat &format);
+    /// False where no other comes up either.
+    bool renewContext();
+    bool hasReset() const;
     bool isCurrent() const;
+    bool isWindowLost() const;
+    void renewWindow();
     void present();
     /// Sends input that the system gave to the window within to the widget's window.
     void passOn(const QSinglePointEvent &event);
@@ -67,6 +76,9 @@ private:
     QWidget *m_holder = nullptr; // a child of this
     std::unique_ptr<QOffscreenSurface> m_offscreen; ///< to be current on without a window
     std::unique_ptr<QOpenGLContext> m_context;
+    using ResetStatus = unsigned (*)();
+    ResetStatus m_resetStatus = nullptr; ///< where the driver tells of resets
     bool m_failed = false;
+    bool m_wasExposed = false; // the window within, since it was made
     bool m_updatePosted = false;
 };

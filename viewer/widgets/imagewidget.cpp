@@ -67,7 +67,7 @@ bool imageWidget::floatTexturesUsable() const
 
 QImage imageWidget::grabPicture()
 {
-    if (!m_frame || m_frame->textureNames.empty())
+    if (!m_frame || !makeCurrent() || !m_renderer->textures().has(*m_frame))
         return {};
     ViewGeometry whole;
     whole.frame = {m_frame->planeSizes.front().width, m_frame->planeSizes.front().height};
@@ -183,6 +183,15 @@ void imageWidget::initializeGL()
     m_floatTexturesUsable = core || hasFloatTextures(*context());
     m_renderer = std::make_unique<PictureRenderer>(GlContext{gl, core});
     Q_EMIT initialized();
+}
+
+void imageWidget::contextLost()
+{
+    if (!m_renderer)
+        return;
+    m_renderer->textures().abandon();
+    m_renderer.reset();
+    Q_EMIT texturesLost();
 }
 
 void imageWidget::paintGL()

@@ -66,9 +66,12 @@ Q_SIGNALS:
     void zoomOutRequested();
     /// Tells that the context has come up.
     void initialized();
+    /// Tells that a context has died with the textures of all frames; sent from amid whatever found out.
+    void texturesLost();
 
 protected:
     void initializeGL() override;
+    void contextLost() override;
     bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;

@@ -52,7 +52,7 @@ void PictureRenderer::drawPicture(const Scene &scene)
     const QuadVertices quad = quadVertices(geometry.quad());
     if (scene.look.checkerOn)
         drawChecker(scene, matrix, quad);
-    if (scene.frame && !scene.frame->textureNames.empty())
+    if (scene.frame && m_textures.has(*scene.frame))
         drawFrame(scene, matrix, quad);
 }
 

@@ -12,6 +12,7 @@
 namespace {
 
 int liveTextures = 0;
+std::uint32_t lastId = 0;
 
 constexpr std::array<GLenum, 5> kRgbFormats = {GL_RGB, GL_RGB32F, GL_RGB16F, GL_RGB32UI, GL_RGB16UI};
 constexpr std::array<GLenum, 6> kLuminanceFormats = {GL_LUMINANCE, GL_R8,    GL_R16F,
@@ -71,9 +72,16 @@ struct Textures::Image {
 
 Textures::Textures(const GlContext &context)
     : m_gl(context.gl)
+    , m_id(++lastId)
     , m_core(context.core)
 {
     m_gl.glGetIntegerv(GL_MAX_TEXTURE_SIZE, &m_longestSide);
+}
+
+Textures::~Textures()
+{
+    if (m_abandoned)
+        liveTextures -= m_live;
 }
 
 void Textures::upload(ImageFrame &frame)
@@ -83,6 +91,7 @@ void Textures::upload(ImageFrame &frame)
         qCWarning(lcViewer, "%s %s: not shown", frame.filePath.c_str(), whatIsWrong(frame.refusal));
         return;
     }
+    frame.textureOwner = m_id;
     const GLenum dataFormat = pixelDataFormat(frame.internalFormat);
     const GLint filter = havePlanesOneSize(frame) ? GL_NEAREST : GL_LINEAR;
     takeError();
@@ -112,17 +121,25 @@ GLuint Textures::upload(const QSize &size, const void *rgba)
 
 void Textures::remove(GLuint texture)
 {
-    if (texture == 0)
+    if (texture == 0 || m_abandoned)
         return;
     m_gl.glDeleteTextures(1, &texture);
+    --m_live;
     --liveTextures;
 }
 
 void Textures::remove(ImageFrame &frame)
 {
-    for (const GLuint texture : frame.textureNames)
-        remove(texture);
+    if (has(frame)) {
+        for (const GLuint texture : frame.textureNames)
+            remove(texture);
+    }
     frame.textureNames.clear();
+}
+
+bool Textures::has(const ImageFrame &frame) const
+{
+    return frame.textureOwner == m_id && !frame.textureNames.empty();
 }
 
 int Textures::live()
@@ -143,8 +160,10 @@ GLuint Textures::make(const Image &image)
 
     GLuint texture = 0;
     m_gl.glGenTextures(1, &texture);
-    if (texture != 0)
+    if (texture != 0) {
+        ++m_live;
         ++liveTextures;
+    }
     m_gl.glBindTexture(GL_TEXTURE_2D, texture);
     m_gl.glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     m_gl.glPixelStorei(GL_UNPACK_ROW_LENGTH, 0);

@@ -15,8 +15,11 @@ bool havePlanesOneSize(const ImageFrame &frame);
 
 /// Makes, fills and deletes textures, each through here, so that they can be counted; the context is current.
 class Textures final {
+    Q_DISABLE_COPY_MOVE(Textures)
+
 public:
     explicit Textures(const GlContext &context);
+    ~Textures();
 
     /// Longest side of a texture, in pixels.
     int longestSide() const { return m_longestSide; }
@@ -27,7 +30,12 @@ public:
     /// Makes one texture of packed 8-bit RGBA rows; returns 0 when GL refuses it.
     GLuint upload(const QSize &size, const void *rgba);
     void remove(GLuint texture);
+    /// Forgets the names that a context before this one made.
     void remove(ImageFrame &frame);
+    /// Tells whether the frame has textures, of this context.
+    bool has(const ImageFrame &frame) const;
+    /// The context has died and took its textures along.
+    void abandon() { m_abandoned = true; }
 
     /// Counts the textures that the whole program holds now, so that a leak shows.
     static int live();
@@ -42,6 +50,9 @@ private:
     GLenum takeError();
 
     QOpenGLFunctions &m_gl;
+    const std::uint32_t m_id;
     GLint m_longestSide = 0;
+    int m_live = 0;
     bool m_core = false;
+    bool m_abandoned = false;
 };
