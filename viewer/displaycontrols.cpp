@@ -56,7 +56,10 @@ void DisplayControls::connectSession()
     connect(m_form.layersSelector, &QComboBox::activated, &m_session, [this](int index) {
         m_session.setLayer(m_form.layersSelector->itemData(index).toString().toStdString());
     });
-    connect(&m_session, &ViewerSession::opened, this, [this] { setChannelViewMode(0); });
+    connect(&m_session, &ViewerSession::opened, this, [this](bool another) {
+        if (another)
+            setChannelViewMode(0);
+    });
     connect(&m_session, &ViewerSession::loaded, this, [this] {
         if (m_session.lastLoad().shown())
             showLayers();

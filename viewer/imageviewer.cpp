@@ -111,9 +111,10 @@ void ImageViewer::connectCalibration()
 
 void ImageViewer::connectSession()
 {
-    connect(m_session.get(), &ViewerSession::opened, this, [this] {
+    connect(m_session.get(), &ViewerSession::opened, this, [this](bool another) {
         m_ui->framesPath->setText(QString::fromStdString(m_session->sequence().framesPath));
-        m_zoom->resetZoom();
+        if (another)
+            m_zoom->resetZoom();
     });
     connect(m_ui->image, &imageWidget::texturesLost, m_session.get(), &ViewerSession::loadAnew,
             Qt::QueuedConnection);

@@ -9,6 +9,7 @@
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -17,30 +18,36 @@ constexpr float kLargestZoom = 100.0F;
 constexpr int kSmallestShown = 64; // twice a shown side, in pixels
 constexpr int kScrollStep = 20;
 
+/// Gives the pan along one side that keeps what is at a point where it is; a picture smaller than its view is centred.
+double panKeeping(double at, int view, int before, int after, double pan)
+{
+    const auto margin = [view](int shown) { return std::max(0, view - shown) / 2.0; };
+    const double inPicture = (at - margin(before) + pan) * after / std::max(before, 1);
+    return std::max(0.0, inPicture + margin(after) - at);
+}
+
 } // namespace
 
 ZoomControl::ZoomControl(const Controls &controls)
     : QObject(controls.image)
     , m_controls(controls)
 {
-    buildMenu(m_controls.fit, Lock::Fit, &ZoomControl::fit);
-    buildMenu(m_controls.pixels, Lock::Pixels, &ZoomControl::pixelSize);
-    connect(m_controls.fit, &QToolButton::clicked, this, &ZoomControl::fit);
-    connect(m_controls.pixels, &QToolButton::clicked, this, &ZoomControl::pixelSize);
+    buildMenu(m_controls.fit, Lock::Fit);
+    buildMenu(m_controls.pixels, Lock::Pixels);
     connect(m_controls.horizontal, &QScrollBar::valueChanged, this, &ZoomControl::scrolled);
     connect(m_controls.vertical, &QScrollBar::valueChanged, this, &ZoomControl::scrolled);
     const imageWidget *image = m_controls.image;
     connect(image, &imageWidget::horizontalScrollRequested, m_controls.horizontal, &QScrollBar::setValue);
     connect(image, &imageWidget::verticalScrollRequested, m_controls.vertical, &QScrollBar::setValue);
-    connect(image, &imageWidget::zoomInRequested, this, &ZoomControl::zoomIn);
-    connect(image, &imageWidget::zoomOutRequested, this, &ZoomControl::zoomOut);
+    connect(image, &imageWidget::zoomRequested, this, &ZoomControl::zoomBy);
     connect(image, &imageWidget::resized, this, &ZoomControl::refresh);
+    setLock(m_lock);
 }
 
-void ZoomControl::buildMenu(QToolButton *button, Lock lock, void (ZoomControl::*apply)())
+void ZoomControl::buildMenu(QToolButton *button, Lock lock)
 {
     auto *menu = new QMenu(button);
-    menu->addAction(tr("Apply"), this, apply);
+    menu->addAction(tr("Apply"), this, [this, lock] { apply(lock); });
     QAction *lockAction = menu->addAction(tr("Lock"), this, [this, lock] { setLock(lock); });
     QAction *unlockAction = menu->addAction(tr("Unlock"), this, [this] { setLock(Lock::None); });
     connect(menu, &QMenu::aboutToShow, this, [this, lock, lockAction, unlockAction] {
@@ -48,11 +55,14 @@ void ZoomControl::buildMenu(QToolButton *button, Lock lock, void (ZoomControl::*
         unlockAction->setEnabled(m_lock == lock);
     });
     button->setMenu(menu);
+    connect(button, &QToolButton::clicked, this, [this, lock] { setLock(lock); });
 }
 
 void ZoomControl::setLock(Lock lock)
 {
     m_lock = lock;
+    m_controls.fit->setChecked(lock == Lock::Fit);
+    m_controls.pixels->setChecked(lock == Lock::Pixels);
     refresh();
 }
 
@@ -69,53 +79,78 @@ bool ZoomControl::canZoomOut() const
 
 void ZoomControl::zoomIn()
 {
-    if (canZoomIn())
-        setZoom(m_controls.image->zoomFactor() * kZoomStep);
+    zoomBy(1.0F, middle());
 }
 
 void ZoomControl::zoomOut()
 {
-    if (canZoomOut())
-        setZoom(m_controls.image->zoomFactor() / kZoomStep);
+    zoomBy(-1.0F, middle());
 }
 
-void ZoomControl::setZoom(float zoom)
+void ZoomControl::zoomBy(float steps, QPointF at)
 {
-    // What is in the middle of the view stays there.
-    const QSize view = m_controls.image->viewSize();
-    const QPointF middle(view.width() / 2.0, view.height() / 2.0);
-    const double growth = double(zoom) / double(m_controls.image->zoomFactor());
-    const QPoint pan = ((QPointF(m_controls.image->pan()) + middle) * growth - middle).toPoint();
-    m_controls.image->setZoomFactor(zoom);
-    m_controls.image->setPan({std::max(0, pan.x()), std::max(0, pan.y())});
-    refresh();
-}
-
-void ZoomControl::fit()
-{
-    const ImageFrame *frame = m_controls.image->frame();
-    if (!frame || frame->planeSizes.empty())
+    const float zoom = m_controls.image->zoomFactor();
+    if (steps > 0 ? !canZoomIn() : !canZoomOut())
         return;
+    const QSizeF picture = QSizeF(m_controls.image->displayedSize()) / double(zoom);
+    const auto smallest = float(kSmallestShown / 2.0 / std::min(picture.width(), picture.height()));
+    // A fit may lie beyond the limits; from there, too, a step goes its own way.
+    const float wanted = std::clamp(zoom * std::pow(kZoomStep, steps), std::min(zoom, smallest / kZoomStep),
+                                    std::max(zoom, kLargestZoom * kZoomStep));
+    setLock(Lock::None);
+    place(wanted, at);
+}
+
+void ZoomControl::zoomTo(float zoom)
+{
+    setLock(Lock::None);
+    place(zoom, middle());
+}
+
+QPointF ZoomControl::middle() const
+{
+    const QSize view = m_controls.image->viewSize();
+    return {view.width() / 2.0, view.height() / 2.0};
+}
+
+void ZoomControl::place(float zoom, QPointF at)
+{
+    imageWidget &image = *m_controls.image;
+    const QSize view = image.viewSize();
+    // Rounded at each of a touchpad's small steps, the picture would creep away.
+    const QPointF pan = m_pan.toPoint() == image.pan() ? m_pan : image.pan();
+    const QSize before = image.displayedSize();
+    image.setZoomFactor(zoom);
+    const QSize after = image.displayedSize();
+    m_pan = {panKeeping(at.x(), view.width(), before.width(), after.width(), pan.x()),
+             panKeeping(at.y(), view.height(), before.height(), after.height(), pan.y())};
+    image.setPan(m_pan.toPoint());
+    if (!m_refreshing)
+        refresh();
+}
+
+float ZoomControl::fittingZoom() const
+{
+    const imageWidget &image = *m_controls.image;
+    const ImageFrame *frame = image.frame();
+    const QSize view = image.viewSize();
+    if (!frame || frame->planeSizes.empty() || view.isEmpty())
+        return image.zoomFactor();
     const PlaneSize size = frame->planeSizes.front();
-    const QSize view = m_controls.image->viewSize();
-    if (view.isEmpty() || size.width < 1 || size.height < 1)
-        return;
-    m_controls.image->setZoomFactor(
-        std::min(float(view.width()) / float(size.width), float(view.height()) / float(size.height)));
-    if (!m_refreshing)
-        refresh();
+    return std::min(float(view.width()) / float(size.width), float(view.height()) / float(size.height));
 }
 
-void ZoomControl::pixelSize()
+void ZoomControl::apply(Lock lock)
 {
-    m_controls.image->setZoomFactor(1.0F);
-    if (!m_refreshing)
-        refresh();
+    if (lock == Lock::Fit)
+        place(fittingZoom(), middle());
+    else if (lock == Lock::Pixels)
+        place(1.0F, middle());
 }
 
 void ZoomControl::resetZoom()
 {
-    m_controls.image->setZoomFactor(1.0F);
+    setLock(m_lock == Lock::Pixels ? Lock::Pixels : Lock::Fit);
     m_controls.image->setPan({});
     refresh();
 }
@@ -125,10 +160,7 @@ void ZoomControl::refresh()
     if (m_refreshing)
         return;
     m_refreshing = true;
-    if (m_lock == Lock::Fit)
-        fit();
-    else if (m_lock == Lock::Pixels)
-        pixelSize();
+    apply(m_lock);
     const QSize shown = m_controls.image->displayedSize();
     const QSize view = m_controls.image->viewSize();
     const QPoint pan = m_controls.image->setPan(m_controls.image->pan());

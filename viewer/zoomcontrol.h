@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QObject>
+#include <QtCore/QPointF>
 
 class QMenu;
 class QScrollBar;
@@ -8,7 +9,8 @@ class QToolButton;
 class imageWidget;
 
 /// Places the picture in its view: zooms within limits, moves the scroll bars, and keeps the fit or the pixel size,
-/// where the user has locked one, for other frames and other sizes of the view. One lock at most is on.
+/// whichever is locked, for other frames and other sizes of the view. One lock at most is on, and its button is checked:
+/// the fit's at first; a zoom takes it off.
 class ZoomControl final : public QObject {
     Q_OBJECT
 
@@ -17,8 +19,8 @@ public:
         imageWidget *image;
         QScrollBar *horizontal;
         QScrollBar *vertical;
-        QToolButton *fit; ///< gets a menu
-        QToolButton *pixels; ///< gets a menu
+        QToolButton *fit; ///< checkable; gets a menu
+        QToolButton *pixels; ///< checkable; gets a menu
     };
 
     /// The picture owns this; the other controls live as long.
@@ -30,10 +32,10 @@ public:
 public Q_SLOTS:
     void zoomIn();
     void zoomOut();
-    void fit();
-    void pixelSize();
-    /// Sets zoom 1 and the origin, unless a lock asks for something else.
+    /// Shows the whole picture and the one that comes next, unless the pixel size is locked.
     void resetZoom();
+    /// Zooms by any factor about the middle of the view; ends the lock.
+    void zoomTo(float zoom);
     /// Applies the lock and brings the scroll bars in line with the picture.
     void refresh();
 
@@ -43,13 +45,19 @@ Q_SIGNALS:
 private:
     enum class Lock { None, Fit, Pixels };
 
-    void buildMenu(QToolButton *button, Lock lock, void (ZoomControl::*apply)());
+    void buildMenu(QToolButton *button, Lock lock);
     void setLock(Lock lock);
-    void setZoom(float zoom);
+    void apply(Lock lock);
+    /// Zooms by steps or parts of them, as far as the limits let it; what is at the point stays there.
+    void zoomBy(float steps, QPointF at);
+    void place(float zoom, QPointF at);
+    QPointF middle() const;
+    float fittingZoom() const;
     void refreshScrollBar(QScrollBar &bar, int displayed, int visible, int value);
     void scrolled();
 
     const Controls m_controls;
-    Lock m_lock = Lock::None;
+    Lock m_lock = Lock::Fit;
+    QPointF m_pan; // before it was rounded
     bool m_refreshing = false;
 };

@@ -58,12 +58,11 @@ private Q_SLOTS:
         QCOMPARE(m_session->frame(), 5);
         m_session->open({.path = mask, .force = true, .maskIsSequence = true});
         QCOMPARE(m_session->frame(), 5);
-        QCOMPARE(opened.count(), 2);
-        QCOMPARE(firstShown.count(), 2);
+        QCOMPARE(QList<QVariantList>(opened), (QList<QVariantList>{{true}, {false}}));
         open(u"none.exr"_s);
         QVERIFY(!m_session->canPlay());
         QVERIFY(!m_display.shown);
-        QCOMPARE(firstShown.count(), 2);
+        QCOMPARE(firstShown.count(), 1);
     }
 
     void playsRoundItsRange()

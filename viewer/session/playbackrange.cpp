@@ -2,6 +2,8 @@
 
 #include <viewer/frames/framesequence.h>
 
+#include <algorithm>
+
 namespace {
 
 /// A number past what an integer holds counts as 0 too.
@@ -11,6 +13,23 @@ long number(const QString &text)
 }
 
 } // namespace
+
+PlaybackRange wholeRange(const FrameSequence &sequence)
+{
+    return {sequence.first(), sequence.last(), sequence.byFrame};
+}
+
+PlaybackRange keptRange(const PlaybackRange &range, const FrameSequence &before, const FrameSequence &now)
+{
+    PlaybackRange kept = wholeRange(now);
+    if (range.start != before.first())
+        kept.start = std::clamp(range.start, now.first(), now.last());
+    if (range.end != before.last())
+        kept.end = std::clamp(range.end, kept.start, now.last());
+    if (range.step != before.byFrame)
+        kept.step = range.step;
+    return kept;
+}
 
 RangeEdit correctedRange(const FrameSequence &sequence, const QString &start, const QString &end,
                          const QString &step)

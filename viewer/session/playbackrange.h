@@ -13,6 +13,11 @@ struct PlaybackRange {
     bool operator==(const PlaybackRange &other) const = default;
 };
 
+PlaybackRange wholeRange(const FrameSequence &sequence);
+
+/// Brings a range of a sequence over to the same sequence read anew: ends and step that nobody had changed follow it.
+PlaybackRange keptRange(const PlaybackRange &range, const FrameSequence &before, const FrameSequence &now);
+
 /// What an edit of the range comes to, and which field has to be written anew with what.
 struct RangeEdit {
     PlaybackRange range;

@@ -51,13 +51,17 @@ void ViewerSession::open(const FramesRequest &request)
     m_playback.stop();
     m_watch.stop();
     m_cache.clear();
-    m_sequence = std::move(found.sequence);
+    const FrameSequence before = std::exchange(m_sequence, std::move(found.sequence));
+    const bool another = m_sequence.framesPath != before.framesPath;
     m_frame = found.frame;
-    m_range = {m_sequence.first(), m_sequence.last(), m_sequence.byFrame};
+    m_range = another ? wholeRange(m_sequence) : keptRange(m_range, before, m_sequence);
+    if (m_frame < m_range.start || m_frame > m_range.end)
+        m_range = wholeRange(m_sequence);
     listPlayed();
-    m_layers = std::make_shared<const LayerList>();
-    m_anyShown = false;
-    Q_EMIT opened();
+    if (another)
+        m_layers = std::make_shared<const LayerList>();
+    m_anyShown = m_anyShown && !another;
+    Q_EMIT opened(another);
     load(true);
 }
 
@@ -128,7 +132,7 @@ bool ViewerSession::setLayer(const std::string &entry)
 void ViewerSession::setPremultiplied(bool on)
 {
     m_premultiplied = on;
-    reload();
+    loadAnew();
 }
 
 void ViewerSession::setDownsampling(std::int32_t halvings)

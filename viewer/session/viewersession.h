@@ -49,12 +49,14 @@ public:
     const FrameCache &cache() const { return m_cache; }
     const Marking &marking() const { return m_marking; }
     Playback &playback() { return m_playback; }
+    /// True where the frame on show can be marked: there is a job.
+    bool canMark() const { return m_job.isSet() && !m_sequence.framesPath.empty(); }
 
     /// Says what frames are opened for; comes before open(). Without a job there are no marks.
     void setJob(JobFrames job);
     /// Shows the first frame of a path. Does nothing for the path that is shown, unless forced.
     void open(const FramesRequest &request);
-    /// Reads the frames from disk again.
+    /// Reads the frames from disk again; frame, range and layer stay.
     void reload();
     /// Brings the number within the sequence and loads the frame when it is another.
     void setFrame(long frame);
@@ -85,13 +87,13 @@ public:
     void clearMarks();
 
 Q_SIGNALS:
-    /// Another sequence, or the same anew; its first frame is about to be loaded.
-    void opened();
+    /// Another sequence, or the same read from disk again; its frame is about to be loaded.
+    void opened(bool another);
     /// Sent before the frame is loaded.
     void frameChanged(int frame);
     void rangeChanged();
     void loadProgressed(const LoadProgress::Step &step);
-    /// The first frame since open() is on the display; comes before loaded().
+    /// The first frame of another sequence is on the display; comes before loaded().
     void firstFrameShown();
     /// A load has ended, as lastLoad() says.
     void loaded();
@@ -125,6 +127,6 @@ private:
     std::int32_t m_frame = 1;
     std::int32_t m_downsampling = 0;
     bool m_premultiplied = true;
-    bool m_anyShown = false; // since open()
+    bool m_anyShown = false; // of the sequence
     bool m_held = false;
 };

@@ -11,13 +11,14 @@
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QApplication>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
 namespace {
 
-// The wheel's unit of an eighth of a degree: a step takes a whole degree.
-constexpr int kWheelStep = 8;
+constexpr int kNotch = QWheelEvent::DefaultDeltasPerStep;
+constexpr int kMostNotches = 10; // in one event
 
 bool hasFloatTextures(const QOpenGLContext &context)
 {
@@ -261,18 +262,10 @@ void imageWidget::mouseReleaseEvent(QMouseEvent *event)
 void imageWidget::wheelEvent(QWheelEvent *event)
 {
     event->accept();
-    const int delta = event->angleDelta().y();
-    if (delta == 0)
-        return;
-    // A turn the other way starts anew.
-    if ((delta > 0) != (m_wheelRest > 0))
-        m_wheelRest = 0;
-    const int turned = m_wheelRest + delta;
-    m_wheelRest = turned % kWheelStep;
-    if (turned / kWheelStep > 0)
-        Q_EMIT zoomInRequested();
-    else if (turned / kWheelStep < 0)
-        Q_EMIT zoomOutRequested();
+    // Touchpads send many small parts of a notch.
+    const int delta = std::clamp(event->angleDelta().y(), -kMostNotches * kNotch, kMostNotches * kNotch);
+    if (delta != 0)
+        Q_EMIT zoomRequested(float(delta) / kNotch, event->position() * devicePixelRatio());
 }
 
 template <typename T>

@@ -62,8 +62,8 @@ Q_SIGNALS:
     /// Ask the scroll bars for a value, not yet clamped.
     void horizontalScrollRequested(int value);
     void verticalScrollRequested(int value);
-    void zoomInRequested();
-    void zoomOutRequested();
+    /// Asks to zoom about a point of the view, in device pixels: in by a step for each notch of the wheel, out below 0.
+    void zoomRequested(float steps, QPointF at);
     /// Tells that the context has come up.
     void initialized();
     /// Tells that a context has died with the textures of all frames; sent from amid whatever found out.
@@ -96,5 +96,4 @@ private:
     bool m_panning = false;
     QPoint m_pressPosition;
     QPoint m_pressPan;
-    int m_wheelRest = 0; ///< eighths of a degree that made no step yet
 };
