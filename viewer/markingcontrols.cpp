@@ -7,6 +7,9 @@
 #include <viewer/session/viewersession.h>
 
 #include <QtCore/QPointer>
+#include <QtGui/QAction>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
 
 MarkingControls::MarkingControls(const Ui::ImageViewerClass &form, ViewerSession &session)
     : m_form(form)
@@ -23,6 +26,28 @@ MarkingControls::MarkingControls(const Ui::ImageViewerClass &form, ViewerSession
     clicked(m_form.downloadChunksButton, &MarkingControls::downloadChunks);
     connect(&m_session, &ViewerSession::opened, this, &MarkingControls::refresh);
     connect(&m_session, &ViewerSession::marksChanged, this, &MarkingControls::refresh);
+    connect(&m_session, &ViewerSession::frameChanged, this, &MarkingControls::enableMarking);
+    m_copyFrames = addCopying(m_form.framesMarkerCounter, &Marking::framesText);
+    m_copyChunks = addCopying(m_form.chunksMarkerCounter, &Marking::chunksText);
+    m_copyFramesOfChunks = addCopying(m_form.chunksMarkerCounter, &Marking::framesOfChunksText);
+    retranslate();
+}
+
+QAction *MarkingControls::addCopying(QLabel *counter, QString (Marking::*marks)() const)
+{
+    auto *action = new QAction(counter);
+    connect(action, &QAction::triggered, this,
+            [this, marks] { QGuiApplication::clipboard()->setText((m_session.marking().*marks)()); });
+    counter->addAction(action);
+    counter->setContextMenuPolicy(Qt::ActionsContextMenu);
+    return action;
+}
+
+void MarkingControls::retranslate()
+{
+    m_copyFrames->setText(tr("Copy marked frames"));
+    m_copyChunks->setText(tr("Copy marked chunks"));
+    m_copyFramesOfChunks->setText(tr("Copy frames of marked chunks"));
     refresh();
 }
 
@@ -31,11 +56,10 @@ void MarkingControls::refresh()
     const Marking &marking = m_session.marking();
     const auto frames = marking.markedFrames().size();
     const auto chunks = marking.markedChunks().size();
-    m_form.markings->setEnabled(m_session.canPlay());
+    m_form.markings->setEnabled(m_session.canPlay() || m_session.canMark());
     m_form.jobInfoContainer->hide();
-    m_form.markFrameButton->setEnabled(false);
-    m_form.markChunkButton->setEnabled(false);
     m_form.downloadChunksButton->setEnabled(false);
+    enableMarking();
     m_form.clearMarkingsButton->setEnabled(frames > 0 || chunks > 0);
     m_form.requeueMarkedFrames->setEnabled(frames > 0);
     m_form.requeueMarkedChunks->setEnabled(chunks > 0);
@@ -46,13 +70,24 @@ void MarkingControls::refresh()
     m_form.imageMarker->setMarkedChunks(marking.markedChunks());
     m_form.imageMarker->setMarkedFrames(marking.markedFrames());
     m_form.imageMarker->update();
+    m_copyFrames->setEnabled(frames > 0);
+    m_copyChunks->setEnabled(chunks > 0);
+    m_copyFramesOfChunks->setEnabled(chunks > 0);
+}
+
+void MarkingControls::enableMarking()
+{
+    const ChunkMap &chunks = m_session.marking().chunks();
+    m_form.markFrameButton->setEnabled(m_session.canMark());
+    m_form.markChunkButton->setEnabled(m_session.canMark()
+                                       && chunkOf(chunks, m_session.frame()) != chunks.end());
 }
 
 void MarkingControls::askToClear()
 {
     const QPointer<MarkingControls> self(this);
     const auto answer = QSkinnedMessageBox::question(
-        m_form.markings->window(), product::kProductTitle,
+        m_form.image->window(), product::kProductTitle,
         tr("Are you sure you want to remove the current markings ?"), QMessageBox::Yes | QMessageBox::No);
     if (self && answer == QMessageBox::Yes)
         m_session.clearMarks();

@@ -1,14 +1,18 @@
 #pragma once
 
 #include <QtCore/QObject>
+#include <QtCore/QString>
 
+class Marking;
+class QAction;
+class QLabel;
 class ViewerSession;
 
 namespace Ui {
 class ImageViewerClass;
 }
 
-/// The counters and buttons of the marks and the strip that shows them. Owned by the window whose form it fills.
+/// The counters and buttons of the marks and the strip that shows them; the counters' menus copy the marks. Owned by the window whose form it fills.
 class MarkingControls final : public QObject {
     Q_OBJECT
 
@@ -16,10 +20,13 @@ public:
     /// Both outlive the controls.
     MarkingControls(const Ui::ImageViewerClass &form, ViewerSession &session);
 
-    void retranslate() { refresh(); }
+    void retranslate();
 
 private:
     void refresh();
+    void enableMarking();
+    /// Adds to the counter's menu what puts the marks on the clipboard.
+    QAction *addCopying(QLabel *counter, QString (Marking::*marks)() const);
     void askToClear();
     void requeueMarkedFrames();
     void requeueMarkedChunks();
@@ -27,4 +34,8 @@ private:
 
     const Ui::ImageViewerClass &m_form;
     ViewerSession &m_session;
+    // The counters'.
+    QAction *m_copyFrames = nullptr;
+    QAction *m_copyChunks = nullptr;
+    QAction *m_copyFramesOfChunks = nullptr;
 };

@@ -9,7 +9,7 @@
 #include <QtGui/QOpenGLContext>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
-#include <QtWidgets/QComboBox>
+#include <QtGui/QClipboard>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
 
@@ -245,19 +245,6 @@ private Q_SLOTS:
         QCOMPARE(seen(), u"#ffffff"_s);
     }
 
-    void eachFrameTellsItsOwnLayers()
-    {
-        writeFrame(path(u"shot.0002.exr"_s), kFrame, {{"Z", 1.0F}});
-        open(u"shot.0001.exr"_s);
-        auto *layers = find<QComboBox>("layersSelector");
-        press(Qt::Key_Right);
-        QCOMPARE(layers->currentText(), u"Z (no RGBA)"_s);
-        press(Qt::Key_Left); // from the cache
-        QCOMPARE(layers->count(), 1);
-        QCOMPARE(layers->currentText(), u"RGBA"_s);
-        QVERIFY(find("alphaChannelButton")->isEnabled());
-    }
-
     void marks()
     {
         open(u"shot.####.exr"_s, {jobOf(1, 5), {}, {chunkOf(1, 1, 2), chunkOf(2, 3, 4), chunkOf(2, 3, 4)}});
@@ -265,7 +252,7 @@ private Q_SLOTS:
         const auto pick = [&](int index, Qt::KeyboardModifiers modifiers) {
             // The timeline asks the application for the keys that are down.
             const Qt::Key key = modifiers & Qt::ShiftModifier ? Qt::Key_Shift : Qt::Key_Control;
-            QTest::keyPress(timeline->window(), key, modifiers);
+            QTest::keyEvent(modifiers ? QTest::Press : QTest::Release, timeline->window(), key, modifiers);
             QTest::mouseClick(timeline, Qt::LeftButton, modifiers, frameAt(index, 5));
             QTest::keyRelease(timeline->window(), key, Qt::NoModifier);
         };
@@ -279,11 +266,24 @@ private Q_SLOTS:
         QCOMPARE(find<QLabel>("framesMarkerCounter")->text(), u"2 frame(s)"_s);
         pick(3, Qt::ControlModifier | Qt::AltModifier);
         QCOMPARE(session().marking().markedFrames(), (MarkedFrames{1}));
+        pick(3, Qt::ControlModifier); // the current one
+        click("markFrameButton");
+        pick(2, Qt::NoModifier);
+        click("markChunkButton");
+        click("markFrameButton");
+        pick(4, Qt::ControlModifier);
+        QVERIFY(!find("markChunkButton")->isEnabled());
+        const auto copied = [this](const char *counter, int action) {
+            find(counter)->actions().at(action)->trigger();
+            return QGuiApplication::clipboard()->text();
+        };
+        QCOMPARE(copied("framesMarkerCounter", 0), u"1,3,5"_s);
+        QCOMPARE(copied("chunksMarkerCounter", 0), u"1-2"_s);
+        QCOMPARE(copied("chunksMarkerCounter", 1), u"1-4"_s);
         const QImage strip = find("imageMarker")->grab().toImage();
         QCOMPARE(strip.pixelColor(frameAt(0, 5).x(), 5), QColor(200, 200, 0));
         QCOMPARE(strip.pixelColor(frameAt(1, 5).x(), 5), QColor(255, 125, 0));
-        for (const char *name : {"markFrameButton", "markChunkButton", "downloadChunksButton"})
-            QVERIFY(!find(name)->isEnabled());
+        QVERIFY(!find("downloadChunksButton")->isEnabled());
         click("requeueMarkedFrames");
         const auto answer = [this](const QString &button) {
             whenModalOpens([button](QWidget *box) {
@@ -292,7 +292,7 @@ private Q_SLOTS:
             click("clearMarkingsButton");
         };
         answer(u"skinnedMessageBoxNo"_s);
-        QCOMPARE(session().marking().markedFrames().size(), 1);
+        QCOMPARE(session().marking().markedFrames().size(), 3);
         answer(u"skinnedMessageBoxYes"_s);
         QVERIFY(session().marking().markedFrames().isEmpty() && session().marking().markedChunks().isEmpty());
         QVERIFY(!find("clearMarkingsButton")->isEnabled());

@@ -14,6 +14,8 @@
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QToolButton>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 /// What the controls of a viewer do to its picture.
@@ -97,11 +99,8 @@ private Q_SLOTS:
         click("greenChannelButton");
         QVERIFY(!find<QToolButton>("rgbaChannelButton")->isChecked());
         find<QComboBox>("resizeComboBox")->setCurrentIndex(2);
-        QCOMPARE(m_viewer->picture().displayedSize(), kFrame / 4);
+        QCOMPARE(m_viewer->picture().frame()->planeSizes.front(), (PlaneSize{16, 12}));
         QCOMPARE(m_viewer->picture().grabPicture().pixelColor(5, 5).red(), 136); // green alone, in all three
-        click("premultipliedButton"); // sets the frames anew
-        QVERIFY(find<QToolButton>("rgbaChannelButton")->isChecked());
-        QVERIFY(!m_viewer->picture().frame()->premultiplied);
     }
 
     void zoomAndLocks()
@@ -109,26 +108,27 @@ private Q_SLOTS:
         writeFrame(path(u"large.exr"_s), {2000, 500});
         open(u"large.exr"_s);
         imageWidget &picture = m_viewer->picture();
+        auto *fit = find<QToolButton>("fitPixelSize");
+        auto *pixels = find<QToolButton>("setPixelSize");
+        const auto isWhole = [&] { return picture.displayedSize().width() == picture.viewSize().width(); };
+        QTRY_VERIFY(isWhole());
+        click("calibrationButton");
+        QTRY_VERIFY(isWhole());
+        QVERIFY(fit->isChecked());
+        click("setPixelSize");
+        QCOMPARE(picture.displayedSize(), QSize(2000, 500));
+        QVERIFY(pixels->isChecked() && !fit->isChecked());
         auto *bar = find<QScrollBar>("horizontalScrollBar");
         QCOMPARE(bar->maximum(), 2000 - picture.viewSize().width());
         bar->setValue(100);
         QCOMPARE(picture.pan().x(), 100);
         click("zoomIn");
         QCOMPARE(picture.displayedSize(), QSize(2400, 600));
+        QVERIFY(!pixels->isChecked());
         click("zoomOut");
         QCOMPARE(picture.pan().x(), 100);
-        QMenu *menu = find<QToolButton>("fitPixelSize")->menu();
-        Q_EMIT menu->aboutToShow();
-        QVERIFY(menu->actions().at(1)->isEnabled() && !menu->actions().at(2)->isEnabled());
-        menu->actions().at(1)->trigger();
-        QTRY_COMPARE(picture.displayedSize().width(), picture.viewSize().width());
-        m_viewer->resize(1000, 700);
-        QTRY_COMPARE(picture.displayedSize().width(), picture.viewSize().width());
-        find<QToolButton>("setPixelSize")->menu()->actions().at(1)->trigger();
-        QCOMPARE(picture.displayedSize(), QSize(2000, 500));
-        click("zoomIn"); // locked
-        QCOMPARE(picture.displayedSize(), QSize(2000, 500));
-        find<QToolButton>("setPixelSize")->menu()->actions().at(2)->trigger();
+
+        click("setPixelSize");
         // What is drawn on is a window of its own within the picture.
         QWindow *drawnOn = nullptr;
         for (QWindow *window : QGuiApplication::allWindows())
@@ -141,17 +141,76 @@ private Q_SLOTS:
         const QPoint dragged(bar->value(), find<QScrollBar>("verticalScrollBar")->value());
         QCOMPARE(dragged, picture.pan());
         QVERIFY(dragged.x() > 0 && dragged.y() > 0);
-        for (const int turn : {120, -120}) {
-            QWheelEvent wheel(place, drawnOn->mapToGlobal(place), {}, {0, turn}, {}, {}, Qt::NoScrollPhase,
-                              false);
-            QCoreApplication::sendEvent(drawnOn, &wheel);
-            QCOMPARE(picture.displayedSize(), turn > 0 ? QSize(2400, 600) : QSize(2000, 500));
-        }
+        QMenu *menu = fit->menu();
+        Q_EMIT menu->aboutToShow();
+        QVERIFY(menu->actions().at(1)->isEnabled() && !menu->actions().at(2)->isEnabled());
+        menu->actions().at(0)->trigger();
+        QVERIFY(isWhole() && !fit->isChecked());
+        menu->actions().at(1)->trigger();
+        QVERIFY(fit->isChecked());
+        m_viewer->resize(1000, 700);
+        QTRY_VERIFY(isWhole());
         for (int i = 0; i < 100; ++i)
             click("zoomOut");
+        QVERIFY(!fit->isChecked());
         QVERIFY(picture.displayedSize().height() * 2 < 64);
         QVERIFY(picture.displayedSize().height() * 2.4 >= 64);
         QVERIFY(!find("zoomOut")->isEnabled());
+        type("framesPath", path(u"shot.0001.exr"_s)); // another path shows whole
+        QTRY_COMPARE(picture.displayedSize().height(), picture.viewSize().height());
+    }
+
+    void zoomsAboutThePointer()
+    {
+        writeFrame(path(u"large.exr"_s), {2000, 1500});
+        open(u"large.exr"_s);
+        imageWidget &picture = m_viewer->picture();
+        QTRY_COMPARE(picture.displayedSize().height(), picture.viewSize().height());
+        const QPoint at(picture.width() / 2, 30);
+        const auto under = [&] { return (at.y() + picture.pan().y()) / picture.zoomFactor(); }; // row
+        const float before = under();
+        const float zoom = picture.zoomFactor();
+        const auto turn = [&](int angle, int times) {
+            for (; times > 0; --times) {
+                QWheelEvent event(at, picture.mapToGlobal(at), {}, {0, angle}, Qt::NoButton, Qt::NoModifier,
+                                  Qt::NoScrollPhase, false);
+                QApplication::sendEvent(&picture, &event);
+            }
+        };
+        turn(120, 12);
+        QVERIFY(picture.pan().y() > 0);
+        QVERIFY2(std::abs(under() - before) < 1, qPrintable(u"%1 after %2"_s.arg(under()).arg(before)));
+        turn(-8, 15 * 12); // a touchpad's way back
+        QVERIFY(std::abs(picture.zoomFactor() / zoom - 1) < 0.001F);
+        turn(1 << 30, 50);
+        QVERIFY(picture.zoomFactor() > 100 && picture.zoomFactor() <= 120.01F);
+    }
+
+    void whatIsLookedAtStays()
+    {
+        open(u"shot.0003.exr"_s);
+        imageWidget &picture = m_viewer->picture();
+        click("setPixelSize");
+        for (int i = 0; i < 20; ++i)
+            click("zoomIn");
+        find<QScrollBar>("verticalScrollBar")->setValue(50);
+        click("redChannelButton");
+        type("startFrame", u"2"_s);
+        type("brightnessField", u"0.25"_s);
+        const QSize shown = picture.displayedSize();
+        const QImage look = picture.grabPicture();
+        writeFrame(path(u"shot.0006.exr"_s), kFrame);
+        for (const char *button : {"reloadButton", "premultipliedButton"}) {
+            click(button);
+            QCOMPARE(frame(), 3);
+            QCOMPARE(picture.displayedSize(), shown);
+            QCOMPARE(picture.pan().y(), 50);
+            QVERIFY(find<QToolButton>("redChannelButton")->isChecked());
+            QCOMPARE(text("startFrame"), u"2"_s);
+            QCOMPARE(text("endFrame"), u"6"_s);
+            QCOMPARE(picture.grabPicture(), look);
+        }
+        QVERIFY(!picture.frame()->premultiplied);
     }
 
     void calibration()

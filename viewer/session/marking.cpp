@@ -1,8 +1,11 @@
 #include "marking.h"
 
+#include <QtCore/QStringList>
+
 #include <algorithm>
 #include <limits>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -18,6 +21,21 @@ std::optional<MarkedChunk> keyOf(const ChunkMap &chunks, int frame)
     if (found == chunks.end())
         return std::nullopt;
     return MarkedChunk{found->first, found->second.id};
+}
+
+using Span = std::pair<std::int64_t, std::int64_t>; // first and last
+
+QString textOf(std::vector<Span> spans)
+{
+    std::sort(spans.begin(), spans.end());
+    QStringList parts;
+    for (std::size_t i = 0; i < spans.size();) {
+        auto [first, last] = spans[i];
+        for (++i; i < spans.size() && spans[i].first <= last + 1; ++i)
+            last = std::max(last, spans[i].second);
+        parts += QString::number(first) + (last > first ? QStringLiteral("-%1").arg(last) : QString());
+    }
+    return parts.join(QLatin1Char(','));
 }
 
 } // namespace
@@ -62,4 +80,31 @@ void Marking::clear()
 {
     m_markedChunks.clear();
     m_markedFrames.clear();
+}
+
+QString Marking::framesText() const
+{
+    std::vector<Span> spans;
+    for (const std::int32_t frame : m_markedFrames)
+        spans.emplace_back(frame, frame);
+    return textOf(std::move(spans));
+}
+
+QString Marking::chunksText() const
+{
+    std::vector<Span> spans;
+    for (const MarkedChunk &chunk : m_markedChunks)
+        spans.emplace_back(chunk.second, chunk.second);
+    return textOf(std::move(spans));
+}
+
+QString Marking::framesOfChunksText() const
+{
+    std::vector<Span> spans;
+    for (const auto &[last, id] : m_markedChunks) {
+        const auto chunk = m_chunks.find(last);
+        if (chunk != m_chunks.end() && chunk->second.id == id)
+            spans.emplace_back(chunk->second.firstFrame, last);
+    }
+    return textOf(std::move(spans));
 }

@@ -3,6 +3,8 @@
 #include <client_lib/tchunk.h>
 #include <viewer/frames/chunkmap.h>
 
+#include <QtCore/QString>
+
 #include <vector>
 
 /// The bad frames and chunks that the user has marked in one viewer window.
@@ -20,6 +22,11 @@ public:
     void toggleFrame(int frame);
     void toggleChunkOf(int frame);
     void clear();
+
+    /// Write the marks as people type frames, "1003,1007-1010"; empty without any.
+    QString framesText() const;
+    QString chunksText() const; ///< identifiers
+    QString framesOfChunksText() const;
 
 private:
     ChunkMap m_chunks;

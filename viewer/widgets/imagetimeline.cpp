@@ -39,6 +39,7 @@ imageTimeline::imageTimeline(QWidget *parent)
     : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::ClickFocus);
 }
 
 QSize imageTimeline::sizeHint() const
@@ -121,13 +122,13 @@ void imageTimeline::mousePressEvent(QMouseEvent *event)
 {
     setDragging(event->button() == Qt::LeftButton);
     if (m_dragging)
-        dragTo(frameAt(*event));
+        dragTo(frameAt(*event), true);
 }
 
 void imageTimeline::mouseMoveEvent(QMouseEvent *event)
 {
     if (m_dragging)
-        dragTo(frameAt(*event));
+        dragTo(frameAt(*event), false);
 }
 
 void imageTimeline::mouseReleaseEvent(QMouseEvent *event)
@@ -161,12 +162,13 @@ void imageTimeline::setDragging(bool dragging)
     Q_EMIT held(dragging);
 }
 
-void imageTimeline::dragTo(std::int32_t frame)
+void imageTimeline::dragTo(std::int32_t frame, bool begins)
 {
-    if (frame == m_scrubFrame || !m_scale.contains(frame))
+    const MarkRequest request = currentRequest();
+    const bool marksCurrent = begins && request != MarkRequest{};
+    if ((frame == m_scrubFrame && !marksCurrent) || !m_scale.contains(frame))
         return;
     show(frame);
-    const MarkRequest request = currentRequest();
     Q_EMIT frameScrubbed(frame, request.addChunk, request.addFrame, request.removeChunk, request.removeFrame);
 }
 

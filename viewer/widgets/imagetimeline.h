@@ -11,8 +11,8 @@
 class QPainter;
 
 /// Rules the frames under the picture: ticks and numbers of the existing ones, the missing ones shaded, the current one
-/// in red. The left button scrubs and picks; Shift, Control and Alt make a pick a request to mark or unmark, which the
-/// signals carry. Setters do not repaint.
+/// in red. The left button scrubs and picks; Shift, Control and Alt make a pick, of the current frame too, a request to
+/// mark or unmark, which the signals carry. Setters do not repaint.
 class imageTimeline : public QWidget {
     Q_OBJECT
 
@@ -37,7 +37,7 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Tells that the user or a move has settled on a frame.
     void frameChanged(int frame, bool addChunk, bool addFrame, bool removeChunk, bool removeFrame);
-    /// Tells that a drag has reached another existing frame.
+    /// Tells that a drag has reached another existing frame, or begins on the current one with a request.
     void frameScrubbed(int frame, bool addChunk, bool addFrame, bool removeChunk, bool removeFrame);
     /// A drag has begun or ended.
     void held(bool held);
@@ -54,7 +54,7 @@ private:
     bool move(std::int64_t step);
     bool moveTo(std::int32_t frame);
     void setDragging(bool dragging);
-    void dragTo(std::int32_t frame);
+    void dragTo(std::int32_t frame, bool begins);
     void show(std::int32_t frame);
     void drawTicks(QPainter &painter, const std::vector<FrameColumn> &columns, int bottom) const;
     void drawFrames(QPainter &painter, const std::vector<FrameColumn> &columns, int bottom) const;
