@@ -100,12 +100,14 @@ float gamma(const QString &text)
 
 void pickFile(QLineEdit *field, const QString &filter)
 {
-    // The dialog may be gone by the time the chooser returns.
+    // The dialog, and the chooser with it, may be gone by the time this returns.
     const QPointer<QLineEdit> target = field;
-    const QString path =
-        QFileDialog::getOpenFileName(nullptr, preferences::tr("Select File"), QStringLiteral("/"), filter);
-    if (target && !path.isEmpty())
-        target->setText(path);
+    const QPointer<QFileDialog> chooser =
+        new QFileDialog(field->window(), preferences::tr("Select File"), QStringLiteral("/"), filter);
+    chooser->setFileMode(QFileDialog::ExistingFile);
+    if (chooser->exec() == QDialog::Accepted && chooser && target)
+        target->setText(chooser->selectedFiles().value(0));
+    delete chooser;
 }
 
 void pickSound(QLineEdit *field)

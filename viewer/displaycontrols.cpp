@@ -69,8 +69,8 @@ void DisplayControls::connectSession()
 
 void DisplayControls::pickColor(const QString &title, void (imageWidget::*set)(const QColor &), QColor &color)
 {
-    // Of the window, also while the picture is one of its own.
-    auto *dialog = new QColorDialog(color, m_form.backgroundColorButton->window());
+    // In front of the picture, also while that has a window of its own.
+    auto *dialog = new QColorDialog(color, m_form.image->window());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(title);
     imageWidget *image = m_form.image;

@@ -3,6 +3,8 @@
 #include <image_library/iimagecore.h>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
 #include <QtCore/QSettings>
 #include <QtWidgets/QFileDialog>
@@ -24,7 +26,7 @@ QString filters(TImageLibrary::IImageCore *library)
 
 } // namespace
 
-QString pickImageFile(QWidget *parent, TImageLibrary::IImageCore *library)
+QString pickImageFile(QWidget *parent, TImageLibrary::IImageCore *library, const std::string &shown)
 {
     QSettings settings;
     const QPointer<QFileDialog> dialog =
@@ -32,6 +34,9 @@ QString pickImageFile(QWidget *parent, TImageLibrary::IImageCore *library)
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilters(filters(library).split(QStringLiteral(";;")));
     dialog->restoreState(settings.value(kStateKey).toByteArray());
+    const QFileInfo beside(QString::fromStdString(shown));
+    if (!shown.empty() && beside.dir().exists())
+        dialog->setDirectory(beside.absolutePath());
     const bool chosen = dialog->exec() == QDialog::Accepted && dialog;
     QString file;
     if (chosen) {

@@ -3,6 +3,7 @@
 #include "calibrationpanel.h"
 #include "displaycontrols.h"
 #include "filepicker.h"
+#include "fullscreen.h"
 #include "loadstatus.h"
 #include "markingcontrols.h"
 #include "transportcontrols.h"
@@ -46,6 +47,7 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     m_display = std::make_unique<DisplayControls>(*m_ui, *m_session);
     m_markings = std::make_unique<MarkingControls>(*m_ui, *m_session);
     m_loadStatus = std::make_unique<LoadStatus>(*m_ui, *m_session);
+    m_fullScreen = new FullScreen(*m_ui, *this);
     connectPath();
     connectZoom();
     connectCalibration();
@@ -128,9 +130,17 @@ void ImageViewer::connectSession()
 
 void ImageViewer::filterKeys()
 {
-    // Keys that no field wants move through the frames, wherever the focus is.
-    content()->installEventFilter(this);
-    picture().installEventFilter(this);
+    // Keys that no field wants move through the frames, wherever the focus is; a click on anything but a field leaves
+    // them to the frames.
+    content()->setFocusPolicy(Qt::ClickFocus);
+    for (QWidget *control : content()->findChildren<QWidget *>()) {
+        const bool isField = qobject_cast<QLineEdit *>(control) || control == m_ui->imageWarningReason;
+        if ((control->focusPolicy() & Qt::ClickFocus) && !isField && control != m_ui->image)
+            control->setFocusPolicy(Qt::TabFocus);
+    }
+    for (QObject *watched :
+         std::initializer_list<QObject *>{content(), m_ui->image, m_ui->imageWarningReason})
+        watched->installEventFilter(this);
     for (QAbstractButton *button : content()->findChildren<QAbstractButton *>())
         button->installEventFilter(this);
 }
@@ -195,7 +205,7 @@ void ImageViewer::editFramesPath()
 void ImageViewer::pickFramesPath()
 {
     const QPointer<ImageViewer> self(this);
-    const QString file = pickImageFile(this, m_imageCore);
+    const QString file = pickImageFile(picture().window(), m_imageCore, session().file());
     if (self && !file.isEmpty())
         setFramesPath({.path = file.toStdString(), .maskIsSequence = true});
 }
@@ -218,49 +228,37 @@ void ImageViewer::enableZoom()
 
 void ImageViewer::showGlFullscreen()
 {
-    imageWidget &image = picture();
-    if (image.isWindow())
-        return;
     content()->setFocus(); // or the next field would take the focus, and show it ever after
-    image.setParent(this, Qt::Window);
-    image.setWindowTitle(windowTitle());
-    image.showFullScreen();
-    image.activateWindow();
-    image.setFocus();
+    m_fullScreen->show();
 }
 
 void ImageViewer::showGlNormal()
 {
-    imageWidget &image = picture();
-    if (!image.isWindow())
-        return;
-    m_ui->imageLayout->addWidget(&image, 0, 0);
-    image.show();
-    activateWindow();
-    image.setFocus();
+    m_fullScreen->end();
 }
 
 bool ImageViewer::eventFilter(QObject *watched, QEvent *event)
 {
-    // The form sends others while it is built.
-    if (event->type() != QEvent::KeyPress && event->type() != QEvent::Close)
-        return QSkinnedDialog::eventFilter(watched, event);
-    const bool isFullScreen = watched == m_ui->image && picture().isWindow();
-    if (event->type() == QEvent::Close) {
-        if (isFullScreen) {
-            event->ignore();
-            showGlNormal();
-        }
-        return isFullScreen;
+    if (event->type() == QEvent::Close && m_fullScreen && watched == m_fullScreen->window()) {
+        event->ignore();
+        showGlNormal();
+        return true;
     }
-    const int key = static_cast<QKeyEvent *>(event)->key();
-    if (isFullScreen && (key == Qt::Key_Escape || key == Qt::Key_F11)) {
+    const bool taken =
+        event->type() == QEvent::KeyPress && takeKey(watched, static_cast<QKeyEvent *>(event)->key());
+    return taken || QSkinnedDialog::eventFilter(watched, event);
+}
+
+bool ImageViewer::takeKey(const QObject *watched, int key)
+{
+    const QWidget *fullScreen = m_fullScreen->window();
+    if (fullScreen && (key == Qt::Key_Escape || key == Qt::Key_F11)) {
         showGlNormal();
         return true;
     }
     if (key == Qt::Key_Tab || key == Qt::Key_Backtab || !m_session->canPlay())
-        return QSkinnedDialog::eventFilter(watched, event);
-    if (watched == content()) {
+        return false;
+    if (watched == content() || watched == fullScreen) {
         // What a field took for its end gives the keys back to the frames.
         if (key == Qt::Key_Return || key == Qt::Key_Enter)
             content()->setFocus();
@@ -268,8 +266,8 @@ bool ImageViewer::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     // A button keeps the keys that press it.
-    const bool presses = watched != m_ui->image && key == Qt::Key_Space;
-    return (!presses && m_transport->takeKey(key)) || QSkinnedDialog::eventFilter(watched, event);
+    const bool presses = qobject_cast<const QAbstractButton *>(watched) && key == Qt::Key_Space;
+    return !presses && m_transport->takeKey(key);
 }
 
 void ImageViewer::keyPressEvent(QKeyEvent *event)

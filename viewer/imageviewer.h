@@ -9,6 +9,7 @@
 
 class CalibrationPanel;
 class DisplayControls;
+class FullScreen;
 class LoadStatus;
 class MarkingControls;
 class TransportControls;
@@ -63,6 +64,7 @@ private:
     void connectCalibration();
     void connectSession();
     void filterKeys();
+    bool takeKey(const QObject *watched, int key);
     /// Every text anew: the form's, the keys in the tooltips, the title.
     void retranslate();
     void showTitle();
@@ -79,6 +81,7 @@ private:
     TImageLibrary::IImageCore *const m_imageCore;
     std::unique_ptr<ViewerSession> m_session; // ends before the picture that shows its frames
     ZoomControl *m_zoom = nullptr;
+    FullScreen *m_fullScreen = nullptr;
     // These end before the session.
     std::unique_ptr<TransportControls> m_transport;
     std::unique_ptr<DisplayControls> m_display;

@@ -39,11 +39,13 @@ void LoadStatus::showOutcome()
     if (!fault.isEmpty()) {
         const bool missing = m_session.lastLoad().outcome == LoadOutcome::NotFound;
         m_form.imageWarningLabel->setPixmap(missing ? m_pictures.missing : m_pictures.broken);
-        // The focus would go to the next field with the picture, and take the keys of the frames along: the form takes it.
-        if (m_form.image->hasFocus())
-            m_form.imageContainer->parentWidget()->setFocus();
+        // The focus would go to the next field with the picture, and take the keys of the frames along: what is round
+        // the panel takes it, also of a window that is not active yet.
+        if (m_form.image->window()->focusWidget() == m_form.image)
+            m_form.imageWarningWidget->parentWidget()->setFocus();
     }
     m_form.imageContainer->setVisible(fault.isEmpty());
+    m_form.image->setVisible(fault.isEmpty()); // it may stand alone
     m_form.imageWarningWidget->setVisible(!fault.isEmpty());
 }
 

@@ -10,6 +10,8 @@
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtGui/QClipboard>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
 
@@ -298,6 +300,35 @@ private Q_SLOTS:
         QVERIFY(!find("clearMarkingsButton")->isEnabled());
         m_viewer->setJob({jobOf(1, 5), {}, {chunkOf(2, 1, 1)}}); // where a chunk was before counts no longer
         QCOMPARE(session().marking().chunks().size(), 1U);
+    }
+
+    void keysWorkAfterAnyClick()
+    {
+        QVERIFY(QFile::resize(path(u"shot.0001.exr"_s), 400));
+        m_viewer = new ImageViewer(m_totals, {.exrImportGamma = 2.2F});
+        m_viewer->show();
+        m_viewer->setFramesPath({.path = path(u"shot.0001.exr"_s).toStdString()}); // before it is active
+        QVERIFY(QTest::qWaitForWindowActive(m_viewer));
+        QCOMPARE(press(Qt::Key_Down), 5);
+        press(Qt::Key_Up);
+        QTest::mouseClick(find("imageWarningReason"), Qt::LeftButton);
+        QCOMPARE(press(Qt::Key_Right), 2);
+        click("calibrationButton");
+        type("fps", u"0.001"_s);
+        for (const char *name : {"liveScrubbing", "layersSelector", "timeline", "brightnessSlider",
+                                 "infoLabel", "hudButton", "horizontalScrollBar", "image"}) {
+            find("fps")->setFocus();
+            QTest::mouseClick(find(name), Qt::LeftButton, {}, find(name)->rect().center());
+            if (QWidget *popup = QApplication::activePopupWidget())
+                popup->close();
+            QCOMPARE(press(Qt::Key_Up), 1);
+            QCOMPARE(press(Qt::Key_Right), 2);
+            press(Qt::Key_Space);
+            QVERIFY2(session().playback().isPlaying(), name);
+            press(Qt::Key_Space);
+            QVERIFY(!session().playback().isPlaying());
+        }
+        QVERIFY(find<QCheckBox>("liveScrubbing")->isChecked());
     }
 
     void opensAsItWasLeft()

@@ -241,25 +241,38 @@ private Q_SLOTS:
 
     void fullScreen()
     {
-        open(u"shot.0001.exr"_s);
+        open(u"shot.####.exr"_s, {jobOf(1, 6), {}, {}});
         imageWidget &picture = m_viewer->picture();
         const QImage before = picture.grabPicture();
-        click("fullScreen");
-        QVERIFY(picture.isWindow());
-        QVERIFY(QTest::qWaitForWindowExposed(&picture));
+        const auto keyInFullScreen = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+            QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+        };
+        press(Qt::Key_F11);
+        QTRY_VERIFY(picture.window() != m_viewer);
+        QVERIFY(QTest::qWaitForWindowActive(picture.window()));
         QTRY_COMPARE(picture.size(), picture.screen()->size());
-        QTest::keyClick(&picture, Qt::Key_Right);
+        QTRY_COMPARE(picture.displayedSize().height(), picture.viewSize().height()); // fitted
+        keyInFullScreen(Qt::Key_Right);
         QCOMPARE(frame(), 2);
         QCOMPARE(picture.grabPicture(), before);
-        QTest::keyClick(&picture, Qt::Key_Escape);
-        QVERIFY(!picture.isWindow());
+        keyInFullScreen(Qt::Key_2, Qt::ControlModifier);
+        QTRY_VERIFY(find<QToolButton>("redChannelButton")->isChecked());
+        keyInFullScreen(Qt::Key_0, Qt::ControlModifier);
+        QTRY_COMPARE(picture.displayedSize(), kFrame);
+        keyInFullScreen(Qt::Key_Down); // missing
+        auto *panel = picture.window()->findChild<QWidget *>(u"imageWarningWidget"_s);
+        QVERIFY(panel && panel->isVisible() && !picture.isVisible());
+        keyInFullScreen(Qt::Key_Left);
+        QVERIFY(picture.isVisible() && !panel->isVisible());
+        keyInFullScreen(Qt::Key_Right);
+        keyInFullScreen(Qt::Key_Escape);
+        QTRY_COMPARE(QApplication::activeWindow(), m_viewer.data());
+        QVERIFY(panel->isVisible() && panel->window() == m_viewer && find("imageContainer")->isHidden());
+        QCOMPARE(press(Qt::Key_Up), 1);
         QTRY_VERIFY(picture.isVisible() && picture.width() < m_viewer->width());
-        QTest::keyClick(&picture, Qt::Key_Left);
+        QCOMPARE(picture.displayedSize(), kFrame);
+        click("rgbaChannelButton");
         QCOMPARE(picture.grabPicture(), before);
-        click("fullScreen");
-        QVERIFY(picture.isWindow() && QTest::qWaitForWindowExposed(&picture));
-        QTest::keyClick(&picture, Qt::Key_F11);
-        QVERIFY(!picture.isWindow());
     }
 };
 

@@ -39,7 +39,6 @@ imageTimeline::imageTimeline(QWidget *parent)
     : QWidget(parent)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    setFocusPolicy(Qt::ClickFocus);
 }
 
 QSize imageTimeline::sizeHint() const
