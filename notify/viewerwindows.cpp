@@ -6,11 +6,13 @@
 #include <ui/product.h>
 #include <ui/qskinnedmessagebox.h>
 #include <ui/tappstate.h>
+#include <ui/windowplacement.h>
 #include <viewer/frames/framesequence.h>
 #include <viewer/imageviewer.h>
 #include <viewer/session/viewersession.h>
 
 #include <QtCore/QTimer>
+#include <QtGui/QScreen>
 
 #include <algorithm>
 
@@ -65,16 +67,20 @@ void ViewerWindows::setSettings(const Settings &settings)
     }
 }
 
-ImageViewer *ViewerWindows::create(QWidget *parent)
+ImageViewer *ViewerWindows::create(QWidget *asker)
 {
     if (!TAppState::instance().openGlUsable) {
-        QSkinnedMessageBox::critical(parent, product::kProductTitle,
+        QSkinnedMessageBox::critical(asker, product::kProductTitle,
                                      tr("OpenGL not supported by your GPU! Image viewer cannot be used!"),
                                      QMessageBox::Ok);
         return nullptr;
     }
     m_viewers.removeAll(QPointer<ImageViewer>());
-    auto *viewer = new ImageViewer(m_totals, m_settings, parent);
+    auto *viewer = new ImageViewer(m_totals, m_settings);
+    if (!m_viewers.isEmpty()) {
+        const ImageViewer &last = *m_viewers.last();
+        viewer->move(cascaded(last.geometry(), viewer->size(), last.screen()->availableGeometry()));
+    }
     m_viewers.append(viewer);
     return viewer;
 }

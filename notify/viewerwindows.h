@@ -30,14 +30,15 @@ class ViewerWindows final : public QObject {
     Q_OBJECT
 
 public:
-    /// `owner` becomes the parent of the viewers that are opened on frames, and outlives this.
+    /// `owner` is in front of whom messages about frames open; it outlives this.
     explicit ViewerWindows(QWidget &owner);
     ~ViewerWindows() override;
 
     /// Applies the budgets at once, the rest to windows to come.
     void setSettings(const Settings &settings);
-    /// Makes a viewer window, not shown yet, which deletes itself when closed; null without OpenGL.
-    ImageViewer *create(QWidget *parent);
+    /// Makes a viewer window, not shown yet, which deletes itself when closed; null without OpenGL, which the message says
+    /// in front of `asker`. It is a window of its own: neither kept above the list nor gone with it.
+    ImageViewer *create(QWidget *asker);
     /// Opens a viewer on the frames; `maskIsSequence` as in FramesRequest.
     void open(const EventFrames &frames, bool maskIsSequence);
     /// Opens a viewer on the result of an event that has just come in, when control returns to the event loop. Leaves it

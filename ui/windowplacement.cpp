@@ -9,6 +9,8 @@ namespace {
 
 // What has to be in sight for the mouse to take hold of a header.
 constexpr QSize kGrasp{40, 20};
+// As high as a header: those of all windows stay in sight.
+constexpr QPoint kShift{24, 24};
 // Beyond any desktop, and safe to add and subtract.
 constexpr int kFarthest = 1 << 24;
 
@@ -68,6 +70,16 @@ QRect fittedToAreas(const QRect &wanted, const QList<QRect> &areas)
     window.moveLeft(std::clamp(window.left(), home.left(), home.right() - window.width() + 1));
     window.moveTop(std::clamp(window.top(), home.top(), home.bottom() - window.height() + 1));
     return window;
+}
+
+QPoint cascaded(const QRect &last, QSize size, const QRect &area)
+{
+    QRect next(last.topLeft() + kShift, size);
+    if (next.right() > area.right())
+        next.moveLeft(area.left());
+    if (next.bottom() > area.bottom())
+        next.moveTop(area.top());
+    return next.topLeft() == last.topLeft() ? last.topLeft() + kShift : next.topLeft();
 }
 
 QRect fittedToScreens(const QRect &wanted)

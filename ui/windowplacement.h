@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QtCore/QList>
+#include <QtCore/QPoint>
 #include <QtCore/QRect>
+#include <QtCore/QSize>
 
 /// Whether windows are placed by the compositor alone (Wayland), so that drags have to be handed to it.
 bool compositorPlacesWindows();
@@ -10,6 +12,10 @@ bool compositorPlacesWindows();
 /// lies on, and moved onto the nearest when its top edge, where its header is, can no longer be grasped on any.
 /// A rectangle that is fine, also across two screens, comes back as it is; so does any when there is no area.
 QRect fittedToAreas(const QRect &wanted, const QList<QRect> &areas);
+
+/// The place of a window that opens after another: shifted down and to the right, at the work area's edges from its other
+/// side again. Never that of the other one.
+QPoint cascaded(const QRect &last, QSize size, const QRect &area);
 
 /// fittedToAreas() with the work areas of the present screens.
 QRect fittedToScreens(const QRect &wanted);

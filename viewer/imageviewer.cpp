@@ -57,6 +57,9 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     calibration().reset(m_settings.defaultImportGamma);
     enableZoom();
     buildFrame();
+    // As a dialog it would be kept above other windows, without an entry in the task bar.
+    if (!parentWidget())
+        setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     resize(kInitialSize);
     loadDefaultState();
     picture().setFocus();

@@ -14,6 +14,7 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollBar>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;

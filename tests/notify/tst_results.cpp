@@ -10,6 +10,8 @@
 #include <QtCore/QScopeGuard>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QDesktopServices>
+#include <QtCore/QSet>
+#include <QtGui/QWindow>
 #include <QtWidgets/QMessageBox>
 
 #include <utility>
@@ -115,7 +117,15 @@ private Q_SLOTS:
         QSettings().setValue(u"imageViewer/imageViewerMaxGPUCache"_s, 4000);
         Farm farm(u"imageViewer/launchImageViewer"_s, true);
         farm.show();
-        const auto viewers = [&farm] { return farm.alertor.findChildren<ImageViewer *>(); };
+        const auto viewers = [] {
+            QList<ImageViewer *> all;
+            for (QWidget *window : QApplication::topLevelWidgets()) {
+                if (auto *viewer = qobject_cast<ImageViewer *>(window))
+                    all += viewer;
+            }
+            std::sort(all.begin(), all.end(), [](auto *one, auto *other) { return one->x() < other->x(); });
+            return all;
+        };
 
         farm.send(farm::notification(1, &job));
         farm.send(farm::notification(2, &job, &chunk));
@@ -127,22 +137,31 @@ private Q_SLOTS:
         QCOMPARE(viewers()[0]->session().sequence().frames, (std::set<long>{5, 6, 7, 8, 9}));
         QCOMPARE(viewers()[0]->session().marking().chunks().size(), 1U);
         QCOMPARE(viewers()[1]->session().sequence().frames, (std::set<long>{5, 6}));
+        farm.alertor.hide();
+        for (ImageViewer *viewer : viewers()) {
+            QVERIFY(QTest::qWaitForWindowExposed(viewer)); // not gone with the list
+            const QWindow &window = *viewer->windowHandle();
+            QVERIFY(window.type() == Qt::Window && !window.transientParent()); // nor kept above others
+        }
         qDeleteAll(viewers());
 
         for (int i = 0; i < 25; ++i)
             farm.send(farm::notification(1, &still));
         QTRY_COMPARE(farm.alertor.events().size(), 27);
         QTRY_COMPARE(viewers().size(), 20); // and no more by themselves
-        QVERIFY(QString::fromStdString(viewers().last()->session().sequence().framesPath)
-                    .endsWith(u"still.png"_s));
+        QSet<std::pair<int, int>> places;
+        for (const ImageViewer *viewer : viewers()) {
+            QVERIFY(QString::fromStdString(viewer->session().file()).endsWith(u"still.png"_s));
+            places.insert({viewer->x(), viewer->y()});
+        }
+        QCOMPARE(places.size(), 20);
         // The budgets and the gammas are those of the preferences, each its own.
         QCOMPARE(viewers().first()->findChild<QLabel *>(u"infoLabel"_s)->text(),
                  u"VRAM Cache Usage: 7.50% RAM Cache Usage: 0.00% "_s);
         QCOMPARE(viewers().first()->calibration().inputGamma(), 1.0F);
         farm.alertor.openImageViewer();
-        QVERIFY(viewers().last()->session().sequence().framesPath.empty());
+        QCOMPARE(viewers().size(), 21);
         QCOMPARE(notAsked.alertor.events().size(), 1);
-        QVERIFY(!notAsked.alertor.findChild<ImageViewer *>());
     }
 
 private:
