@@ -98,6 +98,27 @@ void DisplayControls::setChannelViewMode(int mode)
     m_form.image->setChannelViewMode(mode);
 }
 
+void DisplayControls::setComposite(bool on)
+{
+    m_form.compositeButton->setChecked(on);
+}
+
+void DisplayControls::setChecker(bool on)
+{
+    m_form.checkerButton->setChecked(on);
+}
+
+void DisplayControls::setPremultiplied(bool on)
+{
+    m_form.premultipliedButton->setChecked(on);
+}
+
+void DisplayControls::setBackground(const QColor &color)
+{
+    m_backgroundColor = color;
+    m_form.image->setBackgroundColor(color);
+}
+
 void DisplayControls::showLayers()
 {
     const LayerList &layers = m_session.layers();

@@ -24,6 +24,10 @@ public:
 
     /// RGBA, red, green, blue, alpha, luminance as 0 to 5.
     void setChannelViewMode(int mode);
+    void setComposite(bool on);
+    void setChecker(bool on);
+    void setPremultiplied(bool on);
+    void setBackground(const QColor &color);
 
 private:
     void connectPicture();

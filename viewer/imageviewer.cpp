@@ -194,9 +194,9 @@ void ImageViewer::setFramesPath(const FramesRequest &request)
     m_session->open(request);
 }
 
-void ImageViewer::setChannelViewMode(int mode)
+void ImageViewer::setZoom(float zoom)
 {
-    m_display->setChannelViewMode(mode);
+    m_zoom->zoomTo(zoom);
 }
 
 void ImageViewer::editFramesPath()

@@ -40,13 +40,14 @@ public:
     ViewerSession &session() const { return *m_session; }
     imageWidget &picture() const;
     CalibrationPanel &calibration() const;
+    DisplayControls &display() const { return *m_display; }
 
     /// Before the frames path is set: what it is to be read for. The window's title tells of it.
     void setJob(JobFrames job);
     /// As ViewerSession::open(), under the wait cursor.
     void setFramesPath(const FramesRequest &request);
-    /// RGBA, red, green, blue, alpha, luminance as 0 to 5.
-    void setChannelViewMode(int mode);
+    /// In place of the fit, until another path is opened.
+    void setZoom(float zoom);
 
 public Q_SLOTS:
     void showGlFullscreen();

@@ -30,14 +30,15 @@ def view(*arguments, code=0, **environment):
     return done.stdout + done.stderr
 
 
-def pixel(*arguments):
-    """The colour in the middle of what is grabbed, 0 to 255."""
+def pixel(*arguments, channels="0,1,2", size=SIZE):
+    """The colour in the middle of what is grabbed, 0 to 255, without being multiplied by alpha."""
     view(*arguments, "--grab", path("grab.png"))
-    oiiotool(path("grab.png"), "-o", path("grab.ppm"))
+    oiiotool("--iconfig", "oiio:UnassociatedAlpha", "1", path("grab.png"), "--ch", channels, "-o", path("grab.ppm"))
     with open(path("grab.ppm"), "rb") as file:
-        header, size, most, pixels = file.read().split(b"\n", 3)
-    equal((header, size, most), (b"P6", SIZE.replace("x", " ").encode(), b"255"), "the grabbed file")
-    at = 3 * (4 * 16 + 8)
+        header, extent, most, pixels = file.read().split(b"\n", 3)
+    equal((header, extent, most), (b"P6", size.replace("x", " ").encode(), b"255"), "the grabbed file")
+    width, height = map(int, size.split("x"))
+    at = 3 * (height // 2 * width + width // 2)
     return tuple(pixels[at:at + 3])
 
 
@@ -75,6 +76,18 @@ equal(pixel(path("straight.png")), (192, 128, 192), "straight alpha")
 oiiotool("--pattern", "constant:color=0.25,0.5", SIZE, "2", "--chnames", "Y,A", "-d", "uint8", "-o", path("straightgrey.png"))
 equal(pixel(path("straightgrey.png")), (128, 128, 128), "straight grey")
 
+# Half of a colour, in an EXR that is multiplied by its alpha already: over what, and taken for what.
+make("blend.exr", "0.3125,0.125,0.4375,0.5")
+plain = ["--set", "inputGamma=1", path("blend.exr")]
+equal(pixel(*plain), (144, 96, 176), "over the checker's 0.5")
+equal(pixel("--checker", "off", *plain), (80, 32, 112), "over black")
+equal(pixel("--checker", "off", "--background", "#ff0000", *plain), (207, 32, 112), "over red")
+equal(pixel("--premultiplied", "off", "--checker", "off", *plain), (40, 16, 56), "straight colours")
+equal(pixel("--composite", "off", *plain), (159, 64, 223), "the colour that has the alpha")
+equal(pixel("--composite", "off", *plain, channels="3,3,3"), (128,) * 3, "its alpha")
+equal(pixel("--composite", "off", "--channel", "alpha", *plain), (128,) * 3, "alpha as a grey")
+equal(pixel("--zoom", "2.5", path("a.exr"), size="40x20"), (186, 136, 255), "zoomed")
+
 mask = path("shot.####.exr")
 equal(pixel(mask), (0, 0, 0), "a mask starts at its first frame")
 equal(pixel("--frame", "2", mask), (255, 255, 255), "the frame that is asked for")
@@ -88,11 +101,12 @@ equal(pixel("shot.0002.exr"), (255, 255, 255), "a path of the working directory"
 
 check("Usage: tarrow-view [options] [PATH]" in " ".join(view("--help").split()), "the usage line")
 for arguments in [["--frame", "x", mask], ["--channel", "cyan", mask], ["--set", "brightness", mask], ["--set", "glow=1", mask],
-                  ["--set", "brightness=nan", mask], ["--unknown"], [mask, mask], ["--frame"]]:
+                  ["--set", "brightness=nan", mask], ["--unknown"], ["--frame"], ["--zoom", "0", mask], ["--checker", "no", mask],
+                  ["--background", "blackish", mask]]:
     view(*arguments, code=2)
 grab = ["--grab", path("none.png")]
 for arguments in [[*grab, path("missing.exr")], [*grab, path("broken.exr")], [*grab, path("empty")], grab,
-                  [*grab, "--layer", "depth", path("a.exr")], ["--grab", path("missing/none.png"), path("a.exr")]]:
+                  [*grab, "--layer", "depth", path("a.exr")], [*grab, "--frame", "3", mask], [*grab, "--frame", "2", path("a.exr")], ["--grab", path("missing/none.png"), path("a.exr")]]:
     check(view(*arguments, code=1).strip(), f"{arguments} failed without a word")
 
 # Drivers that draw no pictures, none of this kind, or none so large.

@@ -13,6 +13,7 @@
 #include <ui/product.h>
 #include <ui/tappstate.h>
 #include <viewer/calibrationpanel.h>
+#include <viewer/displaycontrols.h>
 #include <viewer/frames/cachetotals.h>
 #include <viewer/frames/framesondisk.h>
 #include <viewer/imageviewer.h>
@@ -53,10 +54,18 @@ QString apply(const ViewOptions &options, ImageViewer &viewer)
     if (path.empty())
         return QStringLiteral("Cannot find an image in %1").arg(options.path);
     ViewerSession &session = viewer.session();
+    DisplayControls &display = viewer.display();
+    display.setComposite(options.composite);
+    display.setChecker(options.checker);
+    display.setPremultiplied(options.premultiplied);
+    if (options.background.isValid())
+        display.setBackground(options.background);
     viewer.setFramesPath(
         {.path = path, .force = true, .preferredFrame = options.frame, .maskIsSequence = true});
     if (options.frame)
         session.setFrame(*options.frame);
+    if (options.frame && session.frame() != *options.frame)
+        return QStringLiteral("Cannot find frame %1 among those of %2").arg(*options.frame).arg(options.path);
     if (!session.lastLoad().shown())
         return QStringLiteral("Cannot show %1").arg(QString::fromStdString(session.file()));
     if (!options.layer.isEmpty()
@@ -64,7 +73,9 @@ QString apply(const ViewOptions &options, ImageViewer &viewer)
         return QStringLiteral("Cannot show the layer %1 of %2").arg(options.layer, options.path);
     for (const auto &[name, value] : options.calibration)
         viewer.calibration().setValue(name, value);
-    viewer.setChannelViewMode(options.channelViewMode);
+    display.setChannelViewMode(options.channelViewMode);
+    if (options.zoom)
+        viewer.setZoom(*options.zoom);
     return {};
 }
 
@@ -88,7 +99,11 @@ int run(const ViewOptions &options)
     const QString fault = apply(options, *viewer);
     if (!fault.isEmpty())
         return fail(fault, kNothingShown);
-    const QImage picture = viewer->picture().grabPicture();
+    // A single channel is a look at the picture; its alpha would say nothing.
+    const bool keepsAlpha = !options.composite && options.channelViewMode == 0;
+    const float zoom = options.zoom.value_or(1.0F);
+    const QImage picture =
+        keepsAlpha ? viewer->picture().grabWithAlpha(zoom) : viewer->picture().grabPicture(zoom);
     if (picture.isNull())
         return fail(QStringLiteral("Cannot render %1").arg(options.path), kNothingShown);
     if (!picture.save(options.grab, "PNG"))

@@ -11,6 +11,8 @@ namespace {
 const QStringList kChannels{QStringLiteral("rgba"), QStringLiteral("red"),   QStringLiteral("green"),
                             QStringLiteral("blue"), QStringLiteral("alpha"), QStringLiteral("luminance")};
 
+constexpr int kLargestZoom = 100;
+
 struct Options {
     QCommandLineOption frame{QStringLiteral("frame"), QStringLiteral("Start at frame N."),
                              QStringLiteral("N")};
@@ -24,8 +26,25 @@ struct Options {
     QCommandLineOption channel{QStringLiteral("channel"),
                                QStringLiteral("Show one of: %1.").arg(kChannels.join(QStringLiteral(", "))),
                                QStringLiteral("MODE")};
-    QCommandLineOption grab{QStringLiteral("grab"),
-                            QStringLiteral("Write the picture at its own pixels to FILE.png and end."),
+    QCommandLineOption composite{
+        QStringLiteral("composite"),
+        QStringLiteral("Blend the picture over what is behind it; off, a grabbed picture keeps its alpha."),
+        QStringLiteral("on|off"), QStringLiteral("on")};
+    QCommandLineOption checker{QStringLiteral("checker"), QStringLiteral("Checker behind the picture."),
+                               QStringLiteral("on|off"), QStringLiteral("on")};
+    QCommandLineOption premultiplied{
+        QStringLiteral("premultiplied"),
+        QStringLiteral("Take the colours of files that say so as multiplied by alpha."),
+        QStringLiteral("on|off"), QStringLiteral("on")};
+    QCommandLineOption background{
+        QStringLiteral("background"),
+        QStringLiteral("Colour behind the picture without a checker, a name or #rrggbb."),
+        QStringLiteral("COLOUR")};
+    QCommandLineOption zoom{
+        QStringLiteral("zoom"),
+        QStringLiteral("Pixels of the screen, or of what is grabbed, for each of the picture."),
+        QStringLiteral("FACTOR")};
+    QCommandLineOption grab{QStringLiteral("grab"), QStringLiteral("Write the picture to FILE.png and end."),
                             QStringLiteral("FILE.png")};
 };
 
@@ -45,6 +64,38 @@ void parseChannel(const QString &text, ViewOptions &options)
     options.channelViewMode = isNumber ? number : int(kChannels.indexOf(text.toLower()));
     if (options.channelViewMode < 0 || options.channelViewMode >= kChannels.size())
         options.error = QStringLiteral("Cannot show the channels %1: give one of the modes below.").arg(text);
+}
+
+bool parseSwitch(const QCommandLineParser &parser, const QCommandLineOption &option, QString &error)
+{
+    const QString text = parser.value(option);
+    const bool on = text == QLatin1String("on");
+    if (!on && text != QLatin1String("off"))
+        error = QStringLiteral("Cannot set --%1 to %2: give on or off.").arg(option.names().first(), text);
+    return on;
+}
+
+void parseLook(const QCommandLineParser &parser, const Options &known, ViewOptions &options)
+{
+    options.composite = parseSwitch(parser, known.composite, options.error);
+    options.checker = parseSwitch(parser, known.checker, options.error);
+    options.premultiplied = parseSwitch(parser, known.premultiplied, options.error);
+    if (parser.isSet(known.background)) {
+        const QString text = parser.value(known.background);
+        options.background = QColor(text);
+        if (!options.background.isValid() || options.background.alpha() != 255)
+            options.error =
+                QStringLiteral("Cannot show %1 behind the picture: give a colour's name or #rrggbb.")
+                    .arg(text);
+    }
+    if (parser.isSet(known.zoom)) {
+        const QString text = parser.value(known.zoom);
+        options.zoom = text.toFloat();
+        if (!(*options.zoom > 0.0F && *options.zoom <= kLargestZoom))
+            options.error = QStringLiteral("Cannot zoom by %1: give a number above 0, at most %2.")
+                                .arg(text)
+                                .arg(kLargestZoom);
+    }
 }
 
 void parseCalibration(const QString &text, ViewOptions &options)
@@ -70,7 +121,8 @@ ViewOptions ViewOptions::parse(const QStringList &arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Shows rendered frames without a farm."));
     const QCommandLineOption help = parser.addHelpOption();
-    parser.addOptions({known.frame, known.layer, known.gl2, known.set, known.channel, known.grab});
+    parser.addOptions({known.frame, known.layer, known.channel, known.set, known.composite, known.checker,
+                       known.background, known.premultiplied, known.zoom, known.grab, known.gl2});
     parser.addPositionalArgument(QStringLiteral("PATH"),
                                  QStringLiteral("A file, a mask, or a folder's first sequence."),
                                  QStringLiteral("[PATH]"));
@@ -91,6 +143,7 @@ ViewOptions ViewOptions::parse(const QStringList &arguments)
         parseFrame(parser.value(known.frame), options);
     if (parser.isSet(known.channel))
         parseChannel(parser.value(known.channel), options);
+    parseLook(parser, known, options);
     for (const QString &calibration : parser.values(known.set))
         parseCalibration(calibration, options);
     return options;

@@ -3,6 +3,7 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+#include <QtGui/QColor>
 
 #include <optional>
 #include <utility>
@@ -15,6 +16,11 @@ struct ViewOptions {
     bool forceGl2 = false;
     QList<std::pair<QString, float>> calibration; ///< names and values, all known
     int channelViewMode = 0;
+    bool composite = true;
+    bool checker = true;
+    bool premultiplied = true;
+    QColor background; ///< invalid where none is asked for
+    std::optional<float> zoom;
     QString grab; ///< PNG file to write; empty shows the window
 
     bool help = false;

@@ -128,17 +128,20 @@ QImage GlPane::grabFramebuffer()
     return drawn(viewSize(), [this] { paintGL(); });
 }
 
-QImage GlPane::drawn(QSize pixels, const std::function<void()> &draw)
+QImage GlPane::drawn(QSize pixels, const std::function<void()> &draw, bool withAlpha)
 {
     if (!makeCurrent())
         return {};
-    // Without alpha, as on the screen.
-    QOpenGLFramebufferObject target(pixels, QOpenGLFramebufferObject::NoAttachment, GL_TEXTURE_2D, GL_RGB8);
+    // As on the screen without alpha; with it, colours are to come back from their product with a small one.
+    QOpenGLFramebufferObject target(pixels, QOpenGLFramebufferObject::NoAttachment, GL_TEXTURE_2D,
+                                    withAlpha ? GL_RGBA16 : GL_RGB8);
     if (!target.isValid() || !target.bind())
         return {};
     draw();
     target.release();
-    return target.toImage().convertToFormat(QImage::Format_RGB32);
+    const QImage image = target.toImage();
+    return withAlpha ? image.convertToFormat(QImage::Format_RGBA64).convertToFormat(QImage::Format_RGBA8888)
+                     : image.convertToFormat(QImage::Format_RGB32);
 }
 
 void GlPane::update()

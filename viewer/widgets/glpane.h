@@ -50,8 +50,8 @@ protected:
     virtual void initializeGL() = 0;
     /// The context has died, with all that it held; another comes up next. None is current.
     virtual void contextLost() = 0;
-    /// Draws into an image of this size; null without a usable context.
-    QImage drawn(QSize pixels, const std::function<void()> &draw);
+    /// Draws into an image of this size, opaque or with the alpha that is drawn; null without a usable context.
+    QImage drawn(QSize pixels, const std::function<void()> &draw, bool withAlpha = false);
     /// Ends the context and all drawing; for the derived class's destructor, once what it made is gone.
     void endContext();
 

@@ -66,14 +66,34 @@ bool imageWidget::floatTexturesUsable() const
     return m_floatTexturesUsable;
 }
 
-QImage imageWidget::grabPicture()
+QImage imageWidget::grabPicture(float zoom)
+{
+    return grabbed(m_look, zoom, false);
+}
+
+QImage imageWidget::grabWithAlpha(float zoom)
+{
+    PictureLook look = m_look;
+    look.checkerOn = false;
+    look.background = Qt::transparent;
+    look.alphaOn = true;
+    return grabbed(look, zoom, true);
+}
+
+QImage imageWidget::grabbed(const PictureLook &look, float zoom, bool withAlpha)
 {
     if (!m_frame || !makeCurrent() || !m_renderer->textures().has(*m_frame))
         return {};
     ViewGeometry whole;
     whole.frame = {m_frame->planeSizes.front().width, m_frame->planeSizes.front().height};
-    whole.view = whole.frame;
-    return drawn(whole.view, [&] { m_renderer->drawPicture({m_frame, whole, m_look}); });
+    whole.zoom = zoom;
+    whole.view = whole.displayedSize();
+    return drawn(
+        whole.view,
+        [&] {
+            m_renderer->drawPicture({m_frame, whole, look});
+        },
+        withAlpha);
 }
 
 QPoint imageWidget::setPan(QPoint wanted)

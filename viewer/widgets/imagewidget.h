@@ -30,9 +30,11 @@ public:
     QSize displayedSize() const;
     /// False before initialized().
     bool floatTexturesUsable() const;
-    /// Draws the frame at its own pixels, on the checker and the background, without border and HUD; needs no window on
+    /// Draws the whole frame, on the checker and the background, without border and HUD; needs no window on
     /// the screen. Null without a frame or a context.
-    QImage grabPicture();
+    QImage grabPicture(float zoom = 1.0F);
+    /// As grabPicture(), over nothing: the image keeps the frame's alpha.
+    QImage grabWithAlpha(float zoom);
     void paintGL() override;
 
     /// Moves the view to an offset, kept within the displayed picture; returns what it became.
@@ -82,6 +84,7 @@ private:
     template <typename T>
     void change(T &member, const T &value);
     ViewGeometry viewGeometry() const;
+    QImage grabbed(const PictureLook &look, float zoom, bool withAlpha);
     QPoint devicePosition(const QMouseEvent &event) const;
     void stopPanning();
 

@@ -45,7 +45,7 @@ void PictureRenderer::drawPicture(const Scene &scene)
     m_gl.glViewport(0, 0, geometry.view.width(), geometry.view.height());
     m_gl.glDisable(GL_BLEND);
     m_gl.glClearColor(scene.look.background.redF(), scene.look.background.greenF(),
-                      scene.look.background.blueF(), 1.0F);
+                      scene.look.background.blueF(), scene.look.background.alphaF());
     m_gl.glClear(GL_COLOR_BUFFER_BIT);
 
     const QMatrix4x4 matrix = geometry.projection();
