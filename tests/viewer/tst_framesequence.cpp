@@ -1,6 +1,7 @@
 #include "table.h"
 
 #include <viewer/frames/framesequence.h>
+#include <viewer/frames/framesondisk.h>
 #include <viewer/frames/framesteps.h>
 
 #include <QtCore/QDir>
@@ -8,6 +9,7 @@
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
+#include <algorithm>
 #include <limits>
 #include <optional>
 #include <tuple>
@@ -44,8 +46,11 @@ private Q_SLOTS:
     void initTestCase()
     {
         for (const char *name :
-             {"shot.03.exr", "shot.04.exr", "shot.05.exr", "shot.07.exr", "shot.08.exr", "lone.0007.exr",
-              "n.-001.exr", "n.000.exr", "end.2147483646.exr", "end.2147483647.exr", "end.2147483648.exr"}) {
+             {"shot.03.exr",        "shot.04.exr", "shot.05.exr",  "shot.07.exr",        "shot.08.exr",
+              "lone.0007.exr",      "n.-001.exr",  "n.000.exr",    "end.2147483646.exr", "end.2147483647.exr",
+              "end.2147483648.exr", "img.8.exr",   "img.9.exr",    "img.10.exr",         "img.11.exr",
+              "img.98.exr",         "img.99.exr",  "img.100.exr",  "img.101.exr",        "pad.09.exr",
+              "pad.10.exr",         "pad.11.exr",  "other.10.exr", "other.11.exr",       "other.009.exr"}) {
             QFile file(QString::fromStdString(path(name)));
             QVERIFY(file.open(QIODevice::WriteOnly));
         }
@@ -66,13 +71,36 @@ private Q_SLOTS:
             {"n.###.exr", -1, true, "n.###.exr: -1 0 @-1"},
             {"shot.##.exr", 4, false, "file shot.04.exr: 4 @4"},
             {"shot.##.exr", {}, true, "shot.##.exr: 3 4 5 @3"},
-            {"none.##.exr", {}, true, "file none.00.exr: 0 @0"},
-            {"lone.####.exr", 7, true, "file lone.0007.exr: 7 @7"}};
+            {"none.##.exr", {}, true, "file none.##.exr: 0 @0"},
+            {"lone.####.exr", {}, true, "lone.####.exr: 7 @7"},
+            {"img.8.exr", {}, false, "img.#.exr: 8 9 10 11 @8"},
+            {"img.11.exr", {}, false, "img.#.exr: 8 9 10 11 @11"},
+            {"img.98.exr", {}, false, "img.##.exr: 98 99 100 101 @98"},
+            {"img.101.exr", {}, false, "img.##.exr: 98 99 100 101 @101"},
+            {"pad.11.exr", {}, false, "pad.##.exr: 9 10 11 @11"},
+            {"other.11.exr", {}, false, "other.##.exr: 10 11 @11"}};
         for (const auto &[name, preferred, maskIsSequence, expected] : names) {
             const FramesRequest request{
                 .path = path(name), .preferredFrame = preferred, .maskIsSequence = maskIsSequence};
             QCOMPARE(text(openFrames(request, {})), expected);
         }
+    }
+
+    void filesAndFolders()
+    {
+        // Of several files those of the first one's sequence count, also behind a hole.
+        const FramesRequest several{
+            .path = path("shot.04.exr"),
+            .others = {path("shot.08.exr"), path("shot.9.exr"), path("lone.0007.exr")}};
+        QCOMPARE(text(openFrames(several, {})), "shot.##.exr: 3 4 5 8 @4");
+        QCOMPARE(framesOnDisk(path("shot.##.exr")), (std::set<long>{3, 4, 5, 7, 8}));
+        QCOMPARE(framesOnDisk(path("n.%03d.exr")), (std::set<long>{-1, 0}));
+        QStringList names{u"img.10.exr"_qs, u"img.8.exr"_qs, u"img.08.exr"_qs,
+                          u"a9"_qs,         u"img"_qs,       u"img.8"_qs};
+        std::sort(names.begin(), names.end(), [](const QString &name, const QString &other) {
+            return comesBefore(name.toStdString(), other.toStdString());
+        });
+        QCOMPARE(names.join(QLatin1Char(' ')), u"a9 img img.8 img.08.exr img.8.exr img.10.exr"_qs);
     }
 
     void records_data()

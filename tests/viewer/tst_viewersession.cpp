@@ -185,6 +185,32 @@ private Q_SLOTS:
         QCOMPARE(loads.count(), 0);
     }
 
+    void aMaskWaitsForItsFrames()
+    {
+        const QString mask = m_folder->filePath(u"new/beauty.####.exr"_s);
+        const auto newFile = [this](int frame) {
+            return m_folder->filePath(u"new/beauty.%1.exr"_s.arg(frame));
+        };
+        open(u"new/beauty.####.exr"_s);
+        m_session->reload();
+        QCOMPARE(QString::fromStdString(m_session->file()), mask);
+        QVERIFY(QDir(m_folder->path()).mkdir(u"new"_s));
+        writeFrame(newFile(1001), kFrame);
+        QTRY_COMPARE(shownFile(), newFile(1001));
+        writeFrame(newFile(1002), kFrame);
+        writeFrame(newFile(1004), kFrame);
+        m_session->reload();
+        QCOMPARE(m_session->sequence().frames, (std::set<long>{1001, 1002, 1004}));
+        m_session->setRange({1002, 1004, 1});
+        QVERIFY(QFile::remove(newFile(1001)));
+        writeFrame(newFile(1006), kFrame);
+        m_session->reload();
+        QCOMPARE(m_session->sequence().frames, (std::set<long>{1001, 1002, 1004, 1006}));
+        QCOMPARE(m_session->range(), (PlaybackRange{1002, 1006, 1}));
+        QCOMPARE(m_session->frame(), 1002);
+        QCOMPARE(QString::fromStdString(m_session->sequence().framesPath), mask);
+    }
+
     void framesComeAndGoWhilePlaying()
     {
         m_totals.videoMemoryBudget = m_totals.mainMemoryBudget = 0; // so that files are read again and again

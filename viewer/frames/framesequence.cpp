@@ -66,20 +66,56 @@ PathMask maskOf(const FramesRequest &request, bool hasRecord, std::int32_t &star
     return {std::move(mask), true};
 }
 
-std::set<long> existingRun(const std::string &mask, std::int32_t start)
+/// Adds the unbroken run of existing files from a frame on, up or down.
+void addRun(std::set<long> &frames, const std::string &mask, std::int64_t frame, int step)
+{
+    const auto exists = [&mask, &frames](std::int64_t number) {
+        return number >= kMinFrame && number <= kMaxFrame && frames.size() < TFramesRange::kMaxFrames
+            && TFileSystem::CheckFile(TFileSystem::GetFileFromMask(mask, number));
+    };
+    for (; exists(frame); frame += step)
+        frames.insert(step < 0 ? frames.begin() : frames.end(), static_cast<long>(frame));
+}
+
+bool isRound(long frame)
+{
+    for (; frame >= 10 && frame % 10 == 0; frame /= 10) { }
+    return frame == 1;
+}
+
+/// Numbers without padding get shorter below 10, 100 and so on: the run goes on there by a mask that is narrower.
+void addShorterNumbers(std::set<long> &frames, std::string &mask)
+{
+    while (!frames.empty() && *frames.begin() >= 10 && isRound(*frames.begin())) {
+        const long first = *frames.begin();
+        const auto ends = endsOf(mask);
+        const auto unpadded = [&ends](long frame) {
+            return ends->before + std::to_string(frame) + ends->after;
+        };
+        if (!ends || TFileSystem::GetFileFromMask(mask, first) != unpadded(first))
+            return;
+        std::int32_t frame = 0;
+        std::string narrower = TFileSystem::GetSequenceMask(unpadded(first - 1), true, frame);
+        if (narrower.empty() || frame != first - 1 || !TFileSystem::CheckFile(unpadded(frame)))
+            return;
+        mask = std::move(narrower);
+        addRun(frames, mask, frame, -1);
+    }
+}
+
+std::set<long> existingRun(std::string &mask, std::int32_t start, const FramesRequest &request)
 {
     std::set<long> frames;
-    const auto exists = [&mask, &frames](std::int64_t frame) {
-        return frame >= kMinFrame && frame <= kMaxFrame && frames.size() < TFramesRange::kMaxFrames
-            && TFileSystem::CheckFile(TFileSystem::GetFileFromMask(mask, frame));
-    };
-    std::int64_t frame = start;
-    for (; exists(frame); --frame)
-        frames.insert(frames.begin(), static_cast<long>(frame));
+    addRun(frames, mask, start, -1);
     if (frames.empty())
         return frames;
-    for (frame = std::int64_t(start) + 1; exists(frame); ++frame)
-        frames.insert(frames.end(), static_cast<long>(frame));
+    addRun(frames, mask, std::int64_t(start) + 1, 1);
+    if (mask != request.path)
+        addShorterNumbers(frames, mask);
+    for (const std::string &other : request.others) {
+        if (const auto frame = frameOf(other, mask))
+            frames.insert(*frame);
+    }
     return frames;
 }
 
@@ -102,17 +138,23 @@ OpenedFrames openFrames(const FramesRequest &request, const FramesOrigin &origin
     }
     sequence.framesPath = request.path;
 
-    const auto [mask, showsSequence] = maskOf(request, hasRecord, start);
+    auto [mask, showsSequence] = maskOf(request, hasRecord, start);
     if (mask.empty()) {
         sequence.frames = {1};
         opened.frame = 1;
         return opened;
     }
     if (!hasRecord && showsSequence) {
-        sequence.frames = existingRun(mask, start);
+        sequence.frames = existingRun(mask, start, request);
         opened.frame = start;
     }
-    sequence.isSequence = showsSequence && sequence.frames.size() >= 2;
+    const bool staysMask = !hasRecord && showsSequence && mask == request.path;
+    if (staysMask && sequence.frames.empty()) {
+        sequence.isAwaited = true;
+        sequence.frames = {start};
+        return opened;
+    }
+    sequence.isSequence = showsSequence && (staysMask || sequence.frames.size() >= 2);
     if (sequence.isSequence) {
         sequence.framesPath = mask;
         return opened;

@@ -7,12 +7,14 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 /// The frames that a viewer window shows, one file for each, or a single file.
 struct FrameSequence {
     std::set<long> frames;
     std::int32_t byFrame = 1; ///< distance between the frames, at least 1
     bool isSequence = false;
+    bool isAwaited = false; ///< a mask without a file so far: no sequence yet, one frame that stands for it
     std::string framesPath; ///< of a sequence its mask, else the file
 
     /// The lowest frame; 1 without frames.
@@ -34,6 +36,7 @@ struct FramesRequest {
     bool force = false; ///< also when the path is the one shown
     std::optional<std::int32_t> preferredFrame = std::nullopt; ///< the frame to start at
     bool maskIsSequence = false; ///< how a path that is a mask already is shown
+    std::vector<std::string> others = {}; ///< files beside the path; those of its sequence are frames too
 };
 
 struct OpenedFrames {
@@ -42,6 +45,7 @@ struct OpenedFrames {
 };
 
 /// Finds the frames of a path. Those of a job or chunk are its records', capped like TFramesRange; those of a path are the
-/// unbroken run of existing files round its own number, those of a mask the run round the frame to start at (0 by
-/// default), or round the first file on disk when that has none. Where fewer than two are found, the single file.
+/// unbroken run of existing files round its own number, padded or not, those of a mask the run round the frame to start at
+/// (0 by default), or round the first file on disk when that has none. Where fewer than two are found, the single file;
+/// but a mask that stands for its sequence stays the path.
 OpenedFrames openFrames(const FramesRequest &request, const FramesOrigin &origin);

@@ -1,7 +1,10 @@
 #include "viewersession.h"
 
 #include <viewer/frames/framedisplay.h>
+#include <viewer/frames/framesondisk.h>
 #include <viewer/frames/framesteps.h>
+
+#include <QtCore/QFileInfo>
 
 #include <algorithm>
 #include <chrono>
@@ -26,7 +29,7 @@ ViewerSession::ViewerSession(CacheTotals &totals, FrameDisplay &display, QObject
     , m_progress(&seconds)
 {
     connect(&m_playback, &Playback::stepDue, this, &ViewerSession::playStep);
-    connect(&m_watch, &FrameWatch::mayBeThere, this, [this] { load(false); });
+    connect(&m_watch, &FrameWatch::mayBeThere, this, &ViewerSession::lookAgain);
 }
 
 void ViewerSession::setJob(JobFrames job)
@@ -38,6 +41,11 @@ void ViewerSession::setJob(JobFrames job)
     Q_EMIT marksChanged();
 }
 
+FramesOrigin ViewerSession::origin() const
+{
+    return {m_job.job ? &*m_job.job : nullptr, m_job.chunk ? &*m_job.chunk : nullptr};
+}
+
 void ViewerSession::open(const FramesRequest &request)
 {
     if (request.path == m_sequence.framesPath && !request.force)
@@ -45,14 +53,17 @@ void ViewerSession::open(const FramesRequest &request)
     FramesRequest wanted = request;
     if (request.force && !request.preferredFrame)
         wanted.preferredFrame = m_frame;
-    const FramesOrigin origin{m_job.job ? &*m_job.job : nullptr, m_job.chunk ? &*m_job.chunk : nullptr};
-    OpenedFrames found = openFrames(wanted, origin);
+    OpenedFrames found = openFrames(wanted, origin());
+    const bool another = found.sequence.framesPath != m_sequence.framesPath;
+    show(std::move(found), another);
+}
 
+void ViewerSession::show(OpenedFrames found, bool another)
+{
     m_playback.stop();
     m_watch.stop();
     m_cache.clear();
     const FrameSequence before = std::exchange(m_sequence, std::move(found.sequence));
-    const bool another = m_sequence.framesPath != before.framesPath;
     m_frame = found.frame;
     m_range = another ? wholeRange(m_sequence) : keptRange(m_range, before, m_sequence);
     if (m_frame < m_range.start || m_frame > m_range.end)
@@ -67,8 +78,28 @@ void ViewerSession::open(const FramesRequest &request)
 
 void ViewerSession::reload()
 {
-    if (!m_sequence.framesPath.empty())
-        open({.path = m_sequence.framesPath, .force = true, .maskIsSequence = m_sequence.isSequence});
+    if (m_sequence.framesPath.empty())
+        return;
+    OpenedFrames found{m_sequence, m_frame};
+    if (m_sequence.isSequence && !m_job.isSet()) {
+        found.sequence.frames.merge(framesOnDisk(m_sequence.framesPath));
+    } else {
+        const bool maskIsSequence = m_sequence.isSequence || m_sequence.isAwaited;
+        found = openFrames({.path = m_sequence.framesPath,
+                            .force = true,
+                            .preferredFrame = m_frame,
+                            .maskIsSequence = maskIsSequence},
+                           origin());
+    }
+    show(std::move(found), false);
+}
+
+void ViewerSession::lookAgain()
+{
+    if (!m_sequence.isAwaited)
+        load(false);
+    else if (firstFrameOnDisk(m_sequence.framesPath))
+        reload();
 }
 
 void ViewerSession::setFrame(long frame)
@@ -164,6 +195,10 @@ void ViewerSession::load(bool fresh)
     request.downsampling = m_downsampling;
     request.progress = &ViewerSession::progressed;
     request.user = this;
+    // Which file a mask's first will be nobody knows: its folder tells of any.
+    const QString path = QString::fromStdString(request.path);
+    const QString watched = m_sequence.isAwaited ? QFileInfo(path).absolutePath() : path;
+    const FileStamp folder = m_sequence.isAwaited ? FileStamp::of(watched.toStdString()) : FileStamp();
     m_lastLoad = m_loader.load(request);
     const bool shown = m_lastLoad.shown();
     if (shown && m_lastLoad.layers) {
@@ -176,7 +211,7 @@ void ViewerSession::load(bool fresh)
     if (!shown)
         m_display.showFrame(nullptr);
     if (m_lastLoad.failed())
-        m_watch.watch(QString::fromStdString(request.path), m_lastLoad.stamp);
+        m_watch.watch(watched, m_sequence.isAwaited ? folder : m_lastLoad.stamp);
     else
         m_watch.stop();
     if (shown && !std::exchange(m_anyShown, true))

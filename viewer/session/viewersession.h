@@ -56,7 +56,8 @@ public:
     void setJob(JobFrames job);
     /// Shows the first frame of a path. Does nothing for the path that is shown, unless forced.
     void open(const FramesRequest &request);
-    /// Reads the frames from disk again; frame, range and layer stay.
+    /// Reads the frames from disk again: those that are known stay, those that there are now come in, and frame, range
+    /// and layer stay.
     void reload();
     /// Brings the number within the sequence and loads the frame when it is another.
     void setFrame(long frame);
@@ -102,6 +103,9 @@ Q_SIGNALS:
     void cacheTrimmed();
 
 private:
+    FramesOrigin origin() const;
+    void show(OpenedFrames found, bool another);
+    void lookAgain();
     void moveTo(long frame);
     void listPlayed();
     /// `fresh` for the first frame of a path: a layer that it lacks is chosen no longer.
