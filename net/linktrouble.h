@@ -9,7 +9,8 @@ struct LinkTrouble {
     enum class Kind {
         TooLarge, ///< messages of more than the buffer holds came in
         Damaged, ///< a compressed message did not inflate
-        NotRead, ///< the Dispatcher does not read: messages to it were dropped
+        NotRead, ///< the Dispatcher does not read: the queue to it is full
+        Oversized, ///< a message to the Dispatcher was larger than the queue
         Broken, ///< the stream cannot be believed any more; the link ends
         Foreign, ///< what answers is no Dispatcher; the link ends
     };

@@ -84,7 +84,8 @@ bool QLWTCPSocket::sendMessage(uint command, const QByteArray &payload, uint par
 {
     if (const qsizetype size = MessageHeader::kSize + payload.size(); !fits(size) && !makeRoom(size)) {
         Q_EMIT sendBufferOverflow();
-        emptyBuffers({LinkTrouble::Kind::NotRead, {}, {}, {}});
+        using Kind = LinkTrouble::Kind;
+        emptyBuffers({size > m_maxSendSize ? Kind::Oversized : Kind::NotRead, {}, {}, {}});
         return false;
     }
     m_sendBuffer.append(encodeMessage(command, payload, param));
@@ -250,7 +251,8 @@ void QLWTCPSocket::emptyBuffers(LinkTrouble trouble)
     trouble.received.messages += received.messages;
     trouble.unsent = m_sendBuffer.drop();
     constexpr const char *kWhy[] = {"a message is over 1 MiB", "a compressed message is damaged",
-                                    "the queue of what it does not read is full"};
+                                    "the queue of what it does not read is full",
+                                    "a message to it is over 1 MiB"};
     report(trouble, kWhy[int(trouble.kind)]);
     if (m_receiveBuffer.next() == MessageReader::Next::Broken)
         breakStream("a message has a length that no Dispatcher sends");

@@ -100,12 +100,19 @@ QString LinkWords::loss(const LinkTrouble &trouble, const QDateTime &when)
         why = Words::tr("damaged");
         break;
     case LinkTrouble::Kind::NotRead:
-        return Words::tr("Messages to the Dispatcher lost at %1: %2 (it does not read)")
-            .arg(shortTime(when), QString::number(trouble.unsent.messages));
+        why = Words::tr("the Dispatcher does not read");
+        break;
+    case LinkTrouble::Kind::Oversized:
+        why = Words::tr("one to the Dispatcher was larger than 1 MiB");
+        break;
     case LinkTrouble::Kind::Broken:
     case LinkTrouble::Kind::Foreign:
         return {};
     }
-    return Words::tr("Messages of the Dispatcher lost at %1: %2 (%3)")
-        .arg(shortTime(when), QString::number(trouble.received.messages), why);
+    // Whatever the reason, both directions may have lost some.
+    const int lost = trouble.received.messages + trouble.unsent.messages;
+    if (lost == 0)
+        return {};
+    return Words::tr("Messages of or to the Dispatcher lost at %1: %2 (%3)")
+        .arg(shortTime(when), QString::number(lost), why);
 }

@@ -118,6 +118,8 @@ private Q_SLOTS:
         farm.tick(17);
         farm.peer.send(encodeMessage(MessageHeader::Plain, 601, QByteArray(2'000'000, 'x')));
         QTRY_VERIFY(farm.text("linkHistory").contains(u"larger than 1 MiB"_s));
+        QVERIFY(!farm.alertor.sendMessage(700, QByteArray(2'000'000, 'x'), 0));
+        QVERIFY(!farm.text("linkHistory").contains(u"does not read"_s)); // nothing was lost, and it does
         farm.peer.listen(false);
         farm.peer.dropLink();
         QTRY_VERIFY(farm.text("linkState").startsWith(u"Not connected"_s));
