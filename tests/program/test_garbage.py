@@ -2,7 +2,7 @@
 
 import re
 
-from farmtest import EVENT, client, equal, farm, run
+from farmtest import EVENT, check, client, equal, farm, run
 
 LOST = r"^tarrow\.net: Lost messages of the Dispatcher: .* in (\d+) messages from it"
 
@@ -19,7 +19,10 @@ def test():
     sent = int(night.expect(r"^sent (\d+) events$").group(1))
     alertor.expect(EVENT, sent - lost)
     alertor.quit()
-    equal(len(alertor.matching(EVENT)), sent - lost, "events listed")
+    # Among the lost may be garbage that would have made no event.
+    harmless = [line for line in garbage if re.search("unknown command|six fields|no payload", line)]
+    spared = len(alertor.matching(EVENT)) - (sent - lost)
+    check(0 <= spared <= len(harmless), f"{sent} events sent, {lost} messages lost, {spared} events too many listed")
     # Three of the eight kinds are worth hanging up on, at once and by the client.
     breaking = [line for line in garbage if "negative" in line or "790 MB" in line]
     equal(len(night.matching(r"log-in ")), len(breaking) + 1, "number of log-ins")
