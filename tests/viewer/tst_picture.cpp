@@ -364,6 +364,45 @@ private Q_SLOTS:
         }
     }
 
+    void hudIsLegibleOnAnyPicture_data()
+    {
+        addTable<QColor>({"text"},
+                         {{"white", Qt::white}, {"black", Qt::black}, {"grey", QColor(118, 118, 118)}});
+    }
+    void hudIsLegibleOnAnyPicture()
+    {
+        QFETCH(QColor, text);
+        m_picture->setGeometry(kLargePlace);
+        const auto shown = show(flagged(), QSize(10, 10), [](ImageFrame &frame) {
+            frame.filePath = std::string(500, 'a') + "/shot.0001.exr";
+        });
+        m_picture->setHudOn(true);
+        m_picture->setHudColor(text);
+        m_picture->setZoomFactor(60.0F);
+        m_picture->setChannelViewMode(-1); // transparent: the background shows, or the checker
+        for (const QColor &below : {QColor(Qt::white), QColor(Qt::black), QColor()}) {
+            m_picture->setCheckerOn(!below.isValid());
+            m_picture->setBackgroundColor(below);
+            const QImage picture = m_picture->grabFramebuffer();
+            double lightest = 0.0;
+            double darkest = 1.0;
+            const qreal ratio = m_picture->devicePixelRatioF();
+            // Within the first line, which the path fills from edge to edge.
+            for (int x = int(20 * ratio); x < int(380 * ratio); ++x) {
+                for (int y = int(14 * ratio); y < int(28 * ratio); ++y) {
+                    const double grey = picture.pixelColor(x, y).greenF();
+                    const double light =
+                        grey <= 0.04045 ? grey / 12.92 : std::pow((grey + 0.055) / 1.055, 2.4);
+                    lightest = std::max(lightest, light);
+                    darkest = std::min(darkest, light);
+                }
+            }
+            QVERIFY((lightest + 0.05) / (darkest + 0.05) >= 4.5);
+        }
+        const QString path = hudLines(shown->frame, 370).value(0);
+        QVERIFY(path.startsWith(u"File: aaa"_qs) && path.endsWith(u"shot.0001.exr"_qs));
+    }
+
     void hudStandsWhereItsPathPutsIt()
     {
         m_picture->setGeometry(kLargePlace);

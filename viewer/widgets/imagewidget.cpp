@@ -223,8 +223,10 @@ void imageWidget::paintGL()
     m_renderer->drawBorder(scene);
     if (!m_frame || !m_look.hudOn)
         return;
-    if (m_hudLines.isEmpty())
-        m_hudLines = hudLines(*m_frame);
+    if (m_hudLines.isEmpty() || m_hudWidth != width()) {
+        m_hudWidth = width();
+        m_hudLines = hudLines(*m_frame, m_hudWidth - 2 * kHudMargin);
+    }
     m_renderer->drawHud(scene, m_hudLines, devicePixelRatio());
 }
 

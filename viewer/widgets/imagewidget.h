@@ -91,6 +91,7 @@ private:
     std::unique_ptr<PictureRenderer> m_renderer; ///< while there is a context
     ImageFrame *m_frame = nullptr;
     QStringList m_hudLines; ///< of the frame; empty until they are painted
+    int m_hudWidth = 0; ///< of the view that they fit
     PictureLook m_look;
     float m_zoom = 1.0F;
     QPoint m_pan;

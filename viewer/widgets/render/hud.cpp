@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string>
 
 namespace {
@@ -79,37 +80,72 @@ QString bitFormatLine(GLenum internalFormat)
     }
 }
 
+// Of the brightest to the darkest, as guidelines for screens ask of text.
+constexpr double kContrast = 4.6;
+constexpr double kThinnestPlate = 0.65;
+
+double luminance(const QColor &color)
+{
+    const auto linear = [](double value) {
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double greyOf(double luminance)
+{
+    const double value = std::clamp(luminance, 0.0, 1.0);
+    return value <= 0.0031308 ? value * 12.92 : 1.055 * std::pow(value, 1.0 / 2.4) - 0.055;
+}
+
 } // namespace
 
-QStringList hudLines(const ImageFrame &frame)
+QColor hudPlate(const QColor &text)
+{
+    // The worst picture is of the text's own kind: white below a light text, black below a dark one.
+    const double flare = 0.05;
+    const double light = luminance(text) + flare;
+    const bool dark = light * light > flare * (1.0 + flare);
+    const double opacity = dark ? 1.0 - greyOf(light / kContrast - flare) : greyOf(light * kContrast - flare);
+    QColor plate(dark ? Qt::black : Qt::white);
+    plate.setAlphaF(static_cast<float>(std::max(opacity, kThinnestPlate)));
+    return plate;
+}
+
+QStringList hudLines(const ImageFrame &frame, int width)
 {
     const PlaneSize size = frame.planeSizes.empty() ? PlaneSize() : frame.planeSizes.front();
-    return {Hud::tr("File: %1").arg(value(frame.filePath)),
-            (frame.isDeep ? Hud::tr("File format: %1, deep") : Hud::tr("File format: %1"))
-                .arg(value(frame.formatName).toUpper()),
-            Hud::tr("Image size: %1x%2").arg(size.width).arg(size.height),
-            pixelFormatLine(frame.pixelType),
-            Hud::tr("Layers: %1").arg(value(frame.channelLayout)),
-            Hud::tr("Samples per channel: %1").arg(frame.components),
-            bitFormatLine(frame.internalFormat)};
+    QStringList lines = {Hud::tr("File: %1").arg(value(frame.filePath)),
+                         (frame.isDeep ? Hud::tr("File format: %1, deep") : Hud::tr("File format: %1"))
+                             .arg(value(frame.formatName).toUpper()),
+                         Hud::tr("Image size: %1x%2").arg(size.width).arg(size.height),
+                         pixelFormatLine(frame.pixelType),
+                         Hud::tr("Layers: %1").arg(value(frame.channelLayout)),
+                         Hud::tr("Samples per channel: %1").arg(frame.components),
+                         bitFormatLine(frame.internalFormat)};
+    const QFontMetrics metrics(hudFont());
+    for (QString &line : lines)
+        line = metrics.elidedText(line, Qt::ElideMiddle, width);
+    return lines;
 }
 
 QImage hudImage(const QStringList &lines, const QColor &color, qreal devicePixelRatio, int longestSide)
 {
     const QString text = lines.join(u'\n') + u'\n';
     const QFont font = hudFont();
-    const QSizeF logical = QFontMetricsF(font).size(0, text);
+    const QRectF area(QPointF(kHudPadding, kHudPadding), QFontMetricsF(font).size(0, text));
+    const QSizeF logical = area.size() + 2.0 * QSizeF(kHudPadding, kHudPadding);
     const QSize size = (logical * devicePixelRatio).toSize().boundedTo({longestSide, longestSide});
     QImage image(size, QImage::Format_RGBA8888_Premultiplied);
     if (image.isNull())
         return image;
     image.setDevicePixelRatio(devicePixelRatio);
-    image.fill(Qt::transparent);
+    image.fill(hudPlate(color));
     QPainter painter(&image);
     painter.setRenderHint(QPainter::TextAntialiasing);
     painter.setFont(font);
     painter.setPen(color);
-    painter.drawText(QRectF(QPointF(), logical), Qt::AlignLeft | Qt::TextDontClip, text);
+    painter.drawText(area, Qt::AlignLeft | Qt::TextDontClip, text);
     return image;
 }
 
@@ -119,6 +155,7 @@ void HudText::setLines(const QStringList &lines)
         return;
     m_lines = lines;
     m_layouts.clear();
+    m_plate = {};
     for (const QString &line : lines) {
         const auto &layout = m_layouts.emplace_back(std::make_unique<QTextLayout>(line, hudFont()));
         layout->setCacheEnabled(true);
@@ -126,13 +163,26 @@ void HudText::setLines(const QStringList &lines)
         layout->createLine();
         layout->endLayout();
     }
+    for (std::size_t i = 0; i < lineCount(); ++i)
+        m_plate |= m_layouts[i]->lineAt(0).naturalTextRect().translated(placeOf(i));
+    m_plate.adjust(-kHudPadding, -kHudPadding, kHudPadding, kHudPadding);
 }
 
 void HudText::paint(QPainter &painter, const QColor &color) const
 {
     painter.setRenderHint(QPainter::TextAntialiasing);
     painter.setPen(color);
-    const std::size_t count = std::min(m_layouts.size(), kBaselines.size());
-    for (std::size_t i = 0; i < count; ++i)
-        m_layouts[i]->draw(&painter, QPointF(kHudMargin, kBaselines[i] - m_layouts[i]->lineAt(0).ascent()));
+    painter.fillRect(m_plate, hudPlate(color));
+    for (std::size_t i = 0; i < lineCount(); ++i)
+        m_layouts[i]->draw(&painter, placeOf(i));
+}
+
+std::size_t HudText::lineCount() const
+{
+    return std::min(m_layouts.size(), kBaselines.size());
+}
+
+QPointF HudText::placeOf(std::size_t line) const
+{
+    return {kHudMargin, kBaselines[line] - m_layouts[line]->lineAt(0).ascent()};
 }

@@ -27,7 +27,7 @@ void HudOverlay::draw(const QMatrix4x4 &matrix, const QStringList &lines, const 
     m_program.setTextureUnit(0);
     m_gl.glBindTexture(GL_TEXTURE_2D, m_texture);
     // On whole pixels the text stays as sharp as it was painted.
-    const QPoint corner = QPoint(kHudMargin, kHudMargin) * devicePixelRatio;
+    const QPoint corner = QPoint(kHudMargin - kHudPadding, kHudMargin - kHudPadding) * devicePixelRatio;
     m_vertices.draw(GL_TRIANGLES, quadVertices(QRectF(corner, QSizeF(m_size))).data(), kBottomUp.data());
     m_gl.glBindTexture(GL_TEXTURE_2D, 0);
     m_program.release();
