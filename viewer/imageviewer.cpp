@@ -14,11 +14,15 @@
 #include <image_library/iimagecore.h>
 #include <ui/plaintext.h>
 #include <viewer/frames/cachetotals.h>
+#include <viewer/frames/framepaths.h>
 #include <viewer/frames/imageframe.h>
 #include <viewer/session/viewersession.h>
 #include <viewer/widgets/imagewidget.h>
 
+#include <QtCore/QMimeData>
 #include <QtCore/QPointer>
+#include <QtCore/QUrl>
+#include <QtGui/QDropEvent>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 
@@ -26,6 +30,16 @@ namespace {
 
 constexpr QSize kInitialSize(640, 480);
 constexpr const char *kKeysProperty = "keys";
+
+QStringList localFiles(const QMimeData &data)
+{
+    QStringList files;
+    for (const QUrl &url : data.urls()) {
+        if (url.isLocalFile())
+            files += url.toLocalFile();
+    }
+    return files;
+}
 
 } // namespace
 
@@ -82,6 +96,9 @@ CalibrationPanel &ImageViewer::calibration() const
 
 void ImageViewer::connectPath()
 {
+    // What is dropped is opened, wherever it falls; the field would add its address to the text.
+    setAcceptDrops(true);
+    m_ui->framesPath->setAcceptDrops(false);
     connect(m_ui->framesPath, &QLineEdit::editingFinished, this, &ImageViewer::editFramesPath);
     connect(m_ui->pickFramesPath, &QAbstractButton::clicked, this, &ImageViewer::pickFramesPath);
     connect(m_ui->reloadButton, &QAbstractButton::clicked, this, [this] {
@@ -201,8 +218,9 @@ void ImageViewer::setZoom(float zoom)
 
 void ImageViewer::editFramesPath()
 {
-    // A mask that is typed stands for its sequence.
-    setFramesPath({.path = m_ui->framesPath->text().toStdString(), .maskIsSequence = true});
+    const QString text = m_ui->framesPath->text();
+    if (text.toStdString() != m_session->sequence().framesPath)
+        setFramesPath(requestFor(pathsIn(text)));
 }
 
 void ImageViewer::pickFramesPath()
@@ -210,7 +228,7 @@ void ImageViewer::pickFramesPath()
     const QPointer<ImageViewer> self(this);
     const QString file = pickImageFile(picture().window(), m_imageCore, session().file());
     if (self && !file.isEmpty())
-        setFramesPath({.path = file.toStdString(), .maskIsSequence = true});
+        setFramesPath(requestFor({file}));
 }
 
 void ImageViewer::resetCalibration()
@@ -279,6 +297,21 @@ void ImageViewer::keyPressEvent(QKeyEvent *event)
         event->ignore();
     else
         QSkinnedDialog::keyPressEvent(event);
+}
+
+void ImageViewer::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!localFiles(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void ImageViewer::dropEvent(QDropEvent *event)
+{
+    const QStringList files = localFiles(*event->mimeData());
+    if (files.isEmpty())
+        return;
+    event->acceptProposedAction();
+    setFramesPath(requestFor(files));
 }
 
 void ImageViewer::closeEvent(QCloseEvent *event)

@@ -96,10 +96,14 @@ equal(pixel("--layer", "mask.RGB", path("layers.exr")), (255, 136, 0), "the laye
 os.mkdir(path("folder"))
 os.rename(path("shot.0002.exr"), path("folder/shot.0002.exr"))
 equal(pixel(path("folder")), (255, 255, 255), "a folder's first sequence")
+equal(pixel("file://" + path("folder")), (255, 255, 255), "its address")
+make("folder/shot.0004.exr", "0,0,1,1")
+equal(pixel("--frame", "4", path("folder/shot.0004.exr"), path("folder/shot.0002.exr")), (0, 0, 255), "files of one sequence")
+check("b.exr" in view("--grab", path("grab.png"), path("a.exr"), path("b.exr")), "nothing tells what is left out")
 os.chdir(path("folder"))
 equal(pixel("shot.0002.exr"), (255, 255, 255), "a path of the working directory")
 
-check("Usage: tarrow-view [options] [PATH]" in " ".join(view("--help").split()), "the usage line")
+check("Usage: tarrow-view [options] [PATH...]" in " ".join(view("--help").split()), "the usage line")
 for arguments in [["--frame", "x", mask], ["--channel", "cyan", mask], ["--set", "brightness", mask], ["--set", "glow=1", mask],
                   ["--set", "brightness=nan", mask], ["--unknown"], ["--frame"], ["--zoom", "0", mask], ["--checker", "no", mask],
                   ["--background", "blackish", mask]]:

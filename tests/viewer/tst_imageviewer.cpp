@@ -4,12 +4,15 @@
 #include <viewer/calibrationpanel.h>
 
 #include <QtCore/QFile>
+#include <QtCore/QMimeData>
 #include <QtCore/QProcess>
 #include <QtCore/QSettings>
 #include <QtGui/QOpenGLContext>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtGui/QClipboard>
+#include <QtCore/QUrl>
+#include <QtGui/QDropEvent>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
@@ -200,6 +203,35 @@ private Q_SLOTS:
         delete m_viewer;
         open(u"narrow.png"_s);
         QVERIFY(!find<QLabel>("infoLabel")->text().contains(text));
+    }
+
+    void whatIsTypedAndDropped()
+    {
+        open(u"none.####.exr"_s);
+        QVERIFY(!find("imageWarningWidget")->isHidden());
+        const auto drop = [this](const QList<QUrl> &urls) {
+            QMimeData data;
+            data.setUrls(urls);
+            QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QApplication::sendEvent(m_viewer, &enter);
+            QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+            if (enter.isAccepted())
+                QApplication::sendEvent(m_viewer, &event);
+            return text("framesPath");
+        };
+        const QString mask = path(u"shot.####.exr"_s);
+        QVERIFY(QFile::remove(path(u"shot.0004.exr"_s)));
+        const QUrl folder = QUrl::fromLocalFile(m_folder->path());
+        QCOMPARE(type("framesPath", folder.toString()), mask);
+        QCOMPARE(session().sequence().frames, (std::set<long>{1, 2, 3}));
+        QCOMPARE(drop({QUrl(u"https://example.org/x.exr"_s)}), mask);
+        writeFrame(path(u"b 1.exr"_s), kFrame);
+        QCOMPARE(drop({QUrl::fromLocalFile(path(u"b 1.exr"_s))}), path(u"b 1.exr"_s));
+        QCOMPARE(drop({folder}), path(u"b 1.exr"_s)); // its first
+        const QString several = path(u"shot.0005.exr"_s) + u' ' + path(u"shot.0002.exr"_s);
+        QCOMPARE(type("framesPath", several), mask);
+        QCOMPARE(frame(), 2);
+        QCOMPARE(session().sequence().frames, (std::set<long>{1, 2, 3, 5}));
     }
 
     void contextThatDiesIsReplaced()

@@ -1,4 +1,4 @@
-// tarrow-view [options] [PATH]
+// tarrow-view [options] [PATH...]
 //
 // Opens the farm's viewer without a farm, or renders one picture into a file. Ends with 0, with 1 when nothing can be
 // shown, with 2 when it is called wrongly.
@@ -15,6 +15,7 @@
 #include <viewer/calibrationpanel.h>
 #include <viewer/displaycontrols.h>
 #include <viewer/frames/cachetotals.h>
+#include <viewer/frames/framepaths.h>
 #include <viewer/frames/framesondisk.h>
 #include <viewer/imageviewer.h>
 #include <viewer/session/viewersession.h>
@@ -37,22 +38,38 @@ int fail(const QString &text, int code)
     return code;
 }
 
-/// Empty when a folder holds nothing to show.
-std::string pathToOpen(const QString &path)
+FramesRequest requestOf(const QStringList &paths)
 {
-    const QFileInfo info(path);
-    const std::string absolute = info.absoluteFilePath().toStdString();
-    return info.isDir() ? firstImageOf(absolute) : absolute;
+    QStringList absolute;
+    for (const QString &path : paths) {
+        const QStringList known = pathsIn(path); // white space parts nothing here
+        absolute += QFileInfo(known.size() == 1 ? known.first() : path).absoluteFilePath();
+    }
+    return requestFor(absolute);
+}
+
+/// Says which of the paths are not among the frames that are shown.
+void tellWhatIsLeftOut(const FramesRequest &request, const FrameSequence &shown)
+{
+    for (const std::string &other : request.others) {
+        const bool isFrame = other == request.path || frameOf(other, shown.framesPath);
+        if (!isFrame && request.others.size() > 1)
+            fail(QStringLiteral("Left out, being of another sequence: %1").arg(QString::fromStdString(other)),
+                 0);
+    }
 }
 
 /// What is wrong; empty when the picture is as asked for.
 QString apply(const ViewOptions &options, ImageViewer &viewer)
 {
-    if (options.path.isEmpty())
+    if (options.paths.isEmpty())
         return options.grab.isEmpty() ? QString() : QStringLiteral("Cannot grab a picture without a PATH.");
-    const std::string path = pathToOpen(options.path);
-    if (path.empty())
-        return QStringLiteral("Cannot find an image in %1").arg(options.path);
+    FramesRequest request = requestOf(options.paths);
+    const QString path = QString::fromStdString(request.path);
+    if (QFileInfo(path).isDir())
+        return QStringLiteral("Cannot find an image in %1").arg(path);
+    request.force = true;
+    request.preferredFrame = options.frame;
     ViewerSession &session = viewer.session();
     DisplayControls &display = viewer.display();
     display.setComposite(options.composite);
@@ -60,17 +77,17 @@ QString apply(const ViewOptions &options, ImageViewer &viewer)
     display.setPremultiplied(options.premultiplied);
     if (options.background.isValid())
         display.setBackground(options.background);
-    viewer.setFramesPath(
-        {.path = path, .force = true, .preferredFrame = options.frame, .maskIsSequence = true});
+    viewer.setFramesPath(request);
+    tellWhatIsLeftOut(request, session.sequence());
     if (options.frame)
         session.setFrame(*options.frame);
     if (options.frame && session.frame() != *options.frame)
-        return QStringLiteral("Cannot find frame %1 among those of %2").arg(*options.frame).arg(options.path);
+        return QStringLiteral("Cannot find frame %1 among those of %2").arg(*options.frame).arg(path);
     if (!session.lastLoad().shown())
         return QStringLiteral("Cannot show %1").arg(QString::fromStdString(session.file()));
     if (!options.layer.isEmpty()
         && !(session.setLayer(options.layer.toStdString()) && session.lastLoad().shown()))
-        return QStringLiteral("Cannot show the layer %1 of %2").arg(options.layer, options.path);
+        return QStringLiteral("Cannot show the layer %1 of %2").arg(options.layer, path);
     for (const auto &[name, value] : options.calibration)
         viewer.calibration().setValue(name, value);
     display.setChannelViewMode(options.channelViewMode);
@@ -105,7 +122,8 @@ int run(const ViewOptions &options)
     const QImage picture =
         keepsAlpha ? viewer->picture().grabWithAlpha(zoom) : viewer->picture().grabPicture(zoom);
     if (picture.isNull())
-        return fail(QStringLiteral("Cannot render %1").arg(options.path), kNothingShown);
+        return fail(QStringLiteral("Cannot render %1").arg(QString::fromStdString(viewer->session().file())),
+                    kNothingShown);
     if (!picture.save(options.grab, "PNG"))
         return fail(QStringLiteral("Cannot write %1").arg(options.grab), kNothingShown);
     return 0;

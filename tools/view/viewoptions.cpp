@@ -123,19 +123,17 @@ ViewOptions ViewOptions::parse(const QStringList &arguments)
     const QCommandLineOption help = parser.addHelpOption();
     parser.addOptions({known.frame, known.layer, known.channel, known.set, known.composite, known.checker,
                        known.background, known.premultiplied, known.zoom, known.grab, known.gl2});
-    parser.addPositionalArgument(QStringLiteral("PATH"),
-                                 QStringLiteral("A file, a mask, or a folder's first sequence."),
-                                 QStringLiteral("[PATH]"));
+    parser.addPositionalArgument(
+        QStringLiteral("PATH"),
+        QStringLiteral("A file, a mask, a folder's first sequence, or files of a sequence."),
+        QStringLiteral("[PATH...]"));
     if (!parser.parse(arguments))
         options.error = parser.errorText();
     options.help = options.error.isEmpty() && parser.isSet(help);
     // The parser takes the name from an application, and there is none yet.
     options.helpText =
         parser.helpText().replace(QStringLiteral("<executable_name>"), QStringLiteral("tarrow-view"));
-    const QStringList paths = parser.positionalArguments();
-    options.path = paths.value(0);
-    if (paths.size() > 1)
-        options.error = QStringLiteral("Cannot open more than one PATH.");
+    options.paths = parser.positionalArguments();
     options.layer = parser.value(known.layer);
     options.forceGl2 = parser.isSet(known.gl2);
     options.grab = parser.value(known.grab);

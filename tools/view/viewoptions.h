@@ -10,7 +10,7 @@
 
 /// What the command line of tarrow-view asks for.
 struct ViewOptions {
-    QString path; ///< a file, a mask or a folder; empty opens an empty viewer
+    QStringList paths; ///< files, masks, folders, file:// addresses; none opens an empty viewer
     std::optional<int> frame;
     QString layer; ///< as the layer selector names it; empty leaves the first
     bool forceGl2 = false;

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "framesequence.h"
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+/// Reads what a field was given: a path, a mask, a folder, a file:// address, or several of them that there are, between
+/// white space.
+QStringList pathsIn(const QString &text);
+
+/// Asks for the sequence that the first of the paths is one of, or that a folder shows first; a folder without an image
+/// stays the path. Files beside it count where they are of the same sequence.
+FramesRequest requestFor(QStringList paths);
