@@ -183,7 +183,6 @@ void loadFrame(const ExrSample &sample)
     FrameLoader loader(cache, display);
     LoadRequest request;
     request.path = sample.path;
-    request.fresh = true;
     if (!loader.load(request).shown())
         fail("a file does not load");
 }

@@ -95,7 +95,6 @@ struct BarePicture {
     {
         LoadRequest request;
         request.path = path.toStdString();
-        request.fresh = true;
         if (!loader.load(request).shown())
             fail("the frame does not load");
     }
