@@ -102,6 +102,10 @@
         <source>HUD colour</source>
         <translation>HUD-Farbe</translation>
     </message>
+    <message>
+        <source>%1 (no %2)</source>
+        <translation>%1 (kein %2)</translation>
+    </message>
 </context>
 <context>
     <name>EmptyList</name>
@@ -251,6 +255,10 @@ Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
     <message>
         <source>Samples per channel: %1</source>
         <translation>Samples je Kanal: %1</translation>
+    </message>
+    <message>
+        <source>File format: %1, deep</source>
+        <translation>Dateiformat: %1, tief</translation>
     </message>
 </context>
 <context>
@@ -646,6 +654,14 @@ Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
         <source>Luminance: the largest of red, green and blue</source>
         <translation>Luminanz: der größte Wert aus Rot, Grün und Blau</translation>
     </message>
+    <message>
+        <source>Marked frames; the right button copies them</source>
+        <translation>Markierte Frames; die rechte Maustaste kopiert sie</translation>
+    </message>
+    <message>
+        <source>Marked chunks; the right button copies them</source>
+        <translation>Markierte Chunks; die rechte Maustaste kopiert sie</translation>
+    </message>
 </context>
 <context>
     <name>LinkStatus</name>
@@ -714,12 +730,16 @@ Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
         <translation>beschädigt</translation>
     </message>
     <message>
-        <source>Messages to the Dispatcher lost at %1: %2 (it does not read)</source>
-        <translation>An den Dispatcher um %1 verlorene Nachrichten: %2 (er liest nicht)</translation>
+        <source>the Dispatcher does not read</source>
+        <translation>der Dispatcher liest nicht</translation>
     </message>
     <message>
-        <source>Messages of the Dispatcher lost at %1: %2 (%3)</source>
-        <translation>Vom Dispatcher um %1 verlorene Nachrichten: %2 (%3)</translation>
+        <source>one to the Dispatcher was larger than 1 MiB</source>
+        <translation>eine an den Dispatcher war größer als 1 MiB</translation>
+    </message>
+    <message>
+        <source>Messages of or to the Dispatcher lost at %1: %2 (%3)</source>
+        <translation>Nachrichten vom oder an den Dispatcher verloren um %1: %2 (%3)</translation>
     </message>
 </context>
 <context>
@@ -759,6 +779,58 @@ Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
         <source>Corrupted file at path: %1</source>
         <translation>Beschädigte Datei: %1</translation>
     </message>
+    <message>
+        <source>File that cannot be shown at path: %1</source>
+        <translation>Datei kann nicht angezeigt werden: %1</translation>
+    </message>
+    <message>
+        <source>Too large for OpenGL: shown at 1/%1 of its size</source>
+        <translation>Zu groß für OpenGL: in 1/%1 der Größe angezeigt</translation>
+    </message>
+    <message>
+        <source>OpenGL does not start.</source>
+        <translation>OpenGL startet nicht.</translation>
+    </message>
+    <message>
+        <source>OpenGL does not build the shaders that draw pictures. The log says why.</source>
+        <translation>OpenGL übersetzt die Shader nicht, die Bilder zeichnen. Das Protokoll nennt den Grund.</translation>
+    </message>
+    <message>
+        <source>OpenGL has no memory for it. Choose a higher downsampling.</source>
+        <translation>OpenGL hat keinen Speicher dafür. Wählen Sie eine stärkere Verkleinerung.</translation>
+    </message>
+    <message>
+        <source>It is too large for OpenGL.</source>
+        <translation>Sie ist zu groß für OpenGL.</translation>
+    </message>
+    <message>
+        <source>This OpenGL cannot show samples of its kind.</source>
+        <translation>Dieses OpenGL kann solche Bildwerte nicht anzeigen.</translation>
+    </message>
+    <message>
+        <source>It holds too few samples for its size.</source>
+        <translation>Sie enthält zu wenige Bildwerte für ihre Größe.</translation>
+    </message>
+    <message>
+        <source>You have no permission to read it.</source>
+        <translation>Sie dürfen sie nicht lesen.</translation>
+    </message>
+    <message>
+        <source>It is no image of a format that the viewer reads.</source>
+        <translation>Sie ist kein Bild in einem Format, das der Betrachter liest.</translation>
+    </message>
+    <message>
+        <source>Its picture is too large for the memory of this computer.</source>
+        <translation>Ihr Bild ist zu groß für den Speicher dieses Rechners.</translation>
+    </message>
+    <message>
+        <source>The viewer cannot read it: %1</source>
+        <translation>Der Betrachter kann sie nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>What is wrong: %1</source>
+        <translation>Was nicht stimmt: %1</translation>
+    </message>
 </context>
 <context>
     <name>MarkingControls</name>
@@ -773,6 +845,18 @@ Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
     <message>
         <source>Are you sure you want to remove the current markings ?</source>
         <translation>Möchten Sie die aktuellen Markierungen wirklich entfernen?</translation>
+    </message>
+    <message>
+        <source>Copy marked frames</source>
+        <translation>Markierte Frames kopieren</translation>
+    </message>
+    <message>
+        <source>Copy marked chunks</source>
+        <translation>Markierte Chunks kopieren</translation>
+    </message>
+    <message>
+        <source>Copy frames of marked chunks</source>
+        <translation>Frames der markierten Chunks kopieren</translation>
     </message>
 </context>
 <context>

@@ -102,6 +102,10 @@
         <source>HUD colour</source>
         <translation>Color del HUD</translation>
     </message>
+    <message>
+        <source>%1 (no %2)</source>
+        <translation>%1 (sin %2)</translation>
+    </message>
 </context>
 <context>
     <name>EmptyList</name>
@@ -251,6 +255,10 @@ Lo que la granja diga de sus trabajos aparece aquí.</translation>
     <message>
         <source>Samples per channel: %1</source>
         <translation>Muestras por canal: %1</translation>
+    </message>
+    <message>
+        <source>File format: %1, deep</source>
+        <translation>Formato de archivo: %1, profundo</translation>
     </message>
 </context>
 <context>
@@ -646,6 +654,14 @@ Lo que la granja diga de sus trabajos aparece aquí.</translation>
         <source>Luminance: the largest of red, green and blue</source>
         <translation>Luminancia: el mayor valor de rojo, verde y azul</translation>
     </message>
+    <message>
+        <source>Marked frames; the right button copies them</source>
+        <translation>Fotogramas marcados; el botón derecho los copia</translation>
+    </message>
+    <message>
+        <source>Marked chunks; the right button copies them</source>
+        <translation>Chunks marcados; el botón derecho los copia</translation>
+    </message>
 </context>
 <context>
     <name>LinkStatus</name>
@@ -714,12 +730,16 @@ Lo que la granja diga de sus trabajos aparece aquí.</translation>
         <translation>dañados</translation>
     </message>
     <message>
-        <source>Messages to the Dispatcher lost at %1: %2 (it does not read)</source>
-        <translation>Mensajes al Dispatcher perdidos a las %1: %2 (no lee)</translation>
+        <source>the Dispatcher does not read</source>
+        <translation>el Dispatcher no lee</translation>
     </message>
     <message>
-        <source>Messages of the Dispatcher lost at %1: %2 (%3)</source>
-        <translation>Mensajes del Dispatcher perdidos a las %1: %2 (%3)</translation>
+        <source>one to the Dispatcher was larger than 1 MiB</source>
+        <translation>uno dirigido al Dispatcher era mayor de 1 MiB</translation>
+    </message>
+    <message>
+        <source>Messages of or to the Dispatcher lost at %1: %2 (%3)</source>
+        <translation>Mensajes del Dispatcher o hacia él perdidos a las %1: %2 (%3)</translation>
     </message>
 </context>
 <context>
@@ -759,6 +779,58 @@ Lo que la granja diga de sus trabajos aparece aquí.</translation>
         <source>Corrupted file at path: %1</source>
         <translation>Archivo dañado: %1</translation>
     </message>
+    <message>
+        <source>File that cannot be shown at path: %1</source>
+        <translation>No se puede mostrar el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Too large for OpenGL: shown at 1/%1 of its size</source>
+        <translation>Demasiado grande para OpenGL: se muestra a 1/%1 de su tamaño</translation>
+    </message>
+    <message>
+        <source>OpenGL does not start.</source>
+        <translation>OpenGL no se inicia.</translation>
+    </message>
+    <message>
+        <source>OpenGL does not build the shaders that draw pictures. The log says why.</source>
+        <translation>OpenGL no compila los shaders que dibujan las imágenes. El registro indica el motivo.</translation>
+    </message>
+    <message>
+        <source>OpenGL has no memory for it. Choose a higher downsampling.</source>
+        <translation>OpenGL no tiene memoria para él. Elija un submuestreo mayor.</translation>
+    </message>
+    <message>
+        <source>It is too large for OpenGL.</source>
+        <translation>Es demasiado grande para OpenGL.</translation>
+    </message>
+    <message>
+        <source>This OpenGL cannot show samples of its kind.</source>
+        <translation>Este OpenGL no puede mostrar muestras de este tipo.</translation>
+    </message>
+    <message>
+        <source>It holds too few samples for its size.</source>
+        <translation>Contiene muy pocas muestras para su tamaño.</translation>
+    </message>
+    <message>
+        <source>You have no permission to read it.</source>
+        <translation>No tiene permiso para leerlo.</translation>
+    </message>
+    <message>
+        <source>It is no image of a format that the viewer reads.</source>
+        <translation>No es una imagen de un formato que el visor lea.</translation>
+    </message>
+    <message>
+        <source>Its picture is too large for the memory of this computer.</source>
+        <translation>Su imagen es demasiado grande para la memoria de este equipo.</translation>
+    </message>
+    <message>
+        <source>The viewer cannot read it: %1</source>
+        <translation>El visor no puede leerlo: %1</translation>
+    </message>
+    <message>
+        <source>What is wrong: %1</source>
+        <translation>Qué falla: %1</translation>
+    </message>
 </context>
 <context>
     <name>MarkingControls</name>
@@ -773,6 +845,18 @@ Lo que la granja diga de sus trabajos aparece aquí.</translation>
     <message>
         <source>Are you sure you want to remove the current markings ?</source>
         <translation>¿Seguro que desea quitar las marcas actuales?</translation>
+    </message>
+    <message>
+        <source>Copy marked frames</source>
+        <translation>Copiar fotogramas marcados</translation>
+    </message>
+    <message>
+        <source>Copy marked chunks</source>
+        <translation>Copiar chunks marcados</translation>
+    </message>
+    <message>
+        <source>Copy frames of marked chunks</source>
+        <translation>Copiar fotogramas de los chunks marcados</translation>
     </message>
 </context>
 <context>

@@ -102,6 +102,10 @@
         <source>HUD colour</source>
         <translation>Couleur du HUD</translation>
     </message>
+    <message>
+        <source>%1 (no %2)</source>
+        <translation>%1 (pas de %2)</translation>
+    </message>
 </context>
 <context>
     <name>EmptyList</name>
@@ -251,6 +255,10 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     <message>
         <source>Samples per channel: %1</source>
         <translation>Échantillons par canal&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>File format: %1, deep</source>
+        <translation>Format de fichier : %1, profond</translation>
     </message>
 </context>
 <context>
@@ -646,6 +654,14 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
         <source>Luminance: the largest of red, green and blue</source>
         <translation>Luminance : la plus grande valeur du rouge, du vert et du bleu</translation>
     </message>
+    <message>
+        <source>Marked frames; the right button copies them</source>
+        <translation>Images marquées ; le bouton droit les copie</translation>
+    </message>
+    <message>
+        <source>Marked chunks; the right button copies them</source>
+        <translation>Chunks marqués ; le bouton droit les copie</translation>
+    </message>
 </context>
 <context>
     <name>LinkStatus</name>
@@ -714,12 +730,16 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
         <translation>endommagés</translation>
     </message>
     <message>
-        <source>Messages to the Dispatcher lost at %1: %2 (it does not read)</source>
-        <translation>Messages au Dispatcher perdus à %1 : %2 (il ne lit pas)</translation>
+        <source>the Dispatcher does not read</source>
+        <translation>le Dispatcher ne lit pas</translation>
     </message>
     <message>
-        <source>Messages of the Dispatcher lost at %1: %2 (%3)</source>
-        <translation>Messages du Dispatcher perdus à %1 : %2 (%3)</translation>
+        <source>one to the Dispatcher was larger than 1 MiB</source>
+        <translation>un message au Dispatcher dépassait 1 Mio</translation>
+    </message>
+    <message>
+        <source>Messages of or to the Dispatcher lost at %1: %2 (%3)</source>
+        <translation>Messages du Dispatcher ou vers lui perdus à %1 : %2 (%3)</translation>
     </message>
 </context>
 <context>
@@ -759,6 +779,58 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
         <source>Corrupted file at path: %1</source>
         <translation>Fichier endommagé&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>File that cannot be shown at path: %1</source>
+        <translation>Fichier impossible à afficher : %1</translation>
+    </message>
+    <message>
+        <source>Too large for OpenGL: shown at 1/%1 of its size</source>
+        <translation>Trop grande pour OpenGL : affichée à 1/%1 de sa taille</translation>
+    </message>
+    <message>
+        <source>OpenGL does not start.</source>
+        <translation>OpenGL ne démarre pas.</translation>
+    </message>
+    <message>
+        <source>OpenGL does not build the shaders that draw pictures. The log says why.</source>
+        <translation>OpenGL ne compile pas les shaders qui dessinent les images. Le journal dit pourquoi.</translation>
+    </message>
+    <message>
+        <source>OpenGL has no memory for it. Choose a higher downsampling.</source>
+        <translation>OpenGL n&apos;a pas assez de mémoire. Choisissez un sous-échantillonnage plus fort.</translation>
+    </message>
+    <message>
+        <source>It is too large for OpenGL.</source>
+        <translation>Il est trop grand pour OpenGL.</translation>
+    </message>
+    <message>
+        <source>This OpenGL cannot show samples of its kind.</source>
+        <translation>Cet OpenGL ne peut pas afficher ce type d&apos;échantillons.</translation>
+    </message>
+    <message>
+        <source>It holds too few samples for its size.</source>
+        <translation>Il contient trop peu d&apos;échantillons pour sa taille.</translation>
+    </message>
+    <message>
+        <source>You have no permission to read it.</source>
+        <translation>Vous n&apos;avez pas le droit de le lire.</translation>
+    </message>
+    <message>
+        <source>It is no image of a format that the viewer reads.</source>
+        <translation>Ce n&apos;est pas une image d&apos;un format que la visionneuse lit.</translation>
+    </message>
+    <message>
+        <source>Its picture is too large for the memory of this computer.</source>
+        <translation>Son image est trop grande pour la mémoire de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>The viewer cannot read it: %1</source>
+        <translation>La visionneuse ne peut pas le lire : %1</translation>
+    </message>
+    <message>
+        <source>What is wrong: %1</source>
+        <translation>Problème : %1</translation>
+    </message>
 </context>
 <context>
     <name>MarkingControls</name>
@@ -773,6 +845,18 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     <message>
         <source>Are you sure you want to remove the current markings ?</source>
         <translation>Voulez-vous vraiment supprimer les marques actuelles&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Copy marked frames</source>
+        <translation>Copier les images marquées</translation>
+    </message>
+    <message>
+        <source>Copy marked chunks</source>
+        <translation>Copier les chunks marqués</translation>
+    </message>
+    <message>
+        <source>Copy frames of marked chunks</source>
+        <translation>Copier les images des chunks marqués</translation>
     </message>
 </context>
 <context>

@@ -102,6 +102,10 @@
         <source>HUD colour</source>
         <translation>Colore HUD</translation>
     </message>
+    <message>
+        <source>%1 (no %2)</source>
+        <translation>%1 (manca %2)</translation>
+    </message>
 </context>
 <context>
     <name>EmptyList</name>
@@ -251,6 +255,10 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
     <message>
         <source>Samples per channel: %1</source>
         <translation>Campioni per canale: %1</translation>
+    </message>
+    <message>
+        <source>File format: %1, deep</source>
+        <translation>Formato file: %1, profondo</translation>
     </message>
 </context>
 <context>
@@ -646,6 +654,14 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
         <source>Luminance: the largest of red, green and blue</source>
         <translation>Luminanza: il massimo tra rosso, verde e blu</translation>
     </message>
+    <message>
+        <source>Marked frames; the right button copies them</source>
+        <translation>Fotogrammi contrassegnati; il pulsante destro li copia</translation>
+    </message>
+    <message>
+        <source>Marked chunks; the right button copies them</source>
+        <translation>Chunk contrassegnati; il pulsante destro li copia</translation>
+    </message>
 </context>
 <context>
     <name>LinkStatus</name>
@@ -714,12 +730,16 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
         <translation>danneggiati</translation>
     </message>
     <message>
-        <source>Messages to the Dispatcher lost at %1: %2 (it does not read)</source>
-        <translation>Messaggi al Dispatcher persi alle %1: %2 (non legge)</translation>
+        <source>the Dispatcher does not read</source>
+        <translation>il Dispatcher non legge</translation>
     </message>
     <message>
-        <source>Messages of the Dispatcher lost at %1: %2 (%3)</source>
-        <translation>Messaggi del Dispatcher persi alle %1: %2 (%3)</translation>
+        <source>one to the Dispatcher was larger than 1 MiB</source>
+        <translation>uno per il Dispatcher superava 1 MiB</translation>
+    </message>
+    <message>
+        <source>Messages of or to the Dispatcher lost at %1: %2 (%3)</source>
+        <translation>Messaggi del Dispatcher o diretti a esso persi alle %1: %2 (%3)</translation>
     </message>
 </context>
 <context>
@@ -759,6 +779,58 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
         <source>Corrupted file at path: %1</source>
         <translation>File danneggiato: %1</translation>
     </message>
+    <message>
+        <source>File that cannot be shown at path: %1</source>
+        <translation>Impossibile mostrare il file: %1</translation>
+    </message>
+    <message>
+        <source>Too large for OpenGL: shown at 1/%1 of its size</source>
+        <translation>Troppo grande per OpenGL: mostrata a 1/%1 della dimensione</translation>
+    </message>
+    <message>
+        <source>OpenGL does not start.</source>
+        <translation>OpenGL non si avvia.</translation>
+    </message>
+    <message>
+        <source>OpenGL does not build the shaders that draw pictures. The log says why.</source>
+        <translation>OpenGL non compila gli shader che disegnano le immagini. Il registro indica il motivo.</translation>
+    </message>
+    <message>
+        <source>OpenGL has no memory for it. Choose a higher downsampling.</source>
+        <translation>OpenGL non ha memoria sufficiente. Scegliere un sottocampionamento maggiore.</translation>
+    </message>
+    <message>
+        <source>It is too large for OpenGL.</source>
+        <translation>È troppo grande per OpenGL.</translation>
+    </message>
+    <message>
+        <source>This OpenGL cannot show samples of its kind.</source>
+        <translation>Questo OpenGL non può mostrare campioni di questo tipo.</translation>
+    </message>
+    <message>
+        <source>It holds too few samples for its size.</source>
+        <translation>Contiene troppo pochi campioni per la sua dimensione.</translation>
+    </message>
+    <message>
+        <source>You have no permission to read it.</source>
+        <translation>Non si dispone del permesso di leggerlo.</translation>
+    </message>
+    <message>
+        <source>It is no image of a format that the viewer reads.</source>
+        <translation>Non è un’immagine in un formato che il visualizzatore legge.</translation>
+    </message>
+    <message>
+        <source>Its picture is too large for the memory of this computer.</source>
+        <translation>La sua immagine è troppo grande per la memoria di questo computer.</translation>
+    </message>
+    <message>
+        <source>The viewer cannot read it: %1</source>
+        <translation>Il visualizzatore non può leggerlo: %1</translation>
+    </message>
+    <message>
+        <source>What is wrong: %1</source>
+        <translation>Problema: %1</translation>
+    </message>
 </context>
 <context>
     <name>MarkingControls</name>
@@ -773,6 +845,18 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
     <message>
         <source>Are you sure you want to remove the current markings ?</source>
         <translation>Rimuovere davvero i contrassegni attuali?</translation>
+    </message>
+    <message>
+        <source>Copy marked frames</source>
+        <translation>Copia fotogrammi contrassegnati</translation>
+    </message>
+    <message>
+        <source>Copy marked chunks</source>
+        <translation>Copia chunk contrassegnati</translation>
+    </message>
+    <message>
+        <source>Copy frames of marked chunks</source>
+        <translation>Copia fotogrammi dei chunk contrassegnati</translation>
     </message>
 </context>
 <context>

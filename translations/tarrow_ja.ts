@@ -102,6 +102,10 @@
         <source>HUD colour</source>
         <translation>HUD の色</translation>
     </message>
+    <message>
+        <source>%1 (no %2)</source>
+        <translation>%1 (%2 なし)</translation>
+    </message>
 </context>
 <context>
     <name>EmptyList</name>
@@ -251,6 +255,10 @@ What the farm tells of your jobs appears here.</source>
     <message>
         <source>Samples per channel: %1</source>
         <translation>チャンネルあたりのサンプル数: %1</translation>
+    </message>
+    <message>
+        <source>File format: %1, deep</source>
+        <translation>ファイル形式: %1、ディープ</translation>
     </message>
 </context>
 <context>
@@ -646,6 +654,14 @@ What the farm tells of your jobs appears here.</source>
         <source>Luminance: the largest of red, green and blue</source>
         <translation>輝度: 赤、緑、青の最大値</translation>
     </message>
+    <message>
+        <source>Marked frames; the right button copies them</source>
+        <translation>マークしたフレーム。右ボタンでコピーします</translation>
+    </message>
+    <message>
+        <source>Marked chunks; the right button copies them</source>
+        <translation>マークしたチャンク。右ボタンでコピーします</translation>
+    </message>
 </context>
 <context>
     <name>LinkStatus</name>
@@ -714,12 +730,16 @@ What the farm tells of your jobs appears here.</source>
         <translation>壊れています</translation>
     </message>
     <message>
-        <source>Messages to the Dispatcher lost at %1: %2 (it does not read)</source>
-        <translation>%1 に失われた Dispatcher へのメッセージ: %2 (読み取られません)</translation>
+        <source>the Dispatcher does not read</source>
+        <translation>Dispatcher が読み取っていません</translation>
     </message>
     <message>
-        <source>Messages of the Dispatcher lost at %1: %2 (%3)</source>
-        <translation>%1 に失われた Dispatcher からのメッセージ: %2 (%3)</translation>
+        <source>one to the Dispatcher was larger than 1 MiB</source>
+        <translation>Dispatcher へのメッセージが 1 MiB を超えていました</translation>
+    </message>
+    <message>
+        <source>Messages of or to the Dispatcher lost at %1: %2 (%3)</source>
+        <translation>Dispatcher との間で失われたメッセージ (%1): %2 件 (%3)</translation>
     </message>
 </context>
 <context>
@@ -759,6 +779,58 @@ What the farm tells of your jobs appears here.</source>
         <source>Corrupted file at path: %1</source>
         <translation>ファイルが破損しています: %1</translation>
     </message>
+    <message>
+        <source>File that cannot be shown at path: %1</source>
+        <translation>表示できないファイル: %1</translation>
+    </message>
+    <message>
+        <source>Too large for OpenGL: shown at 1/%1 of its size</source>
+        <translation>OpenGL には大きすぎるため、1/%1 の大きさで表示しています</translation>
+    </message>
+    <message>
+        <source>OpenGL does not start.</source>
+        <translation>OpenGL が起動しません。</translation>
+    </message>
+    <message>
+        <source>OpenGL does not build the shaders that draw pictures. The log says why.</source>
+        <translation>画像を描くシェーダーを OpenGL がビルドできません。理由はログにあります。</translation>
+    </message>
+    <message>
+        <source>OpenGL has no memory for it. Choose a higher downsampling.</source>
+        <translation>OpenGL のメモリが足りません。ダウンサンプリングを上げてください。</translation>
+    </message>
+    <message>
+        <source>It is too large for OpenGL.</source>
+        <translation>OpenGL には大きすぎます。</translation>
+    </message>
+    <message>
+        <source>This OpenGL cannot show samples of its kind.</source>
+        <translation>この OpenGL はこの種類のサンプルを表示できません。</translation>
+    </message>
+    <message>
+        <source>It holds too few samples for its size.</source>
+        <translation>大きさに対してサンプルが足りません。</translation>
+    </message>
+    <message>
+        <source>You have no permission to read it.</source>
+        <translation>読み取り権限がありません。</translation>
+    </message>
+    <message>
+        <source>It is no image of a format that the viewer reads.</source>
+        <translation>ビューアが読める形式の画像ではありません。</translation>
+    </message>
+    <message>
+        <source>Its picture is too large for the memory of this computer.</source>
+        <translation>画像がこのコンピューターのメモリに収まりません。</translation>
+    </message>
+    <message>
+        <source>The viewer cannot read it: %1</source>
+        <translation>ビューアで読み取れません: %1</translation>
+    </message>
+    <message>
+        <source>What is wrong: %1</source>
+        <translation>問題点: %1</translation>
+    </message>
 </context>
 <context>
     <name>MarkingControls</name>
@@ -773,6 +845,18 @@ What the farm tells of your jobs appears here.</source>
     <message>
         <source>Are you sure you want to remove the current markings ?</source>
         <translation>現在のマークを削除しますか?</translation>
+    </message>
+    <message>
+        <source>Copy marked frames</source>
+        <translation>マークしたフレームをコピー</translation>
+    </message>
+    <message>
+        <source>Copy marked chunks</source>
+        <translation>マークしたチャンクをコピー</translation>
+    </message>
+    <message>
+        <source>Copy frames of marked chunks</source>
+        <translation>マークしたチャンクのフレームをコピー</translation>
     </message>
 </context>
 <context>
