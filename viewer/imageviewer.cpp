@@ -24,6 +24,7 @@
 #include <QtCore/QUrl>
 #include <QtGui/QDropEvent>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
 
 namespace {
@@ -152,7 +153,6 @@ void ImageViewer::filterKeys()
 {
     // Keys that no field wants move through the frames, wherever the focus is; a click on anything but a field leaves
     // them to the frames.
-    content()->setFocusPolicy(Qt::ClickFocus);
     for (QWidget *control : content()->findChildren<QWidget *>()) {
         const bool isField = qobject_cast<QLineEdit *>(control) || control == m_ui->imageWarningReason;
         if ((control->focusPolicy() & Qt::ClickFocus) && !isField && control != m_ui->image)
@@ -265,9 +265,24 @@ bool ImageViewer::eventFilter(QObject *watched, QEvent *event)
         showGlNormal();
         return true;
     }
+    if (event->type() == QEvent::MouseButtonPress && watched == windowHandle())
+        leaveField(static_cast<QMouseEvent *>(event)->position().toPoint());
     const bool taken =
         event->type() == QEvent::KeyPress && takeKey(watched, static_cast<QKeyEvent *>(event)->key());
     return taken || QSkinnedDialog::eventFilter(watched, event);
+}
+
+// The form itself takes no focus by a click: it would be a stop on the way of those who see its controls alone.
+void ImageViewer::leaveField(QPoint clicked)
+{
+    const QWidget *under = childAt(clicked);
+    if (!under || !content()->isAncestorOf(under))
+        return;
+    for (; under != content(); under = under->parentWidget()) {
+        if (under->focusPolicy() & Qt::ClickFocus)
+            return;
+    }
+    content()->setFocus(Qt::MouseFocusReason);
 }
 
 bool ImageViewer::takeKey(const QObject *watched, int key)

@@ -68,6 +68,7 @@ private:
     void connectSession();
     void filterKeys();
     bool takeKey(const QObject *watched, int key);
+    void leaveField(QPoint clicked);
     /// Every text anew: the form's, the keys in the tooltips, the title.
     void retranslate();
     void showTitle();

@@ -47,7 +47,7 @@ ZoomControl::ZoomControl(const Controls &controls)
 void ZoomControl::buildMenu(QToolButton *button, Lock lock)
 {
     auto *menu = new QMenu(button);
-    menu->addAction(tr("Apply"), this, [this, lock] { apply(lock); });
+    menu->addAction(tr("Apply"), this, [this, lock] { applyOnce(lock); });
     QAction *lockAction = menu->addAction(tr("Lock"), this, [this, lock] { setLock(lock); });
     QAction *unlockAction = menu->addAction(tr("Unlock"), this, [this] { setLock(Lock::None); });
     connect(menu, &QMenu::aboutToShow, this, [this, lock, lockAction, unlockAction] {
@@ -146,6 +146,13 @@ void ZoomControl::apply(Lock lock)
         place(fittingZoom(), middle());
     else if (lock == Lock::Pixels)
         place(1.0F, middle());
+}
+
+void ZoomControl::applyOnce(Lock lock)
+{
+    if (m_lock != lock)
+        setLock(Lock::None);
+    apply(lock);
 }
 
 void ZoomControl::resetZoom()

@@ -48,6 +48,8 @@ private:
     void buildMenu(QToolButton *button, Lock lock);
     void setLock(Lock lock);
     void apply(Lock lock);
+    /// Applies what is not to hold for the next sizes.
+    void applyOnce(Lock lock);
     /// Zooms by steps or parts of them, as far as the limits let it; what is at the point stays there.
     void zoomBy(float steps, QPointF at);
     void place(float zoom, QPointF at);
