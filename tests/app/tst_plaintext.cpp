@@ -2,6 +2,7 @@
 #include "glpath.h"
 #include "jobframes.h"
 #include "modals.h"
+#include "openviewers.h"
 
 #include <app/splash.h>
 #include <notify/alertor.h>
@@ -10,7 +11,6 @@
 #include <notify/eventsview.h>
 #include <ui/product.h>
 #include <ui/qskinnedmessagebox.h>
-#include <viewer/imageviewer.h>
 #include <viewer/session/viewersession.h>
 
 #include <QtCore/QSet>
@@ -68,7 +68,7 @@ private Q_SLOTS:
         hover(*list);
 
         alertor.actOpenFrame();
-        auto *viewer = alertor.findChild<ImageViewer *>();
+        ImageViewer *viewer = openViewers().value(0);
         QVERIFY(viewer && viewer->isVisible());
         viewer->grab(); // paints the title, whose tooltip then tells the whole
         walk();
@@ -116,7 +116,7 @@ private Q_SLOTS:
         QTest::keySequence(list, QKeySequence::Copy);
         QCOMPARE(QGuiApplication::clipboard()->text(), tale);
         alertor.actOpenFrame();
-        QVERIFY(alertor.findChild<ImageViewer *>()->windowTitle().size() < 600);
+        QVERIFY(openViewers().value(0)->windowTitle().size() < 600);
     }
 
     void layersAreChosenByTheirWholeNames()
@@ -125,7 +125,7 @@ private Q_SLOTS:
         writeFrame(file, {8, 8}, {{"first\nchannel", 0.5F}, {"second", 1.0F}});
         Alertor alertor;
         alertor.openImageViewer();
-        auto *viewer = alertor.findChild<ImageViewer *>();
+        ImageViewer *viewer = openViewers().value(0);
         viewer->setFramesPath({.path = file.toStdString(), .force = true});
         auto *layers = viewer->findChild<QComboBox *>(u"layersSelector"_s);
         QCOMPARE(layers->currentText(), u"first…"_s);

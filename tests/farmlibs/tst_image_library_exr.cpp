@@ -108,11 +108,8 @@ private Q_SLOTS:
     {
         const ImageFolder folder;
         ExrSpec spec;
-        spec.channels = {{"BY", Imf::HALF, {2, 2}},
-                         {"R"},
-                         {"RY", Imf::HALF, {2, 2}},
-                         {"Y"},
-                         {"rows", Imf::HALF, {1, 2}}};
+        spec.channels = {
+            {"BY", Imf::HALF, {2, 2}}, {"R"}, {"RY", Imf::HALF, {2, 2}}, {"Y"}, {"rows", Imf::HALF, {1, 2}}};
         // The last column and row of the display window, and its first, have no chroma of their own.
         spec.display = {{-3, 1}, {37, 28}};
         for (const auto &[data, compression] :

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <client_lib/tchunk.h>
+#include <client_lib/tjob.h>
 
 #include <ImfChannelList.h>
 #include <ImfFrameBuffer.h>
@@ -43,4 +44,14 @@ inline TClientLib::TChunk chunkOf(int id, int first, int last)
     chunk.setJobId(42);
     chunk.setFrames(first, last, 1);
     return chunk;
+}
+
+/// The job of those chunks.
+inline TClientLib::TJob jobOf(int first, int last)
+{
+    TClientLib::TJob job;
+    job.setJobId(42);
+    job.setName("shot");
+    job.setFrameRanges({{first, last, 1}});
+    return job;
 }
