@@ -27,6 +27,7 @@ constexpr QSize kView(1920, 1080);
 constexpr int kPlanes = 4;
 constexpr int kRounds = 100;
 constexpr double kPaintPromise = 1.2;
+constexpr double kFirstPaintPromise = 8.0;
 constexpr double kUploadPromise = 1.15;
 
 [[noreturn]] void fail(const char *what)
@@ -256,11 +257,33 @@ void compareAtItsOwnPixels(imageWidget &picture, ImageFrame &frame, BarePicture 
     comparePaint("paint, ms, frame at twice its size, to the bare quad", picture, bare);
 }
 
+/// A frame that is shown for the first time is made smaller first, as each is in playback.
+void compareFirstPaint(imageWidget &picture, ImageFrame &frame, BarePicture &bare)
+{
+    picture.makeCurrent();
+    QOpenGLFramebufferObject target(picture.viewSize());
+    printRatio(
+        "paint, ms, 4096 x 2160 fitted for the first time, to its bare upload",
+        [&] {
+            picture.deleteTextures(frame);
+            picture.uploadTextures(frame);
+            return processMilliseconds([&] { paint(picture, target); });
+        },
+        [&bare] {
+            bare.enter();
+            bare.removeTextures();
+            return processMilliseconds([&bare] { bare.upload(); });
+        },
+        kFirstPaintPromise, kRounds);
+    picture.makeCurrent();
+}
+
 void compareFitted(imageWidget &picture, ImageFrame &frame, BarePicture &bare)
 {
     picture.setHudOn(false);
     picture.setZoomFactor(float(picture.viewSize().width()) / float(frame.planeSizes.front().width));
     comparePaint("paint, ms, 4096 x 2160 fitted, to the bare quad", picture, bare);
+    compareFirstPaint(picture, frame, bare);
 }
 
 } // namespace

@@ -59,7 +59,7 @@ vec4 texelAt(vec2 place)
     return planes;
 }
 
-#if defined(MAGNIFIED) || defined(REDUCED)
+#if defined(MAGNIFIED)
 uniform vec2 frameSize;
 
 // A transparent texel has no colour to give to its neighbours.
@@ -89,9 +89,6 @@ vec4 averageOf(Sum sum)
 {
     return vec4(sum.covered > 0.0 ? sum.rgb / sum.covered : vec3(0.0), sum.alpha / sum.weight);
 }
-#endif
-
-#if defined(MAGNIFIED)
 bool isFinite(vec4 texel)
 {
     return abs(texel.r) + abs(texel.g) + abs(texel.b) + abs(texel.a) <= kMost;
@@ -119,22 +116,6 @@ vec4 texel()
     add(sum, finite(texels[2]), isFinite(texels[2]) ? weights.z : 0.0);
     add(sum, finite(texels[3]), isFinite(texels[3]) ? weights.w : 0.0);
     return isFinite(nearest) ? averageOf(sum) : finite(nearest);
-}
-#elif defined(REDUCED)
-uniform vec2 pixelSize;
-uniform int taps;
-
-// The mean of the texels that a pixel covers.
-vec4 texel()
-{
-    vec2 step = pixelSize / float(taps);
-    vec2 place = fragTexCoord - 0.5 * (pixelSize - step);
-    Sum sum = Sum(vec3(0.0), 0.0, 0.0, 0.0);
-    for (int y = 0; y < taps; ++y) {
-        for (int x = 0; x < taps; ++x)
-            add(sum, finite(texelAt(place + step * vec2(x, y))), 1.0);
-    }
-    return averageOf(sum);
 }
 #else
 vec4 texel()

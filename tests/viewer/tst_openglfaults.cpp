@@ -28,7 +28,6 @@ private Q_SLOTS:
     void contextThatDiesIsReplaced()
     {
         imageWidget &picture = openOnScreen();
-        const QImage before = onScreen(picture);
         // As after a driver's reset, whatever is asked of the context fails.
         QOpenGLContext *context = picture.context();
         using Destroy = void (*)(void *, void *);
@@ -40,13 +39,12 @@ private Q_SLOTS:
         picture.setBackgroundColor(Qt::green);
         QTRY_COMPARE(onScreen(picture).pixelColor(1, 1), QColor(Qt::green));
         picture.setBackgroundColor(Qt::black);
-        QTRY_COMPARE(onScreen(picture), before);
+        QTRY_VERIFY(isShown(picture));
     }
 
     void windowDestroyedFromOutsideIsReplaced()
     {
         imageWidget &picture = openOnScreen();
-        const QImage before = onScreen(picture);
         QWindow *drawnOn = nullptr;
         for (QWindow *window : QGuiApplication::allWindows())
             drawnOn = window->surfaceType() == QSurface::OpenGLSurface ? window : drawnOn;
@@ -55,7 +53,7 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, "The window of the picture is gone: it is made anew");
         QProcess::execute(u"xdotool"_s, {u"windowclose"_s, QString::number(taken)});
         QTRY_VERIFY(drawnOn->winId() != taken);
-        QTRY_COMPARE(onScreen(picture), before);
+        QTRY_VERIFY(isShown(picture));
     }
 
 private:
@@ -64,14 +62,20 @@ private:
         return picture.screen()->grabWindow().toImage().copy({picture.mapToGlobal(QPoint()), picture.size()});
     }
 
+    /// True when the frame and its border are on the screen.
+    static bool isShown(imageWidget &picture)
+    {
+        const QImage screen = onScreen(picture);
+        return screen.pixelColor(picture.rect().center()).name() == u"#ba88ff"_s
+            && screen == picture.grabFramebuffer().convertToFormat(screen.format());
+    }
+
     /// The picture, once it is there to be seen.
     imageWidget &openOnScreen()
     {
         imageWidget &picture = open(u"shot.0003.exr"_s)->picture();
-        const auto isShown = [&] {
-            return onScreen(picture).pixelColor(picture.rect().center()).name() == u"#ba88ff"_s;
-        };
-        if (!QTest::qWaitFor(isShown))
+        picture.setHudOn(false); // drawn by the toolkit, which is not the same in a buffer
+        if (!QTest::qWaitFor([&] { return isShown(picture); }))
             qWarning("the frame is not on the screen");
         return picture;
     }

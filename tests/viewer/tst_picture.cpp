@@ -255,6 +255,31 @@ private Q_SLOTS:
         }
     }
 
+    /// Fine lines that single texels would show or miss are grey in a picture that is far smaller.
+    void reducedPicturesShowTheMean()
+    {
+        m_picture->setCheckerOn(false);
+        m_picture->setCalibration({.softClip = 0.01F});
+        m_picture->setZoomFactor(0.2F);
+        for (int first = 0; first < 5; ++first) {
+            const float lit = first % 2 == 0 ? 1.0F : 0.5F;
+            const auto shown = show(flagged(), QSize(200, 50), [first, lit](ImageFrame &frame) {
+                auto *pixels = static_cast<float *>(const_cast<void *>(frame.planes[0]));
+                for (int i = 0; i < 200 * 50; ++i)
+                    std::fill_n(pixels + 4 * std::ptrdiff_t(i), 4, i % 5 == first ? lit : 0.0F);
+            });
+            const QPoint middle = m_picture->rect().center();
+            const auto isGrey = [&](const QImage &picture) {
+                bool grey = true;
+                for (int x = -15; x <= 15; ++x)
+                    grey = grey && qRed(picture.pixel(middle + QPoint(x, 0))) == qRound(51.0F * lit * lit);
+                return grey;
+            };
+            QTRY_VERIFY(isGrey(onScreen()));
+            QVERIFY(isGrey(m_picture->grabFramebuffer()));
+        }
+    }
+
     void unusableFrames_data()
     {
         addTable<Spoiling, std::size_t>(
@@ -314,10 +339,6 @@ private Q_SLOTS:
 
     void texturesOutliveFullScreen()
     {
-        const auto onScreen = [this] {
-            return m_picture->screen()->grabWindow().toImage().copy(
-                {m_picture->mapToGlobal(QPoint()), m_picture->size()});
-        };
         const auto shown = show(stored(GL_R16F, GL_HALF_FLOAT, 1, 4), kFrame);
         const auto names = shown->frame.textureNames;
         QTRY_COMPARE(difference(onScreen(), {{}, kPlace.size()}, shown.get()), QString());
@@ -449,6 +470,12 @@ private Q_SLOTS:
     }
 
 private:
+    QImage onScreen() const
+    {
+        return m_picture->screen()->grabWindow().toImage().copy(
+            {m_picture->mapToGlobal(QPoint()), m_picture->size()});
+    }
+
     std::unique_ptr<PictureFrame> show(ImageFrame form, QSize size, const Spoiling &spoil = {})
     {
         form.filePath = "A.exr";

@@ -43,6 +43,7 @@ struct ImageFrame {
     std::int32_t textureCount = 0; ///< 1, 3 or 4
     std::vector<std::uint32_t> textureNames; ///< empty unless uploaded
     std::uint32_t textureOwner = 0; ///< the display's context that has them; names of another mean nothing
+    std::uint64_t uploadNumber = 0; ///< another for each upload of any frame
     Refusal refusal = Refusal::None; ///< what came of the last upload
     std::vector<const void *> planes; ///< into the library's image; empty once that is released
     std::vector<std::vector<std::byte>>

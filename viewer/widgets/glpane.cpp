@@ -156,7 +156,9 @@ void GlPane::present()
 {
     if (!m_window->isExposed() || !makeCurrent())
         return;
+    m_presenting = true;
     paintGL();
+    m_presenting = false;
     m_context->swapBuffers(m_window);
     Q_EMIT frameSwapped();
 }

@@ -52,6 +52,8 @@ protected:
     virtual void contextLost() = 0;
     /// Draws into an image of this size, opaque or with the alpha that is drawn; null without a usable context.
     QImage drawn(QSize pixels, const std::function<void()> &draw, bool withAlpha = false);
+    /// True while what is drawn goes to the screen.
+    bool isPresenting() const { return m_presenting; }
     /// Ends the context and all drawing; for the derived class's destructor, once what it made is gone.
     void endContext();
 
@@ -81,4 +83,5 @@ private:
     bool m_failed = false;
     bool m_wasExposed = false; // the window within, since it was made
     bool m_updatePosted = false;
+    bool m_presenting = false;
 };

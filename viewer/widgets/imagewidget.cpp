@@ -12,11 +12,13 @@
 #include <QtWidgets/QApplication>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <utility>
 
 namespace {
 
+constexpr std::chrono::milliseconds kStillness{100};
 constexpr int kNotch = QWheelEvent::DefaultDeltasPerStep;
 constexpr int kMostNotches = 10; // in one event
 
@@ -30,7 +32,11 @@ bool hasFloatTextures(const QOpenGLContext &context)
 
 imageWidget::imageWidget(QWidget *parent)
     : GlPane(parent)
-{ }
+{
+    m_stillness.setSingleShot(true);
+    m_stillness.setInterval(kStillness);
+    connect(&m_stillness, &QTimer::timeout, this, &imageWidget::refine);
+}
 
 imageWidget::~imageWidget()
 {
@@ -218,8 +224,11 @@ void imageWidget::contextLost()
 void imageWidget::paintGL()
 {
     const ViewGeometry view = viewGeometry();
-    const PictureRenderer::Scene scene{m_frame, view, m_look};
+    const bool inHaste = isPresenting() && !std::exchange(m_isStill, false);
+    const PictureRenderer::Scene scene{m_frame, view, m_look, inHaste};
     m_renderer->drawPicture(scene);
+    if (m_renderer->isHasty())
+        m_stillness.start();
     m_renderer->drawBorder(scene);
     if (!m_frame || !m_look.hudOn)
         return;
@@ -228,6 +237,12 @@ void imageWidget::paintGL()
         m_hudLines = hudLines(*m_frame, m_hudWidth - 2 * kHudMargin);
     }
     m_renderer->drawHud(scene, m_hudLines, devicePixelRatio());
+}
+
+void imageWidget::refine()
+{
+    m_isStill = true;
+    update();
 }
 
 bool imageWidget::event(QEvent *event)

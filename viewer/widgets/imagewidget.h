@@ -7,6 +7,7 @@
 #include <viewer/widgets/render/viewgeometry.h>
 
 #include <QtCore/QStringList>
+#include <QtCore/QTimer>
 #include <QtGui/QImage>
 
 #include <memory>
@@ -88,11 +89,16 @@ private:
     QPoint devicePosition(const QMouseEvent &event) const;
     void stopPanning();
 
+    /// Draws again what was drawn in haste.
+    void refine();
+
     std::unique_ptr<PictureRenderer> m_renderer; ///< while there is a context
     ImageFrame *m_frame = nullptr;
     QStringList m_hudLines; ///< of the frame; empty until they are painted
     int m_hudWidth = 0; ///< of the view that they fit
     PictureLook m_look;
+    QTimer m_stillness; ///< ends when nothing has been drawn for a while
+    bool m_isStill = false; ///< for the next paint
     float m_zoom = 1.0F;
     QPoint m_pan;
     bool m_floatTexturesUsable = false;

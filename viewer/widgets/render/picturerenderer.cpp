@@ -42,6 +42,9 @@ PictureRenderer::PictureRenderer(const GlContext &context)
 void PictureRenderer::drawPicture(const Scene &scene)
 {
     const ViewGeometry &geometry = scene.geometry;
+    const bool hasPicture = scene.frame && m_textures.has(*scene.frame);
+    m_hasty = false;
+    const ImageFrame *frame = hasPicture ? &reduced(scene) : nullptr;
     m_gl.glViewport(0, 0, geometry.view.width(), geometry.view.height());
     m_gl.glDisable(GL_BLEND);
     m_gl.glClearColor(scene.look.background.redF(), scene.look.background.greenF(),
@@ -52,8 +55,8 @@ void PictureRenderer::drawPicture(const Scene &scene)
     const QuadVertices quad = quadVertices(geometry.quad());
     if (scene.look.checkerOn)
         drawChecker(scene, matrix, quad);
-    if (scene.frame && m_textures.has(*scene.frame))
-        drawFrame(scene, matrix, quad);
+    if (frame)
+        drawFrame({frame, geometry, scene.look}, matrix, quad);
 }
 
 void PictureRenderer::drawBorder(const Scene &scene)
@@ -109,35 +112,38 @@ void PictureRenderer::drawFrame(const Scene &scene, const QMatrix4x4 &matrix, co
         return;
     if (scene.look.alphaOn)
         enableBlending();
-    const auto bindTextures = [this, &names = scene.frame->textureNames](bool bound) {
-        // The first unit comes last and stays the active one.
-        for (std::size_t unit = names.size(); unit-- > 0;) {
-            m_gl.glActiveTexture(GL_TEXTURE0 + static_cast<GLenum>(unit));
-            m_gl.glBindTexture(GL_TEXTURE_2D, bound ? names[unit] : 0);
-        }
-    };
-    bindTextures(true);
+    const TextureBinding textures(m_gl, *scene.frame);
     program.setMatrix(matrix);
     program.setUniforms(scene.look, *scene.frame);
     if (&program != &m_picture)
-        program.setSizes(sizeOf(*scene.frame), scene.geometry.displayedSize());
+        program.setSize(sizeOf(*scene.frame));
     m_pictureVertices.draw(GL_TRIANGLES, quad.data(), (scene.frame->yFlipped ? kTopDown : kBottomUp).data());
-    bindTextures(false);
     m_gl.glDisable(GL_BLEND);
     program.release();
 }
 
 PictureProgram &PictureRenderer::programFor(const Scene &scene)
 {
+    if (scene.geometry.displayedSize() == sizeOf(*scene.frame) || !havePlanesOneSize(*scene.frame))
+        return m_picture;
+    if (!m_magnified)
+        m_magnified.emplace(m_context, Sampling::Magnified);
+    return m_magnified->isBuilt() ? *m_magnified : m_picture;
+}
+
+const ImageFrame &PictureRenderer::reduced(const Scene &scene)
+{
     const QSize size = sizeOf(*scene.frame);
     const QSize displayed = scene.geometry.displayedSize();
-    if (displayed == size || !havePlanesOneSize(*scene.frame))
-        return m_picture;
-    const bool reduced = displayed.width() * 2 < size.width() && displayed.height() * 2 < size.height();
-    std::optional<PictureProgram> &program = reduced ? m_reduced : m_magnified;
-    if (!program)
-        program.emplace(m_context, reduced ? Sampling::Reduced : Sampling::Magnified);
-    return program->isBuilt() ? *program : m_picture;
+    if (displayed.width() * 2 >= size.width() || displayed.height() * 2 >= size.height()
+        || !havePlanesOneSize(*scene.frame))
+        return *scene.frame;
+    if (!m_reduced)
+        m_reduced.emplace(m_context);
+    const ReducedPicture::Wanted wanted{*scene.frame, displayed, scene.look.alphaOn};
+    m_hasty = scene.inHaste && !m_reduced->isQuick(wanted);
+    const ImageFrame *smaller = m_hasty ? nullptr : m_reduced->of(wanted);
+    return smaller ? *smaller : *scene.frame;
 }
 
 void PictureRenderer::enableBlending()

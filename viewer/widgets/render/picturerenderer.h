@@ -3,6 +3,7 @@
 #include "hud.h"
 #include "hudoverlay.h"
 #include "picturelook.h"
+#include "reducedpicture.h"
 #include "shaderprograms.h"
 #include "textures.h"
 #include "vertexset.h"
@@ -24,6 +25,7 @@ public:
         const ImageFrame *frame; ///< may be null
         const ViewGeometry &geometry;
         const PictureLook &look;
+        bool inHaste = false; ///< better at once than as well as can be
     };
 
     explicit PictureRenderer(const GlContext &context);
@@ -34,12 +36,16 @@ public:
 
     /// Draws background, checker and frame.
     void drawPicture(const Scene &scene);
+    /// True when the last picture was drawn in haste and would look better drawn again.
+    bool isHasty() const { return m_hasty; }
     void drawBorder(const Scene &scene);
     /// Draws the lines on the picture on a core context, at their place in the view on another.
     void drawHud(const Scene &scene, const QStringList &lines, qreal devicePixelRatio);
 
 private:
     PictureProgram &programFor(const Scene &scene);
+    /// Gives a smaller frame to draw in place of the scene's, or that one.
+    const ImageFrame &reduced(const Scene &scene);
     void drawChecker(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad);
     void drawFrame(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad);
     void enableBlending();
@@ -50,7 +56,7 @@ private:
     const GlContext m_context;
     PictureProgram m_picture;
     std::optional<PictureProgram> m_magnified; ///< made when one is first wanted, as the next
-    std::optional<PictureProgram> m_reduced;
+    std::optional<ReducedPicture> m_reduced;
     BorderProgram m_border;
     CheckerProgram m_checker;
     VertexSet m_pictureVertices;
@@ -61,4 +67,5 @@ private:
     HudText m_hudText;
     bool m_wideLines;
     bool m_usable;
+    bool m_hasty = false;
 };

@@ -46,18 +46,6 @@ QByteArray source(const QByteArray &prologue, const char *name)
     return file.open(QIODevice::ReadOnly) ? prologue + file.readAll() : QByteArray();
 }
 
-const char *definesOf(Sampling sampling)
-{
-    switch (sampling) {
-    case Sampling::Magnified:
-        return "#define MAGNIFIED\n";
-    case Sampling::Reduced:
-        return "#define REDUCED\n";
-    default:
-        return "";
-    }
-}
-
 } // namespace
 
 ShaderProgram::ShaderProgram(const Sources &sources, const GlContext &context)
@@ -90,7 +78,9 @@ ShaderProgram::ShaderProgram(const Sources &sources, const GlContext &context)
 }
 
 PictureProgram::PictureProgram(const GlContext &context, Sampling sampling)
-    : ShaderProgram({"Program", "picture.vert.glsl", "picture.frag.glsl", definesOf(sampling)}, context)
+    : ShaderProgram({"Program", "picture.vert.glsl", "picture.frag.glsl",
+                     sampling == Sampling::Magnified ? "#define MAGNIFIED\n" : ""},
+                    context)
     , m_textureCount(location("numOfTextures"))
     , m_redChannelOnly(location("redChannelOnly"))
     , m_isYCbCr(location("isYCbCr"))
@@ -108,8 +98,11 @@ PictureProgram::PictureProgram(const GlContext &context, Sampling sampling)
     , m_levelOutputMax(location("levelOutputMax"))
     , m_softClip(location("softClip"))
     , m_frameSize(location("frameSize"))
-    , m_pixelSize(location("pixelSize"))
-    , m_taps(location("taps"))
+{
+    setUnits();
+}
+
+void ShaderProgram::setUnits()
 {
     if (!bind())
         return;
@@ -152,11 +145,26 @@ void PictureProgram::setUniforms(const PictureLook &look, const ImageFrame &fram
     m_program.setUniformValue(m_softClip, calibration.softClip);
 }
 
-void PictureProgram::setSizes(QSize frame, QSize displayed)
+void PictureProgram::setSize(QSize frame)
 {
-    const double across = double(frame.width()) / std::max(displayed.width(), 1);
-    const double down = double(frame.height()) / std::max(displayed.height(), 1);
     m_program.setUniformValue(m_frameSize, QSizeF(frame));
+}
+
+ReducingProgram::ReducingProgram(const GlContext &context, int textureCount, bool weighted)
+    : ShaderProgram({"Reduction", "picture.vert.glsl", "reduced.frag.glsl",
+                     "#define PLANES " + QByteArray::number(textureCount) + '\n'
+                         + (weighted ? "#define WEIGHTED\n" : "")},
+                    context)
+    , m_pixelSize(location("pixelSize"))
+    , m_taps(location("taps"))
+{
+    setUnits();
+}
+
+void ReducingProgram::setSizes(QSize frame, QSize reduced)
+{
+    const double across = double(frame.width()) / std::max(reduced.width(), 1);
+    const double down = double(frame.height()) / std::max(reduced.height(), 1);
     m_program.setUniformValue(m_pixelSize, QSizeF(across / frame.width(), down / frame.height()));
     m_program.setUniformValue(m_taps,
                               static_cast<GLint>(std::ceil(std::min(std::max(across, down), kMostTaps))));

@@ -3,6 +3,7 @@
 #include "calibration.h"
 #include "glcontext.h"
 
+#include <QtCore/QByteArray>
 #include <QtOpenGL/QOpenGLShaderProgram>
 
 #include <optional>
@@ -17,7 +18,7 @@ public:
         const char *name; ///< begins each line of its log
         const char *vertex; ///< files in the resources
         const char *fragment;
-        const char *defines = ""; ///< of the fragment shader
+        QByteArray defines = {}; ///< of the fragment shader
     };
 
     ShaderProgram(const Sources &sources, const GlContext &context);
@@ -34,6 +35,8 @@ public:
 protected:
     /// -1 in a program that is not built.
     int location(const char *uniform) const { return m_built ? m_program.uniformLocation(uniform) : -1; }
+    /// Gives each texture unit its sampler.
+    void setUnits();
 
     QOpenGLShaderProgram m_program;
 
@@ -51,7 +54,6 @@ struct ImageFrame;
 enum class Sampling {
     Direct, ///< what the texture gives at its middle
     Magnified, ///< a mix of the four texels around it
-    Reduced, ///< the mean of the texels that it covers
 };
 
 /// Samples the frame's textures, puts the calibration to them and shows the channels that were chosen.
@@ -61,8 +63,8 @@ public:
 
     /// Hands over what has changed since the last call; the program is bound.
     void setUniforms(const PictureLook &look, const ImageFrame &frame);
-    /// Says how large the frame is and how large it is shown, in pixels, for all but direct sampling; the program is bound.
-    void setSizes(QSize frame, QSize displayed);
+    /// Says how large the frame is, for all but direct sampling; the program is bound.
+    void setSize(QSize frame);
 
 private:
     struct Values {
@@ -96,6 +98,18 @@ private:
     int m_levelOutputMax;
     int m_softClip;
     int m_frameSize;
+};
+
+/// Gives each pixel the mean of the texels that it covers.
+class ReducingProgram final : public ShaderProgram {
+public:
+    /// For frames of so many textures; weighted, a texel's colour counts as its alpha does.
+    ReducingProgram(const GlContext &context, int textureCount, bool weighted);
+
+    /// Says how large the frame is and how large it gets; the program is bound.
+    void setSizes(QSize frame, QSize reduced);
+
+private:
     int m_pixelSize;
     int m_taps;
 };

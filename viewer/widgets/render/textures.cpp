@@ -13,6 +13,7 @@ namespace {
 
 int liveTextures = 0;
 std::uint32_t lastId = 0;
+std::uint64_t uploads = 0;
 
 constexpr std::array<GLenum, 5> kRgbFormats = {GL_RGB, GL_RGB32F, GL_RGB16F, GL_RGB32UI, GL_RGB16UI};
 constexpr std::array<GLenum, 6> kLuminanceFormats = {GL_LUMINANCE, GL_R8,    GL_R16F,
@@ -61,6 +62,27 @@ bool havePlanesOneSize(const ImageFrame &frame)
     return std::adjacent_find(sizes.begin(), sizes.end(), std::not_equal_to<>()) == sizes.end();
 }
 
+TextureBinding::TextureBinding(QOpenGLFunctions &gl, const ImageFrame &frame)
+    : m_gl(gl)
+    , m_frame(frame)
+{
+    bind(true);
+}
+
+TextureBinding::~TextureBinding()
+{
+    bind(false);
+}
+
+void TextureBinding::bind(bool bound)
+{
+    // The first unit comes last and stays the active one.
+    for (std::size_t unit = m_frame.textureNames.size(); unit-- > 0;) {
+        m_gl.glActiveTexture(GL_TEXTURE0 + static_cast<GLenum>(unit));
+        m_gl.glBindTexture(GL_TEXTURE_2D, bound ? m_frame.textureNames[unit] : 0);
+    }
+}
+
 struct Textures::Image {
     GLenum internalFormat = GL_RGBA;
     GLenum dataFormat = GL_RGBA;
@@ -92,6 +114,7 @@ void Textures::upload(ImageFrame &frame)
         return;
     }
     frame.textureOwner = m_id;
+    frame.uploadNumber = ++uploads;
     const GLenum dataFormat = pixelDataFormat(frame.internalFormat);
     const GLint filter = havePlanesOneSize(frame) ? GL_NEAREST : GL_LINEAR;
     takeError();

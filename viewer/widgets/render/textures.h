@@ -13,6 +13,21 @@ GLenum pixelDataFormat(GLenum internalFormat);
 /// others mix theirs.
 bool havePlanesOneSize(const ImageFrame &frame);
 
+/// Binds a frame's textures to the first units for as long as it stands.
+class TextureBinding final {
+    Q_DISABLE_COPY_MOVE(TextureBinding)
+
+public:
+    TextureBinding(QOpenGLFunctions &gl, const ImageFrame &frame);
+    ~TextureBinding();
+
+private:
+    void bind(bool bound);
+
+    QOpenGLFunctions &m_gl;
+    const ImageFrame &m_frame;
+};
+
 /// Makes, fills and deletes textures, each through here, so that they can be counted; the context is current.
 class Textures final {
     Q_DISABLE_COPY_MOVE(Textures)
