@@ -6,6 +6,7 @@
 #include <notify/settings/settings.h>
 #include <system/tcpconnection.h>
 
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtCore/QtEndian>
@@ -26,7 +27,8 @@ constexpr qint64 kReadAhead = qint64(512) * 1024;
 constexpr qint64 kWriteAhead = qint64(64) * 1024;
 constexpr auto kHeartbeatCheck = std::chrono::seconds(5);
 // For how long a queue that is full waits for a connection that is merely slower than a burst.
-constexpr auto kPatience = std::chrono::milliseconds(500);
+constexpr auto kPatience = std::chrono::milliseconds(1000);
+constexpr auto kPause = std::chrono::milliseconds(250); // in which a Dispatcher that reads takes something
 
 constexpr TcpConnection::Watch kWatch{std::chrono::seconds(60), std::chrono::seconds(15), 4,
                                       std::chrono::seconds(120)};
@@ -56,6 +58,7 @@ QLWTCPSocket::QLWTCPSocket(QObject *parent)
     , m_maxSendSize(kBufferLimit)
     , m_heartbeatResolution(loadHeartbeatResolution())
     , m_clock(&QDateTime::currentDateTime)
+    , m_patience(kPatience)
 {
     m_receiveBuffer.reserve(kBufferLimit);
     m_sendBuffer.reserve(kBufferLimit);
@@ -83,6 +86,9 @@ QLWTCPSocket::~QLWTCPSocket()
 bool QLWTCPSocket::sendMessage(uint command, const QByteArray &payload, uint param)
 {
     if (const qsizetype size = MessageHeader::kSize + payload.size(); !fits(size) && !makeRoom(size)) {
+        const bool isOnlySlow = state() == ConnectedState && !m_isStalled;
+        if (isOnlySlow && size <= m_maxSendSize)
+            return false;
         Q_EMIT sendBufferOverflow();
         using Kind = LinkTrouble::Kind;
         emptyBuffers({size > m_maxSendSize ? Kind::Oversized : Kind::NotRead, {}, {}, {}});
@@ -120,12 +126,28 @@ bool QLWTCPSocket::makeRoom(qsizetype messageSize)
         flush();
         if (waiting() < before)
             continue;
-        // Not the toolkit's own wait: that reads as well, and would call a template from within itself.
-        m_isStalled = m_isStalled || !TcpConnection::WaitUntilWritable(socketDescriptor(), kPatience);
-        if (m_isStalled)
+        if (!awaitRoom())
             break;
     }
     return fits(messageSize);
+}
+
+bool QLWTCPSocket::awaitRoom()
+{
+    if (m_isStalled || m_patience < kPause)
+        return false;
+    if (m_patience == kPatience)
+        QMetaObject::invokeMethod(
+            this, [this] { m_patience = kPatience; }, Qt::QueuedConnection);
+    QElapsedTimer timer;
+    timer.start();
+    const std::int64_t before = TcpConnection::Unacknowledged(socketDescriptor());
+    // Not the toolkit's own wait: that reads as well, and would call a template from within itself.
+    const bool hasRoom = TcpConnection::WaitUntilWritable(socketDescriptor(), kPause);
+    m_patience -= std::chrono::milliseconds(timer.elapsed());
+    const bool reads = before >= 0 && TcpConnection::Unacknowledged(socketDescriptor()) < before;
+    m_isStalled = !hasRoom && !reads;
+    return !m_isStalled;
 }
 
 void QLWTCPSocket::writeQueued()

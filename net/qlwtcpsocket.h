@@ -8,6 +8,7 @@
 #include <QtCore/QDateTime>
 #include <QtNetwork/QTcpSocket>
 
+#include <chrono>
 #include <functional>
 
 class QTimer;
@@ -32,8 +33,9 @@ public:
 
     bool hasMessage() const { return m_receiveBuffer.next() != MessageReader::Next::NeedMore; }
 
-    /// Queues a message and writes what the connection takes now. Where the queue is full, the connection gets half a
-    /// second to take some of it; false when it took too little, which empties both buffers.
+    /// Queues a message and writes what the connection takes now. Where the queue is full, the connection gets a
+    /// second in each turn of the event loop to take some of it. False when it took too little; that empties both buffers,
+    /// unless the other end reads and is only slow.
     bool sendMessage(uint command, const QByteArray &payload, uint param);
     /// Queues a message in front of all that waits, however full the queue is: the log-in must be the first on a connection.
     void sendFirst(uint command, const QByteArray &payload, uint param);
@@ -75,6 +77,8 @@ private:
     void sendQueued();
     bool fits(qsizetype messageSize) const;
     bool makeRoom(qsizetype messageSize);
+    /// Waits until the connection takes more; false when it does not in what is left of the time for that.
+    bool awaitRoom();
     void writeQueued();
     bool inflateMessage(const RawMessage &message, QByteArray *data);
     void breakStream(const char *why);
@@ -92,7 +96,8 @@ private:
     Clock m_clock;
     TroubleHandler m_troubleHandler;
     bool m_isDispatcher = false; // a whole message came over this connection
-    bool m_isStalled = false; // the connection takes no more; not waited for again until it does
+    bool m_isStalled = false; // the other end does not read; not waited for again until it does
+    std::chrono::milliseconds m_patience; // left in this turn of the event loop
     bool m_reading = false;
     bool m_retired = false;
 };

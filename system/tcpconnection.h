@@ -21,4 +21,7 @@ void SetWatch(std::intptr_t descriptor, const Watch &watch);
 /// Waits until the system takes more bytes to send; false when it took none in this time.
 bool WaitUntilWritable(std::intptr_t descriptor, std::chrono::milliseconds time);
 
+/// Gives how many bytes the other end has not acknowledged yet; -1 where the system does not tell.
+std::int64_t Unacknowledged(std::intptr_t descriptor);
+
 } // namespace TcpConnection

@@ -3,6 +3,7 @@
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <poll.h>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 
 namespace {
@@ -40,4 +41,10 @@ bool TcpConnection::WaitUntilWritable(std::intptr_t descriptor, std::chrono::mil
 {
     pollfd waiting{int(descriptor), POLLOUT, 0};
     return poll(&waiting, 1, int(time.count())) > 0 && (waiting.revents & POLLOUT) != 0;
+}
+
+std::int64_t TcpConnection::Unacknowledged(std::intptr_t descriptor)
+{
+    int bytes = 0;
+    return ioctl(int(descriptor), TIOCOUTQ, &bytes) == 0 ? bytes : -1;
 }

@@ -35,3 +35,8 @@ bool TcpConnection::WaitUntilWritable(std::intptr_t descriptor, std::chrono::mil
     WSAPOLLFD waiting{static_cast<SOCKET>(descriptor), POLLOUT, 0};
     return WSAPoll(&waiting, 1, static_cast<INT>(time.count())) > 0 && (waiting.revents & POLLOUT) != 0;
 }
+
+std::int64_t TcpConnection::Unacknowledged(std::intptr_t)
+{
+    return -1;
+}
