@@ -122,7 +122,7 @@ place_viewer() {
 
 close_viewer() {
     xdotool windowfocus --sync "$window" key alt+F4
-    wait_for 10 "the viewer to close" has_windows 2
+    wait_for 10 "the viewer to close" has_windows 1
 }
 
 # open_frames ROW: of the event in that row of the list.
@@ -136,7 +136,25 @@ open_frames() {
     xdotool key Menu
     wait_for 10 "the list's menu" has_windows 3
     xdotool key f
+    wait_for 20 "a viewer" viewer_windows
+    hide_list
     place_viewer
+}
+
+list_hidden() {
+    ! xdotool search --onlyvisible --name '^Tarrow Alertor$' >/dev/null
+}
+
+# The list stays on top of all others.
+hide_list() {
+    xdotool search --onlyvisible --name '^Tarrow Alertor$' windowfocus --sync key Escape
+    wait_for 10 "the list to hide" list_hidden
+}
+
+# From the open tray menu.
+show_list() {
+    xdotool key r
+    wait_for 10 "the window" xdotool search --onlyvisible --name '^Tarrow Alertor$'
 }
 
 # steps_to_gap FOLDER FIRST: from the first frame of a chunk to the one that its renderer never wrote.
@@ -164,6 +182,8 @@ take_viewer_pictures() {
     xdotool key Escape
     close_viewer
 
+    open_tray_menu 1
+    show_list
     row=$(list_row '^Frames .* failed')
     first=$(expr "$row" : '.*Frames \([0-9]*\)-')
     name=$(expr "$row" : '.* of \(.*\) failed')
@@ -173,9 +193,6 @@ take_viewer_pictures() {
     picture "$window" viewer-missing-frame
     close_viewer
 
-    # The list stays on top of what is not of its program.
-    xdotool search --onlyvisible --name '^Tarrow Alertor$' windowfocus --sync key Escape
-    wait_for 10 "the list to hide" has_windows 1
     "$bin/tarrow-view" --set contrast=1.5,saturation=1.6,outputGamma=1.2 "$mask" >"$out/view.log" 2>&1 &
     view_pid=$!
     place_viewer
@@ -190,8 +207,7 @@ take_pictures() {
     local window
     open_tray_menu 1
     picture root tray-menu
-    xdotool key r
-    wait_for 10 "the window" xdotool search --onlyvisible --name '^Tarrow Alertor$'
+    show_list
     window=$(xdotool search --onlyvisible --name '^Tarrow Alertor$' | tail -n 1)
     picture root screen
     picture "$window" window

@@ -98,6 +98,13 @@ double greyOf(double luminance)
     return value <= 0.0031308 ? value * 12.92 : 1.055 * std::pow(value, 1.0 / 2.4) - 0.055;
 }
 
+/// Adds the plate of a line. Where lines meet, the plate is one.
+void addPlate(QPainterPath &plate, const QRectF &line)
+{
+    plate.setFillRule(Qt::WindingFill);
+    plate.addRect(line.adjusted(-kHudPadding, -kHudPadding, kHudPadding, kHudPadding));
+}
+
 } // namespace
 
 QColor hudPlate(const QColor &text)
@@ -140,8 +147,15 @@ QImage hudImage(const QStringList &lines, const QColor &color, qreal devicePixel
     if (image.isNull())
         return image;
     image.setDevicePixelRatio(devicePixelRatio);
-    image.fill(hudPlate(color));
+    image.fill(Qt::transparent);
+    QPainterPath plate;
+    const QFontMetricsF metrics(font);
+    for (qsizetype i = 0; i < lines.size(); ++i)
+        addPlate(plate,
+                 {area.left(), area.top() + qreal(i) * metrics.lineSpacing(),
+                  metrics.horizontalAdvance(lines[i]), metrics.height()});
     QPainter painter(&image);
+    painter.fillPath(plate, hudPlate(color));
     painter.setRenderHint(QPainter::TextAntialiasing);
     painter.setFont(font);
     painter.setPen(color);
@@ -164,15 +178,14 @@ void HudText::setLines(const QStringList &lines)
         layout->endLayout();
     }
     for (std::size_t i = 0; i < lineCount(); ++i)
-        m_plate |= m_layouts[i]->lineAt(0).naturalTextRect().translated(placeOf(i));
-    m_plate.adjust(-kHudPadding, -kHudPadding, kHudPadding, kHudPadding);
+        addPlate(m_plate, m_layouts[i]->lineAt(0).naturalTextRect().translated(placeOf(i)));
 }
 
 void HudText::paint(QPainter &painter, const QColor &color) const
 {
     painter.setRenderHint(QPainter::TextAntialiasing);
     painter.setPen(color);
-    painter.fillRect(m_plate, hudPlate(color));
+    painter.fillPath(m_plate, hudPlate(color));
     for (std::size_t i = 0; i < lineCount(); ++i)
         m_layouts[i]->draw(&painter, placeOf(i));
 }

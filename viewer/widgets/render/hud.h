@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QtCore/QRectF>
 #include <QtCore/QStringList>
+#include <QtGui/QPainterPath>
 #include <QtGui/QTextLayout>
 
 #include <memory>
@@ -21,7 +21,7 @@ QStringList hudLines(const ImageFrame &frame, int width = kWholeLines);
 /// Gives what lies between the text and any picture: as much of it as makes the text legible.
 QColor hudPlate(const QColor &text);
 
-/// Paints the lines on a plate that just holds them, in device pixels; no side is longer than the limit.
+/// Paints the lines on a plate that just holds each, in device pixels; no side is longer than the limit.
 QImage hudImage(const QStringList &lines, const QColor &color, qreal devicePixelRatio, int longestSide);
 
 /// Paints the lines at their places in the window, laid out once.
@@ -36,7 +36,7 @@ private:
 
     QStringList m_lines;
     std::vector<std::unique_ptr<QTextLayout>> m_layouts;
-    QRectF m_plate;
+    QPainterPath m_plate; ///< as wide as each line: the picture is what is looked at
 };
 
 /// Distance of the text from the left and top edge of the window, or of the picture, in logical pixels.
