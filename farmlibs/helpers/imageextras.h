@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 /// What the program's own image library tells beyond the interface that a farm's must have; asked where it is there.
@@ -34,6 +35,23 @@ bool isDeep(const Image &image)
         return image.GetIsDeep();
     else
         return false;
+}
+
+/// What a file holds of a channel: bytes per sample, 1 for floating point, samples per pixel.
+struct StoredSamples {
+    std::int32_t depth = 0;
+    std::int32_t type = 0;
+    std::int32_t samples = 0;
+};
+
+/// `channel` is a CTImageChannel; as its plane where the library does not tell.
+template <typename Channel>
+StoredSamples storedSamples(const Channel &channel)
+{
+    if constexpr (requires { channel.GetStoredBitDepth(); })
+        return {channel.GetStoredBitDepth(), channel.GetStoredBitType(), channel.GetStoredBitSamples()};
+    else
+        return {channel.GetChannelBitDepth(), channel.GetChannelBitType(), channel.GetChannelBitSamples()};
 }
 
 } // namespace FarmHelpers

@@ -8,6 +8,13 @@
 
 namespace TImageLibrary {
 
+/// Tells what a file holds where a plane holds something that GL can show in its place.
+struct TStoredSamples {
+    std::int32_t depth = 0; ///< bytes per sample; 0 where the plane holds what the file does
+    bool isFloat = false;
+    std::int32_t samples = 0; ///< per pixel
+};
+
 /// Tells the size of a plane in pixels and what one pixel of it holds.
 struct TPlaneFormat {
     std::int32_t width = 0;
@@ -15,6 +22,7 @@ struct TPlaneFormat {
     std::int32_t depth = 1; ///< bytes per sample: 1, 2 or 4
     bool isFloat = false;
     std::int32_t samples = 1; ///< per pixel, interleaved
+    TStoredSamples stored = {};
 
     std::size_t pixelBytes() const { return std::size_t(depth) * std::size_t(samples); }
     std::size_t rowBytes() const { return pixelBytes() * std::size_t(width); }
@@ -43,6 +51,12 @@ public:
     /// that GL can show every plane.
     std::int32_t GetChannelBitSamples() const { return m_format.samples; }
 
+    /// Give what the file holds: bytes per sample, the bit type and the samples per pixel. An addition to the interface:
+    /// a farm's own library need not have it.
+    std::int32_t GetStoredBitDepth() const { return stored().depth; }
+    std::int32_t GetStoredBitType() const { return stored().isFloat ? 1 : 0; }
+    std::int32_t GetStoredBitSamples() const { return stored().samples; }
+
     const TPlaneFormat &format() const { return m_format; }
     std::byte *data() { return m_data.get(); }
 
@@ -50,6 +64,12 @@ private:
     struct Free {
         void operator()(std::byte *data) const { std::free(data); }
     };
+
+    TStoredSamples stored() const
+    {
+        return m_format.stored.depth > 0 ? m_format.stored
+                                         : TStoredSamples{m_format.depth, m_format.isFloat, m_format.samples};
+    }
 
     std::string m_name;
     TPlaneFormat m_format;

@@ -64,6 +64,8 @@ Shape shapeOf(const ExrFile &file, const ExrChannel &channel, Imf::PixelType typ
     if (shape.columns.count <= 0 || shape.rows.count <= 0)
         throw ImageError(TLoadFailure::Damaged, "no samples in channel " + channel.name);
     shape.format = {shape.columns.count, shape.rows.count, type == Imf::HALF ? 2 : 4, true, 1};
+    if (channel.type == Imf::UINT)
+        shape.format.stored = {sizeof(std::uint32_t), false, 1};
     shape.isCovered = data.intersects(display.min) && data.intersects(display.max);
     return shape;
 }

@@ -29,6 +29,8 @@ bool reportProgress(void *progress, float fraction)
 TPlaneFormat planeFormat(const OIIO::ImageSpec &spec, int samples, bool alone)
 {
     TPlaneFormat format{spec.width, spec.height, 4, true, samples};
+    format.stored = {std::min(std::int32_t(spec.format.basesize()), 4), spec.format.is_floating_point(),
+                     samples};
     switch (spec.format.basetype) {
     case OIIO::TypeDesc::UINT8:
         format.depth = 1;

@@ -135,7 +135,7 @@ CTImageChannel upright(CTImageChannel channel, int orientation)
 CTImageChannel sampleOf(const CTImageChannel &whole, int index, const std::string &name)
 {
     TPlaneFormat format = whole.format();
-    format.samples = 1;
+    format.samples = format.stored.samples = 1;
     CTImageChannel plane(name, format, CTImageChannel::Fill::None);
     const OIIO::ImageBuf pixels = wrapped(whole);
     require(pixels.get_pixels(samples(pixels, index, index + 1), sampleType(format), plane.data()), pixels);

@@ -3,6 +3,7 @@
 
 #include <viewer/calibrationpanel.h>
 #include <viewer/frames/imageframe.h>
+#include <viewer/widgets/render/hud.h>
 
 #include <QtCore/QFile>
 #include <QtGui/QWheelEvent>
@@ -101,6 +102,22 @@ private Q_SLOTS:
         find<QComboBox>("resizeComboBox")->setCurrentIndex(2);
         QCOMPARE(m_viewer->picture().frame()->planeSizes.front(), (PlaneSize{16, 12}));
         QCOMPARE(m_viewer->picture().grabPicture().pixelColor(5, 5).red(), 136); // green alone, in all three
+    }
+
+    void theHudTellsWhatTheFileHolds()
+    {
+        QVERIFY(QImage(kFrame, QImage::Format_RGBX64).save(path(u"short.png"_s)));
+        QVERIFY(QImage(kFrame, QImage::Format_Grayscale16).save(path(u"grey.png"_s)));
+        for (const auto &[file, told] : {std::pair(u"short.png"_s, u"U16|RGB|3|RGB"_s),
+                                         {u"grey.png"_s, u"U16|Luminance|1|Luminance"_s},
+                                         {u"shot.0001.exr"_s, u"F32|R,G,B,A|1|Luminance"_s}}) {
+            open(file);
+            QStringList values;
+            for (const QString &line : hudLines(*m_viewer->picture().frame()))
+                values += line.section(u": "_s, 1);
+            QCOMPARE(values.sliced(3).join(u'|'), told);
+            delete m_viewer;
+        }
     }
 
     void zoomAndLocks()

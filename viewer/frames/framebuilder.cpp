@@ -31,9 +31,11 @@ std::string layoutOf(const CTImageChannel &channel)
 {
     if (!channel.GetChannelName().empty())
         return channel.GetChannelName();
-    switch (channel.GetChannelBitSamples()) {
+    switch (FarmHelpers::storedSamples(channel).samples) {
     case 1:
         return "Luminance";
+    case 2:
+        return "Luminance,A";
     case 3:
         return "RGB";
     default:
@@ -49,6 +51,13 @@ const CTImageChannel *channelOf(const CTImageLayer *layer)
 std::uint32_t pixelTypeOf(const CTImageChannel *channel)
 {
     return channel ? samplePixelType(channel->GetChannelBitDepth(), channel->GetChannelBitType()) : 0;
+}
+
+void setStored(ImageFrame &frame, const CTImageChannel &channel)
+{
+    const FarmHelpers::StoredSamples stored = FarmHelpers::storedSamples(channel);
+    frame.storedComponents = stored.samples;
+    frame.storedPixelType = samplePixelType(stored.depth, stored.type);
 }
 
 } // namespace
@@ -70,6 +79,7 @@ std::unique_ptr<ImageFrame> buildFrame(const CTImage &image, const CompositeLaye
             || pixelTypeOf(channel) != frame->pixelType || !addPlane(*frame, *channel))
             return nullptr;
         frame->internalFormat = multiTextureFormat(channel->GetChannelBitDepth());
+        setStored(*frame, *channel);
     }
     return frame;
 }
@@ -89,6 +99,7 @@ std::unique_ptr<ImageFrame> buildFrame(const CTImage &image, const std::string &
     const std::string &name = channel->GetChannelName();
     frame->channelLayout = layoutOf(*channel);
     frame->components = channel->GetChannelBitSamples();
+    setStored(*frame, *channel);
     frame->pixelType = pixelTypeOf(channel);
     frame->internalFormat =
         singleTextureFormat(channel->GetChannelBitDepth(), channel->GetChannelBitType(), frame->components);

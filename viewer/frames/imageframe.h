@@ -51,6 +51,8 @@ struct ImageFrame {
     std::uint32_t internalFormat = 0;
     std::int32_t components = 0; ///< samples per texel in one plane
     std::uint32_t pixelType = 0; ///< of one sample
+    std::int32_t storedComponents = 0; ///< of the file, which may hold what no texture does
+    std::uint32_t storedPixelType = 0;
     bool inVideoMemory = true; ///< counts against the video-memory budget and keeps its textures
     bool isYCbCr = false;
     bool isDeep = false; ///< flattened from any number of samples in each pixel

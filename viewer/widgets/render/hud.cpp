@@ -1,7 +1,5 @@
 #include "hud.h"
 
-#include "textures.h"
-
 #include <viewer/frames/imageframe.h>
 
 #include <QtCore/QCoreApplication>
@@ -9,6 +7,7 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
+#include <QtGui/qopengl.h>
 
 #include <algorithm>
 #include <array>
@@ -66,14 +65,15 @@ QString pixelFormatLine(GLenum pixelType)
     }
 }
 
-QString bitFormatLine(GLenum internalFormat)
+QString bitFormatLine(int samples)
 {
-    switch (pixelDataFormat(internalFormat)) {
-    case GL_RGB:
+    switch (samples) {
+    case 3:
         return Hud::tr("Bit format: RGB");
-    case GL_RGBA:
+    case 4:
         return Hud::tr("Bit format: RGBA");
-    case GL_LUMINANCE:
+    case 1:
+    case 2: // the second is alpha
         return Hud::tr("Bit format: Luminance");
     default:
         return Hud::tr("Bit format: Unknown");
@@ -126,10 +126,10 @@ QStringList hudLines(const ImageFrame &frame, int width)
                          (frame.isDeep ? Hud::tr("File format: %1, deep") : Hud::tr("File format: %1"))
                              .arg(value(frame.formatName).toUpper()),
                          Hud::tr("Image size: %1x%2").arg(size.width).arg(size.height),
-                         pixelFormatLine(frame.pixelType),
+                         pixelFormatLine(frame.storedPixelType),
                          Hud::tr("Layers: %1").arg(value(frame.channelLayout)),
-                         Hud::tr("Samples per channel: %1").arg(frame.components),
-                         bitFormatLine(frame.internalFormat)};
+                         Hud::tr("Samples per channel: %1").arg(frame.storedComponents),
+                         bitFormatLine(frame.storedComponents)};
     const QFontMetrics metrics(hudFont());
     for (QString &line : lines)
         line = metrics.elidedText(line, Qt::ElideMiddle, width);
