@@ -183,8 +183,9 @@ void DispatcherSession::updateReport()
     m_report = report;
     if (tells) {
         m_told = report;
-        qCInfo(lcNet, "%s@%s:%d: %s%s", qUtf8Printable(report.user), qUtf8Printable(report.address),
-               report.port, inWords(report).constData(), reasonInWords(report).constData());
+        const QString host = report.address.contains(u':') ? u'[' + report.address + u']' : report.address;
+        qCInfo(lcNet, "%s@%s:%d: %s%s", qUtf8Printable(report.user), qUtf8Printable(host), report.port,
+               inWords(report).constData(), reasonInWords(report).constData());
     }
     Q_EMIT reportChanged();
 }
