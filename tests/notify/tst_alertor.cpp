@@ -279,6 +279,15 @@ private Q_SLOTS:
         const QString notConnected = u"Tarrow Alertor (not connected)"_s;
         QCOMPARE(farm.trayWhileConnecting, (QStringList{u":/icons/connectingIcon"_s, notConnected}));
         QTRY_COMPARE(farm.tray(), calm);
+        {
+            CommandLineOverrides overrides;
+            overrides.server = u"nobody.invalid"_s;
+            Alertor searching;
+            searching.setCommandLineOverrides(overrides);
+            searching.loadSettings();
+            searching.checkLocalConnection();
+            QCOMPARE(searching.tray().shownIcon(), u":/icons/connectingIcon"_s);
+        }
         const auto shownInTicks = [&farm](int ticks) {
             QStringList shown;
             for (int tick = 0; tick < ticks; ++tick) {
