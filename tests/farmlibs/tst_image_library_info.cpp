@@ -47,8 +47,8 @@ private Q_SLOTS:
     void text()
     {
         const Result result = run({file("a.exr"), file("a.png")});
-        QCOMPARE(result.status, 0);
         QCOMPARE(result.errors, QByteArray());
+        QCOMPARE(result.status, 0);
         const QByteArrayList lines = result.output.split('\n');
         QCOMPARE(lines.size(), 1 + 10 + 1 + 1 + 1);
         QCOMPARE(lines[0], file("a.exr").toUtf8() + ": exr, 40x30, layers: 10");

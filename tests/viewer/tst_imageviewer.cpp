@@ -301,6 +301,12 @@ private Q_SLOTS:
             QVERIFY(!session().playback().isPlaying());
         }
         QVERIFY(find<QCheckBox>("liveScrubbing")->isChecked());
+        find("fps")->setFocus();
+        QTest::keyClick(find("fps"), Qt::Key_Return);
+        const QWidget *form = QApplication::focusWidget();
+        QVERIFY(form != find("fps"));
+        press(Qt::Key_Tab);
+        QVERIFY(QApplication::focusWidget() != form);
     }
 
     void opensAsItWasLeft()
