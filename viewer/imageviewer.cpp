@@ -267,8 +267,9 @@ bool ImageViewer::eventFilter(QObject *watched, QEvent *event)
     }
     if (event->type() == QEvent::MouseButtonPress && watched == windowHandle())
         leaveField(static_cast<QMouseEvent *>(event)->position().toPoint());
-    const bool taken =
-        event->type() == QEvent::KeyPress && takeKey(watched, static_cast<QKeyEvent *>(event)->key());
+    // What comes to the window within the system goes to the widget with the focus first.
+    const bool taken = event->type() == QEvent::KeyPress && watched->isWidgetType()
+        && takeKey(watched, static_cast<QKeyEvent *>(event)->key());
     return taken || QSkinnedDialog::eventFilter(watched, event);
 }
 

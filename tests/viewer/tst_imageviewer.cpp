@@ -80,6 +80,12 @@ private Q_SLOTS:
         // A field has its keys to itself.
         find("fps")->setFocus();
         QCOMPARE(press(Qt::Key_Left), 2);
+        for (const char *field : {"framesPath", "fps", "currentFrame"}) {
+            find(field)->setFocus();
+            QTest::keyClick(m_viewer->windowHandle(), Qt::Key_Space);
+            QVERIFY2(!session().playback().isPlaying() && find(field)->hasFocus(), field);
+        }
+        QVERIFY(text("framesPath").endsWith(u' '));
     }
 
     void playback()

@@ -11,6 +11,7 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QTemporaryDir>
+#include <QtGui/QWindow>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
@@ -83,7 +84,7 @@ protected:
     /// Gives the frame that it leads to.
     int press(Qt::Key key) const
     {
-        QTest::keyClick(QApplication::focusWidget(), key);
+        QTest::keyClick(QApplication::focusWidget()->window()->windowHandle(), key);
         return frame();
     }
     /// The colour in the middle of the picture.
