@@ -139,9 +139,10 @@ void TransportControls::showPlaying(bool playing)
     m_form.playAndStop->setIcon(playerIcon(playing ? "stop" : "play"));
     m_form.playAndStop->setAccessibleName(playing ? tr("Stop") : tr("Play"));
     m_form.playbackRate->clear();
+    // A field that is disabled may open what was typed, which ends the playback again.
     for (QWidget *control :
          std::initializer_list<QWidget *>{m_form.framesPath, m_form.pickFramesPath, m_form.reloadButton})
-        control->setEnabled(!playing);
+        control->setEnabled(!m_session.playback().isPlaying());
 }
 
 void TransportControls::editRange()

@@ -65,7 +65,8 @@ OiioFile::OiioFile(const SourceFile &file, const OiioFormat &format)
     if (!m_input)
         throw ImageError(TLoadFailure::Unsupported, std::string("no support for ") + format.name);
     if (format.isWhole && !format.isWhole(file))
-        throw ImageError(TLoadFailure::Damaged, "the file ends before its picture does");
+        throw ImageError(TLoadFailure::Damaged,
+                         "the end of the picture is not found: the file is cut off or damaged");
     OIIO::ImageSpec wish;
     // The display multiplies by alpha itself.
     wish.attribute("oiio:UnassociatedAlpha", 1);

@@ -96,22 +96,26 @@ equal(pixel("--layer", "mask.RGB", path("layers.exr")), (255, 136, 0), "the laye
 os.mkdir(path("folder"))
 os.rename(path("shot.0002.exr"), path("folder/shot.0002.exr"))
 equal(pixel(path("folder")), (255, 255, 255), "a folder's first sequence")
-equal(pixel("file://" + path("folder")), (255, 255, 255), "its address")
+equal(pixel("FILE://localhost" + path("folder")), (255, 255, 255), "its address")
 make("folder/shot.0004.exr", "0,0,1,1")
 equal(pixel("--frame", "4", path("folder/shot.0004.exr"), path("folder/shot.0002.exr")), (0, 0, 255), "files of one sequence")
-check("b.exr" in view("--grab", path("grab.png"), path("a.exr"), path("b.exr")), "nothing tells what is left out")
+check("a.exr" in view("--grab", path("grab.png"), path("b.exr"), path("a.exr")), "nothing tells what is left out")
+equal(pixel(path("b.exr"), path("a.exr")), (136, 186, 0), "the first of several files")
+equal(pixel("--layer", "RGB", path("a.exr")), (186, 136, 255), "a layer that another stands in for")
 os.chdir(path("folder"))
 equal(pixel("shot.0002.exr"), (255, 255, 255), "a path of the working directory")
 
 check("Usage: tarrow-view [options] [PATH...]" in " ".join(view("--help").split()), "the usage line")
 for arguments in [["--frame", "x", mask], ["--channel", "cyan", mask], ["--set", "brightness", mask], ["--set", "glow=1", mask],
                   ["--set", "brightness=nan", mask], ["--unknown"], ["--frame"], ["--zoom", "0", mask], ["--checker", "no", mask],
-                  ["--background", "blackish", mask]]:
+                  ["--background", "blackish", mask], ["--background", "#ff000080", mask], ["--grab", "", mask]]:
     view(*arguments, code=2)
 grab = ["--grab", path("none.png")]
 for arguments in [[*grab, path("missing.exr")], [*grab, path("broken.exr")], [*grab, path("empty")], grab,
                   [*grab, "--layer", "depth", path("a.exr")], [*grab, "--frame", "3", mask], [*grab, "--frame", "2", path("a.exr")], ["--grab", path("missing/none.png"), path("a.exr")]]:
     check(view(*arguments, code=1).strip(), f"{arguments} failed without a word")
+
+check("no such file" in view(*grab, path("missing.exr"), code=1), "nothing tells why there is no picture")
 
 # Drivers that draw no pictures, none of this kind, or none so large.
 OLD = {"MESA_GL_VERSION_OVERRIDE": "2.1"}
@@ -124,7 +128,7 @@ for told, file, driver in [
     check(told in output and "uniformLocation" not in output, f"{driver} says {output}")
 check(not os.path.exists(path("none.png")), "a failed grab left a file")
 oiiotool("--pattern", "constant:color=1,1,1", "20000x8", "3", "-d", "half", "-o", path("wide.exr"))
-view(path("wide.exr"), "--grab", path("wide.png"))
+check("1/2" in view(path("wide.exr"), "--grab", path("wide.png")), "nothing tells that the picture is smaller")
 oiiotool(path("wide.png"), "-o", path("wide.ppm"))
 with open(path("wide.ppm"), "rb") as wide:
     equal(wide.read().split(b"\n", 2)[1], b"10000 4", "a picture wider than OpenGL allows, at half its size")

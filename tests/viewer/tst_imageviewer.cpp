@@ -208,6 +208,14 @@ private Q_SLOTS:
         QCOMPARE(type("framesPath", several), mask);
         QCOMPARE(frame(), 2);
         QCOMPARE(session().sequence().frames, (std::set<long>{1, 2, 3, 5}));
+        QCOMPARE(type("framesPath", u"'%1'"_s.arg(path(u"b 1.exr"_s))), path(u"b 1.exr"_s));
+        // Playing closes the field, which opens what stands there.
+        type("framesPath", mask);
+        find("framesPath")->setFocus();
+        QTest::keyClick(m_viewer->windowHandle(), Qt::Key_Backspace);
+        click("playAndStop");
+        QVERIFY(!session().playback().isPlaying() && !find("imageWarningWidget")->isHidden());
+        QVERIFY(find("framesPath")->isEnabled() && find("reloadButton")->isEnabled());
     }
 
     void reloadFindsFramesThatCameAndWent()

@@ -167,8 +167,11 @@ private Q_SLOTS:
         QCOMPARE(m_display.uploads, uploads + 1);
 
         // A broken file is read again when it has changed, not when its folder has.
+        m_session->setFrame(2);
+        m_session->setFrame(5);
         QVERIFY(QFile::resize(file(2), 300));
         m_session->setFrame(2);
+        QVERIFY(!m_session->cache().find(file(2).toStdString())); // nor does a strip show it
         QCOMPARE(m_session->lastLoad().outcome, LoadOutcome::Corrupted);
         const QSignalSpy loads(m_session.get(), &ViewerSession::loaded);
         QFileSystemWatcher folder({m_folder->path()});

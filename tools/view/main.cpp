@@ -51,12 +51,22 @@ FramesRequest requestOf(const QStringList &paths)
 /// Says which of the paths are not among the frames that are shown.
 void tellWhatIsLeftOut(const FramesRequest &request, const FrameSequence &shown)
 {
-    for (const std::string &other : request.others) {
-        const bool isFrame = other == request.path || frameOf(other, shown.framesPath);
-        if (!isFrame && request.others.size() > 1)
+    for (std::size_t i = 1; i < request.others.size(); ++i) {
+        const std::string &other = request.others[i];
+        if (other != request.path && !frameOf(other, shown.framesPath))
             fail(QStringLiteral("Left out, being of another sequence: %1").arg(QString::fromStdString(other)),
                  0);
     }
+}
+
+QString cannotShow(const ViewerSession &session)
+{
+    const LoadResult &load = session.lastLoad();
+    const QString reason = load.outcome == LoadOutcome::NotFound
+        ? QStringLiteral("there is no such file, or it is in a folder that may not be read")
+        : QString::fromStdString(load.failure.reason);
+    const QString what = QStringLiteral("Cannot show %1").arg(QString::fromStdString(session.file()));
+    return reason.isEmpty() ? what : what + QStringLiteral(": ") + reason;
 }
 
 /// What is wrong; empty when the picture is as asked for.
@@ -84,7 +94,7 @@ QString apply(const ViewOptions &options, ImageViewer &viewer)
     if (options.frame && session.frame() != *options.frame)
         return QStringLiteral("Cannot find frame %1 among those of %2").arg(*options.frame).arg(path);
     if (!session.lastLoad().shown())
-        return QStringLiteral("Cannot show %1").arg(QString::fromStdString(session.file()));
+        return cannotShow(session);
     if (!options.layer.isEmpty()
         && !(session.setLayer(options.layer.toStdString()) && session.lastLoad().shown()))
         return QStringLiteral("Cannot show the layer %1 of %2").arg(options.layer, path);
@@ -116,6 +126,10 @@ int run(const ViewOptions &options)
     const QString fault = apply(options, *viewer);
     if (!fault.isEmpty())
         return fail(fault, kNothingShown);
+    if (const int halvings = viewer->session().lastLoad().forcedHalvings; halvings > 0)
+        fail(QStringLiteral("Too large for OpenGL: rendered at 1/%1 of its size")
+                 .arg(qulonglong(1) << halvings),
+             0);
     // A single channel is a look at the picture; its alpha would say nothing.
     const bool keepsAlpha = !options.composite && options.channelViewMode == 0;
     const float zoom = options.zoom.value_or(1.0F);

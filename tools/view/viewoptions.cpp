@@ -83,7 +83,8 @@ void parseLook(const QCommandLineParser &parser, const Options &known, ViewOptio
     if (parser.isSet(known.background)) {
         const QString text = parser.value(known.background);
         options.background = QColor(text);
-        if (!options.background.isValid() || options.background.alpha() != 255)
+        const bool hasAlpha = options.background.alpha() != 255 || text.size() == 9; // #aarrggbb
+        if (!options.background.isValid() || hasAlpha)
             options.error =
                 QStringLiteral("Cannot show %1 behind the picture: give a colour's name or #rrggbb.")
                     .arg(text);
@@ -137,6 +138,8 @@ ViewOptions ViewOptions::parse(const QStringList &arguments)
     options.layer = parser.value(known.layer);
     options.forceGl2 = parser.isSet(known.gl2);
     options.grab = parser.value(known.grab);
+    if (parser.isSet(known.grab) && options.grab.isEmpty())
+        options.error = QStringLiteral("Cannot write a picture to a file without a name.");
     if (parser.isSet(known.frame))
         parseFrame(parser.value(known.frame), options);
     if (parser.isSet(known.channel))

@@ -64,6 +64,8 @@ LoadResult FrameLoader::load(const LoadRequest &request)
     const bool isCurrent = cached && (cached->stamp == result.stamp || !result.stamp.exists);
     if (isCurrent && showCached(*cached, result))
         return result;
+    if (cached && !isCurrent)
+        m_cache.remove(request.path); // also where the file is broken now
     if (!TFramework::TFileSystem::CheckFile(request.path)) {
         result.outcome = LoadOutcome::NotFound;
         return result;

@@ -152,8 +152,7 @@ void ViewerSession::listPlayed()
 
 bool ViewerSession::setLayer(const std::string &entry)
 {
-    const std::vector<std::string> &entries = m_layers->entries;
-    if (std::find(entries.begin(), entries.end(), entry) == entries.end())
+    if (entry.empty() || !m_layers->offers(entry))
         return false;
     m_chosenLayer = entry;
     loadAnew();
