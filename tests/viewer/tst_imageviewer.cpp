@@ -115,7 +115,8 @@ private Q_SLOTS:
         click("stepBackward");
         QCOMPARE(frame(), 1);
         type("byFrame", u"1"_s);
-        QCOMPARE(type("currentFrame", u"99"_s), u"5"_s);
+        for (int times = 0; times < 2; ++times)
+            QCOMPARE(type("currentFrame", u"99"_s), u"5"_s);
         QCOMPARE(frame(), 5);
         type("endFrame", u"3"_s);
         QCOMPARE(frame(), 3);
@@ -279,6 +280,8 @@ private Q_SLOTS:
             click("clearMarkingsButton");
         };
         answer(u"skinnedMessageBoxNo"_s);
+        whenModalOpens([](QWidget *box) { QTest::keyClick(box, Qt::Key_Escape); });
+        click("clearMarkingsButton");
         QCOMPARE(session().marking().markedFrames().size(), 3);
         answer(u"skinnedMessageBoxYes"_s);
         QVERIFY(session().marking().markedFrames().isEmpty() && session().marking().markedChunks().isEmpty());

@@ -53,6 +53,11 @@ private Q_SLOTS:
         QCOMPARE(seen(), u"#888888"_s);
         type("framesPath", path(u"shot.0005.exr"_s)); // of another sequence nothing was chosen
         QCOMPARE(entries(), u"RGBA*"_s);
+        click("redChannelButton");
+        QCOMPARE(seen(), u"#bababa"_s);
+        writeFrame(path(u"other.exr"_s), kFrame);
+        type("framesPath", path(u"other.exr"_s));
+        QCOMPARE(seen(), u"#ba88ff"_s);
     }
 
     void framesComeBackFromMainMemory()
