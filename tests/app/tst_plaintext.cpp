@@ -60,7 +60,7 @@ private Q_SLOTS:
         alertor.setCommandLineOverrides(overrides);
         alertor.loadSettings();
         alertor.checkLocalConnection();
-        NotificationPacket packet = event(kSaid + u' ' + kSaid.repeated(20));
+        NotificationPacket packet = packetOf(kSaid + u' ' + kSaid.repeated(20));
         packet.message = packet.user = kSaid;
         alertor.handleNewEvent(buildEvent(packet, 1));
         EventsView *list = shown(alertor);
@@ -103,7 +103,7 @@ private Q_SLOTS:
     {
         Alertor alertor;
         const QString tale = u"tale "_s.repeated(20'000);
-        NotificationPacket packet = event(tale);
+        NotificationPacket packet = packetOf(tale);
         packet.message = packet.user = tale;
         alertor.handleNewEvent(buildEvent(packet, 1));
         EventsView *list = shown(alertor);
@@ -137,7 +137,7 @@ private Q_SLOTS:
 
 private:
     /// Of a job of this name, with frames that are missing below a folder whose name looks like markup.
-    NotificationPacket event(const QString &jobName) const
+    NotificationPacket packetOf(const QString &jobName) const
     {
         TClientLib::TJob job = farm::job();
         job.setName(jobName.toStdString());

@@ -19,7 +19,6 @@ using Numbers = QList<std::int64_t>;
 
 namespace {
 
-constexpr auto kLowest = std::numeric_limits<std::int64_t>::min();
 constexpr auto kHighest = std::numeric_limits<std::int64_t>::max();
 
 /// "shot.##.exr: 3 4 5 @4", with "file " in front of a single file; more than ten frames as "first..last".

@@ -230,7 +230,8 @@ private Q_SLOTS:
             {{-kInfinity, kInfinity, 0, 1}, Qt::green},
             {{kNone, kNone, kNone, kNone}, Qt::black},
             {{1, 0, 0, 0}, Qt::black}};
-        for (const auto &[texel, colour] : texels) {
+        for (const auto &[samples, colour] : texels) {
+            const auto &texel = samples;
             const auto shown = show(flagged(), QSize(40, 40), [&](ImageFrame &frame) {
                 auto *pixels = static_cast<float *>(const_cast<void *>(frame.planes[0]));
                 for (int i = 0; i < 40 * 40; ++i)
