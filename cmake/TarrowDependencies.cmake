@@ -17,6 +17,12 @@ find_package(pybind11 REQUIRED)
 
 find_package(OpenEXR 3.1 REQUIRED)
 find_package(OpenImageIO 2.4 REQUIRED)
+# Earlier versions bring no CMake configuration.
+find_path(LIBDEFLATE_INCLUDE_DIR libdeflate.h REQUIRED)
+find_library(LIBDEFLATE_LIBRARY deflate REQUIRED)
+add_library(libdeflate::libdeflate UNKNOWN IMPORTED)
+set_target_properties(libdeflate::libdeflate PROPERTIES IMPORTED_LOCATION "${LIBDEFLATE_LIBRARY}"
+  INTERFACE_INCLUDE_DIRECTORIES "${LIBDEFLATE_INCLUDE_DIR}")
 # The package names the headers of an OpenCV that it does not bring.
 foreach(property INTERFACE_INCLUDE_DIRECTORIES INTERFACE_SYSTEM_INCLUDE_DIRECTORIES)
   get_target_property(folders OpenImageIO::OpenImageIO ${property})

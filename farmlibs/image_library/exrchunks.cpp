@@ -1,5 +1,6 @@
 #include "exrchunks.h"
 
+#include "exrplan.h"
 #include "imageerror.h"
 
 #include <ImathBox.h>
@@ -10,11 +11,9 @@
 #include <zlib.h>
 
 #include <algorithm>
-#include <bit>
-#include <cstdint>
-#include <cstring>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace TImageLibrary {
 
@@ -80,63 +79,6 @@ void checkLastChunk(ExrFile &file, int part)
     // What would not shrink is stored as it is.
     if (bytes.size() != expected && !(deflates ? inflatesTo(bytes, expected) : runsMake(bytes, expected)))
         throw ImageError(TLoadFailure::Damaged, "chunk of another size at line " + std::to_string(box.min.y));
-}
-
-bool hasPlainLines(const ExrFile &file, int part, const std::vector<ExrTarget *> &targets)
-{
-    const Imf::Header &header = file.header(part);
-    bool plain = std::endian::native == std::endian::little && header.compression() == Imf::NO_COMPRESSION
-        && !file.isTiled(part);
-    for (auto channel = header.channels().begin(); channel != header.channels().end(); ++channel)
-        plain = plain && channel.channel().xSampling == 1 && channel.channel().ySampling == 1;
-    return plain && std::all_of(targets.begin(), targets.end(), [&targets](const ExrTarget *target) {
-               return target->type == target->channel.type && target->rows == targets.front()->rows;
-           });
-}
-
-void copyPlainLines(ExrFile &file, int part, const std::vector<ExrTarget *> &targets,
-                    const std::function<void(double)> &report)
-{
-    const Imath::Box2i &window = file.header(part).dataWindow();
-    const Imf::ChannelList &channels = file.header(part).channels();
-    const std::size_t lineBytes = unpackedSize(channels, {window.min, {window.max.x, window.min.y}});
-    const ExrSpan stored = ExrSpan::within(window.min.x, window.max.x, 1);
-
-    struct Copy {
-        std::byte *to; ///< first byte in the plane's row 0
-        std::size_t from; ///< in a line
-        std::size_t bytes;
-        std::size_t rowBytes;
-    };
-    std::vector<Copy> copies;
-    for (ExrTarget *target : targets) {
-        const std::size_t size = sampleBytes(target->type);
-        const ExrSpan common = ExrSpan::common(stored, target->columns);
-        std::size_t from = 0;
-        for (auto channel = channels.begin(); channel.name() != target->channel.name; ++channel)
-            from += std::size_t(stored.count) * sampleBytes(channel.channel().type);
-        if (common.count > 0)
-            copies.push_back({target->plane.data() + std::size_t(common.first - target->columns.first) * size,
-                              from + std::size_t(common.first - stored.first) * size,
-                              std::size_t(common.count) * size, target->plane.format().rowBytes()});
-    }
-
-    Imf::InputPart input(file.parts(), part);
-    const ExrSpan visible = targets.front()->rows;
-    const ExrSpan rows = ExrSpan::common(ExrSpan::within(window.min.y, window.max.y, 1), visible);
-    for (int row = rows.first; row < rows.end(); ++row) {
-        const char *line = nullptr;
-        int size = 0;
-        input.rawPixelData(row, line, size);
-        if (size < 0 || std::size_t(size) != lineBytes)
-            throw ImageError(TLoadFailure::Damaged, "line of another size at line " + std::to_string(row));
-        for (const Copy &copy : copies)
-            std::memcpy(copy.to + std::size_t(row - visible.first) * copy.rowBytes, line + copy.from,
-                        copy.bytes);
-        const int done = row + 1 - rows.first;
-        if (done % (rows.count / 16 + 1) == 0)
-            report(double(done) / double(rows.count));
-    }
 }
 
 } // namespace TImageLibrary

@@ -131,8 +131,9 @@ ExrFile ExrFile::open(const SourceFile &file)
 
 ExrFile::ExrFile(const SourceFile &file)
     : m_source(file)
+    , m_stream(file)
     // A table of chunks that is not there is not rebuilt: the writer has not finished, or the file is cut.
-    , m_parts(file.path().c_str(), exrPoolThreads(), false)
+    , m_parts(m_stream, exrPoolThreads(), false)
 {
     listChannels(false);
     listChannels(true);

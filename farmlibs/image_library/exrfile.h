@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exrstream.h"
 #include "sourcefile.h"
 
 #include <ImathVec.h>
@@ -58,6 +59,7 @@ private:
     void listChannels(bool deep);
 
     const SourceFile &m_source;
+    ExrStream m_stream;
     Imf::MultiPartInputFile m_parts;
     std::vector<ExrChannel> m_channels;
 };

@@ -1,6 +1,7 @@
 #include "exrpixels.h"
 
 #include "exrchunks.h"
+#include "exrunpack.h"
 #include "imageerror.h"
 
 #include <IexBaseExc.h>
@@ -236,11 +237,10 @@ private:
 void readPart(ExrFile &file, int part, const std::vector<ExrTarget *> &targets,
               const std::function<void(double)> &report)
 {
+    if (canUnpack(file, part) && unpackPart(file, part, targets, report))
+        return;
     located("in its last lines", [&] { checkLastChunk(file, part); });
-    if (hasPlainLines(file, part, targets))
-        copyPlainLines(file, part, targets, report);
-    else
-        PartReader(file, part, targets).read(report);
+    PartReader(file, part, targets).read(report);
 }
 
 } // namespace TImageLibrary

@@ -8,6 +8,7 @@
 #include <exception>
 #include <memory>
 #include <new>
+#include <optional>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -43,6 +44,25 @@ const std::vector<std::string> &extensions()
     }();
     return all;
 }
+
+/// Keeps the file that the last call of this thread has read, for the next one to go on with: a load asks for the format,
+/// the layers and the pixels, and opens its file once.
+class LastSource final {
+public:
+    static SourceFile take(const char *path)
+    {
+        std::optional<SourceFile> file = std::exchange(kept(), std::nullopt);
+        return file && file->isStill(path) ? *std::move(file) : SourceFile::open(path);
+    }
+    static void keep(SourceFile &&file) { kept() = std::move(file); }
+
+private:
+    static std::optional<SourceFile> &kept()
+    {
+        thread_local std::optional<SourceFile> file;
+        return file;
+    }
+};
 
 TLoadFailure &lastFailure()
 {
@@ -147,17 +167,23 @@ CTExtensionsIterator IImageCore::LoaderExtensionsEnd()
 const char *IImageCore::Probe(const char *path)
 {
     return guarded(path, [path]() -> const char * {
-        const SourceFile file = SourceFile::open(path);
+        SourceFile file = LastSource::take(path);
         const char *format = firstAnswer([&file](const ImageLoader &loader) { return loader.probe(file); });
         if (!format)
             failUnknown(file);
+        LastSource::keep(std::move(file));
         return format;
     });
 }
 
 bool IImageCore::LoadLayers(const char *path, const char *format, std::set<std::string> &names)
 {
-    names = guarded(path, [path, format] { return loaderOf(format).layers(SourceFile::open(path), format); });
+    names = guarded(path, [path, format] {
+        SourceFile file = LastSource::take(path);
+        std::set<std::string> layers = loaderOf(format).layers(file, format);
+        LastSource::keep(std::move(file));
+        return layers;
+    });
     return !names.empty();
 }
 
@@ -167,7 +193,7 @@ CTImage *IImageCore::Load(const char *path, const char *format, const std::set<s
     Progress reported(progress, user);
     return guarded(path, [&]() -> CTImage * {
         const ImageLoader &loader = loaderOf(format);
-        const SourceFile file = SourceFile::open(path);
+        const SourceFile file = LastSource::take(path);
         return std::make_unique<CTImage>(loader.load(file, format, names, reported)).release();
     });
 }

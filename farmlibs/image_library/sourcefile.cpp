@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <fstream>
 #include <system_error>
 
 namespace TImageLibrary {
@@ -20,6 +19,11 @@ std::string lowerCase(std::string text)
     std::transform(text.begin(), text.end(), text.begin(),
                    [](char c) { return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c; });
     return text;
+}
+
+std::filesystem::path nativePath(const std::string &path)
+{
+    return std::u8string(path.begin(), path.end());
 }
 
 std::string extensionOf(const std::filesystem::path &path)
@@ -44,7 +48,7 @@ SourceFile SourceFile::open(const char *path)
 {
     SourceFile file;
     file.m_path = path ? path : "";
-    file.m_nativePath = std::u8string(file.m_path.begin(), file.m_path.end());
+    file.m_nativePath = nativePath(file.m_path);
     std::error_code error;
     // Opening a pipe would wait for its writer.
     const auto type = std::filesystem::status(file.m_nativePath, error).type();
@@ -54,43 +58,52 @@ SourceFile SourceFile::open(const char *path)
         fail(error);
     if (type != std::filesystem::file_type::regular)
         throw ImageError(TLoadFailure::NoImage, "not a file");
-    file.m_size = std::filesystem::file_size(file.m_nativePath, error);
-    if (error)
-        fail(error);
-    if (file.m_size == 0)
+    const auto state = OpenFile::stateOf(file.m_nativePath);
+    errno = 0;
+    file.m_file = std::make_shared<const OpenFile>(file.m_nativePath);
+    if (!state || !file.m_file->isOpen())
+        fail(std::error_code(errno, std::generic_category()));
+    file.m_state = *state;
+    if (file.size() == 0)
         throw ImageError(TLoadFailure::Damaged, "the file is empty");
     file.m_head = file.beginning(kHeadBytes);
     if (file.m_head.empty())
         fail(std::error_code(errno, std::generic_category()));
-    const std::uint64_t tail = std::min(file.m_size, kTailBytes);
-    file.m_tail = file.bytes(file.m_size - tail, tail);
+    const std::uint64_t tail = std::min(file.size(), kTailBytes);
+    file.m_tail = file.bytes(file.size() - tail, tail);
     file.m_extension = extensionOf(file.m_nativePath);
     return file;
+}
+
+bool SourceFile::isStill(const char *path) const
+{
+    return path && m_path == path && OpenFile::stateOf(m_nativePath) == m_state;
+}
+
+std::size_t SourceFile::read(std::uint64_t offset, void *buffer, std::size_t count) const
+{
+    return m_file->read(offset, buffer, count);
 }
 
 std::string SourceFile::bytes(std::uint64_t offset, std::uint64_t count) const
 {
     std::string result(count, '\0');
-    errno = 0;
-    std::ifstream stream(m_nativePath, std::ios::binary);
-    stream.seekg(std::streamoff(offset));
-    stream.read(result.data(), std::streamsize(count));
-    return stream ? result : std::string();
+    return read(offset, result.data(), result.size()) == result.size() ? result : std::string();
 }
 
 std::string SourceFile::contents() const
 {
-    return bytes(0, m_size);
+    return bytes(0, size());
 }
 
 std::string SourceFile::beginning(std::uint64_t count) const
 {
-    return bytes(0, std::min(m_size, count));
+    return bytes(0, std::min(size(), count));
 }
 
 bool SourceFile::canHold(std::uint64_t pixelBytes, std::uint64_t expansion) const
 {
-    return pixelBytes <= kAlwaysBelieved || (pixelBytes - kAlwaysBelieved) / expansion <= m_size;
+    return pixelBytes <= kAlwaysBelieved || (pixelBytes - kAlwaysBelieved) / expansion <= size();
 }
 
 } // namespace TImageLibrary

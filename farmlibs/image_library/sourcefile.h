@@ -1,19 +1,27 @@
 #pragma once
 
+#include <system/openfile.h>
+
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 
 namespace TImageLibrary {
 
-/// Tells what a regular file is and what it may hold, by its size, its ends and the extension of its name.
+/// Tells what a regular file is and what it may hold, by its size, its ends and the extension of its name, and reads it.
+/// The file stays open while this or a copy lives.
 class SourceFile final {
 public:
     /// Opens a file. Throws when the path (UTF-8) names no regular file that can be read, or an empty one.
     static SourceFile open(const char *path);
 
+    /// Whether the path still names this file, and nothing has been written to it since it was opened.
+    bool isStill(const char *path) const;
+
     const std::string &path() const { return m_path; }
+    std::uint64_t size() const { return m_state.size; }
     /// The first bytes, 512 at most.
     std::string_view head() const { return m_head; }
     /// The last bytes, 26 at most.
@@ -24,6 +32,8 @@ public:
     std::string contents() const;
     /// Its first bytes, `count` at most; empty when it cannot be read.
     std::string beginning(std::uint64_t count) const;
+    /// Gives how many bytes were read; any thread may ask.
+    std::size_t read(std::uint64_t offset, void *buffer, std::size_t count) const;
 
     /// Whether the file's bytes can hold so many bytes of pixels when a byte of the file makes at most `expansion` of
     /// them. A plain picture shrinks to next to nothing in any format, so an everyday size is believed of every file.
@@ -35,7 +45,8 @@ private:
 
     std::string m_path;
     std::filesystem::path m_nativePath;
-    std::uint64_t m_size = 0; // at least 1
+    OpenFile::State m_state;
+    std::shared_ptr<const OpenFile> m_file;
     std::string m_head;
     std::string m_tail;
     std::string m_extension;
