@@ -1,5 +1,7 @@
 #include "ctimagechannel.h"
 
+#include <system/largememory.h>
+
 #include <new>
 #include <utility>
 
@@ -10,7 +12,7 @@ CTImageChannel::CTImageChannel(std::string name, const TPlaneFormat &format, Fil
     , m_format(format)
 {
     // Zeroed pages that the file does not fill are never touched, and a plane that it fills is not zeroed first.
-    void *data = fill == Fill::Zero ? std::calloc(format.byteSize(), 1) : std::malloc(format.byteSize());
+    void *data = fill == Fill::Zero ? std::calloc(format.byteSize(), 1) : takeLargeMemory(format.byteSize());
     if (!data)
         throw std::bad_alloc();
     m_data.reset(static_cast<std::byte *>(data));
