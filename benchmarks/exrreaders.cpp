@@ -19,17 +19,21 @@ namespace {
 
 using Plane = std::unique_ptr<half[]>;
 
-/// Soft shapes with a little grain, as rendered pictures have: neither flat nor noise.
-std::vector<half> picture(int width, int height, int seed)
+/// Soft shapes, either with grain, neither flat nor noise, or cut out, every other one with a pattern on it.
+std::vector<half> picture(const ExrSample &sample, int seed)
 {
     std::mt19937 random(static_cast<unsigned>(seed));
     std::uniform_real_distribution<float> grain(-0.01F, 0.01F);
-    std::vector<half> pixels(std::size_t(width) * std::size_t(height));
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
+    std::vector<half> pixels;
+    pixels.reserve(std::size_t(sample.width) * std::size_t(sample.height));
+    for (int y = 0; y < sample.height; ++y) {
+        for (int x = 0; x < sample.width; ++x) {
             const float shape = std::sin(float(x + 37 * seed) * 0.01F) * std::cos(float(y) * 0.013F);
-            pixels[std::size_t(y) * std::size_t(width) + std::size_t(x)] =
-                0.5F + 0.4F * shape + grain(random);
+            const bool hasPattern = (x / 314 + y / 242) % 2 == 0 && (x * 7 + y * 5) % 32 < 16;
+            if (sample.hasGrain)
+                pixels.emplace_back(0.5F + 0.4F * shape + grain(random));
+            else
+                pixels.emplace_back(std::abs(shape) < 0.2F ? 0.0F : shape * (hasPattern ? 0.5F : 0.4F));
         }
     }
     return pixels;
@@ -94,26 +98,35 @@ std::vector<ExrSample> listSamples(const std::filesystem::path &folder)
     for (int i = 0; i < 36; ++i)
         many.push_back("layer" + std::to_string(i / 4) + "." + colour[std::size_t(i % 4)]);
 
+    struct Kind {
+        const char *name;
+        Imf::Compression compression;
+        double promise;
+        bool hasGrain = true;
+    };
     std::vector<ExrSample> samples;
-    const auto add = [&](const std::string &name, int width, int height, Imf::Compression compression,
-                         const std::vector<std::string> &channels) {
-        samples.push_back({name,
+    const auto add = [&](const Kind &kind, int width, int height, const std::vector<std::string> &channels) {
+        samples.push_back({std::to_string(width) + 'x' + std::to_string(height) + ' ' + kind.name,
                            (folder / (std::to_string(samples.size()) + ".exr")).string(),
                            width,
                            height,
-                           compression,
+                           kind.compression,
+                           kind.hasGrain,
+                           kind.promise,
                            channels,
                            {colour.begin(), colour.end()}});
     };
-    const std::map<std::string, Imf::Compression> compressions = {{"none", Imf::NO_COMPRESSION},
-                                                                  {"ZIP", Imf::ZIP_COMPRESSION},
-                                                                  {"PIZ", Imf::PIZ_COMPRESSION},
-                                                                  {"DWAA", Imf::DWAA_COMPRESSION}};
-    for (const auto &[name, compression] : compressions) {
-        add("1920x1080 " + name, 1920, 1080, compression, colour);
-        add("4096x2160 " + name, 4096, 2160, compression, colour);
+    for (const Kind &kind : {Kind{"DWAA", Imf::DWAA_COMPRESSION, 1.05},
+                             {"PIZ", Imf::PIZ_COMPRESSION, 1.05},
+                             {"ZIP", Imf::ZIP_COMPRESSION, 0.40, false},
+                             {"ZIP, grain", Imf::ZIP_COMPRESSION, 0.55},
+                             {"ZIPS", Imf::ZIPS_COMPRESSION, 0.40, false},
+                             {"RLE", Imf::RLE_COMPRESSION, 1.05, false},
+                             {"none", Imf::NO_COMPRESSION, 0.50}}) {
+        add(kind, 1920, 1080, colour);
+        add(kind, 4096, 2160, colour);
     }
-    add("1920x1080 ZIP, 4 of 40", 1920, 1080, Imf::ZIP_COMPRESSION, many);
+    add({"ZIP, 4 of 40", Imf::ZIP_COMPRESSION, 0.45}, 1920, 1080, many);
     return samples;
 }
 
@@ -127,7 +140,7 @@ void writeSample(const ExrSample &sample)
     constexpr int kPictures = 4;
     planes.reserve(kPictures);
     for (int seed = 0; seed < kPictures; ++seed)
-        planes.push_back(picture(sample.width, sample.height, seed));
+        planes.push_back(picture(sample, seed));
     for (std::size_t i = 0; i < sample.channels.size(); ++i) {
         header.channels().insert(sample.channels[i], Imf::Channel(Imf::HALF));
         buffer.insert(

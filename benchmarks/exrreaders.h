@@ -15,6 +15,9 @@ struct ExrSample {
     int width = 0;
     int height = 0;
     Imf::Compression compression = Imf::NO_COMPRESSION;
+    bool hasGrain =
+        true; ///< of film in every pixel; else shaded surfaces before nothing, as a renderer makes them
+    double promise = 0.0; ///< the time to load it at most, to the fastest bare read
     std::vector<std::string> channels;
     std::set<std::string> wanted;
 

@@ -56,7 +56,7 @@ ChunkSamples ChunkUnpacker::unpack(const ChunkPlace &place, std::size_t size)
     if (found != EXR_ERR_SUCCESS || chunk.unpacked_size != size || chunk.packed_size > size || !prepare(chunk)
         || exr_decoding_run(m_context, m_part, &m_pipeline) != EXR_ERR_SUCCESS)
         throw ImageError(TLoadFailure::Damaged,
-                         (place.isTile ? "damaged tile in row " : "damaged chunk at line ")
+                         (place.isTile ? "damaged tile in row " : "damaged lines from line ")
                              + std::to_string(place.at.y));
     // What would not shrink is stored as it is.
     const bool isSplit = chunk.packed_size != chunk.unpacked_size;

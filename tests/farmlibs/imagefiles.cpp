@@ -56,7 +56,8 @@ void writePart(Imf::MultiPartOutputFile &file, int part, const ExrSpec &spec)
         const auto &[name, type, step] = spec.channels[i];
         for (int y = data.min.y; y <= data.max.y; y += step.y) {
             for (int x = data.min.x; x <= data.max.x; x += step.x)
-                planes[i].push_back(sampleBits(testValue(x, y, int(i)), type));
+                planes[i].push_back(spec.random && (y & 24) == 8 ? quint32((*spec.random)())
+                                                                 : sampleBits(testValue(x, y, int(i)), type));
         }
         const auto columns = std::size_t(data.max.x - data.min.x) / std::size_t(step.x) + 1;
         buffer.insert(name, Imf::Slice::Make(type, planes[i].data(), data, 4, 4 * columns, step.x, step.y));

@@ -14,6 +14,7 @@
 #include <QtCore/QString>
 #include <QtCore/QTemporaryDir>
 
+#include <random>
 #include <set>
 #include <string>
 #include <vector>
@@ -49,6 +50,7 @@ struct ExrSpec {
     bool deep = false; ///< no, one or several samples in a pixel, which overlap and may hide the rest
     Imf::LineOrder order = Imf::INCREASING_Y;
     std::string part; ///< its name, in a file of several
+    std::mt19937 *random = nullptr; ///< fills every third block of eight lines with any bits
     int rowsWritten = -1; ///< fewer than there are for a writer that was stopped
 };
 
