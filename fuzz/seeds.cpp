@@ -114,7 +114,8 @@ void writeExrs(const QString &folder)
     ExrSpec chroma;
     chroma.display = window;
     chroma.data = {{-4, -2}, {13, 11}};
-    chroma.channels = {{"BY", Imf::HALF, 2}, {"RY", Imf::HALF, 2}, {"Y", Imf::FLOAT}, {"id", Imf::UINT}};
+    chroma.channels = {
+        {"BY", Imf::HALF, {2, 2}}, {"RY", Imf::HALF, {2, 2}}, {"Y", Imf::FLOAT}, {"id", Imf::UINT}};
     writeExr(exr.path(QStringLiteral("chroma")), chroma);
     ExrSpec first;
     first.display = first.data = window;

@@ -318,7 +318,8 @@ private Q_SLOTS:
         const auto shown = show(stored(GL_RGBA32F, GL_FLOAT, 4), kPlace.size(), [](ImageFrame &frame) {
             auto *samples = static_cast<float *>(const_cast<void *>(frame.planeData(0)));
             for (int i = 0; i < kPlace.width() * kPlace.height(); ++i)
-                std::copy_n(std::array{float(qInf()), 0.5F, 1.0F, 1.0F}.data(), 4, samples + 4 * i);
+                std::copy_n(std::array{float(qInf()), 0.5F, 1.0F, 1.0F}.data(), 4,
+                            samples + 4 * std::ptrdiff_t(i));
         });
         m_picture->setCalibration({.softClip = 0.0F});
         const QColor seen = m_picture->grabFramebuffer().pixelColor(30, 20);

@@ -58,7 +58,8 @@ private Q_SLOTS:
         QCOMPARE(m_session->frame(), 5);
         m_session->open({.path = mask, .force = true, .maskIsSequence = true});
         QCOMPARE(m_session->frame(), 5);
-        QCOMPARE(QList<QVariantList>(opened), (QList<QVariantList>{{true}, {false}}));
+        QCOMPARE(opened.size(), 2);
+        QVERIFY(opened[0][0].toBool() && !opened[1][0].toBool());
         open(u"none.exr"_s);
         QVERIFY(!m_session->canPlay());
         QVERIFY(!m_display.shown);
@@ -183,7 +184,7 @@ private Q_SLOTS:
             QTRY_COMPARE(changes.size(), i + 1);
             QSignalSpy due(&settled, &QTimer::timeout); // what a change sets off comes within 100 ms
             settled.start();
-            QTRY_VERIFY(due.size() > 0);
+            QTRY_VERIFY(!due.isEmpty());
         }
         QCOMPARE(loads.count(), 0);
     }
