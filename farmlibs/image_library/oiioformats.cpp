@@ -130,6 +130,19 @@ bool isWholeJpeg(const SourceFile &file)
     return false;
 }
 
+/// The user data that the header announces, after the fixed 2048 bytes. Its decoder takes the memory for them unseen, and
+/// aborts where they are many.
+bool isWholeDpx(const SourceFile &file)
+{
+    constexpr std::uint64_t kHeader = 2048;
+    constexpr std::uint32_t kUndefined = 0xffffffff;
+    const bool isBig = file.head().starts_with('S');
+    std::uint32_t length = 0;
+    for (std::size_t i = 0; i < 4; ++i)
+        length = length << 8 | byteAt(file, isBig ? 32 + i : 35 - i);
+    return length == 0 || length == kUndefined || kHeader + length <= file.size();
+}
+
 const std::array<OiioFormat, 15> kFormats = {{
     {"png", 2100, OiioAlpha::AsTold,
      [](const SourceFile &file) { return startsWith(file, "\x89PNG\r\n\x1a\n"sv); }, isWholePng},
@@ -138,7 +151,7 @@ const std::array<OiioFormat, 15> kFormats = {{
     {"raw", 64, OiioAlpha::AsTold, isRaw, nullptr},
     {"tiff", 8192, OiioAlpha::AsTold, isTiff, nullptr},
     {"dpx", 64, OiioAlpha::AsTold,
-     [](const SourceFile &file) { return startsWith(file, "SDPX"sv, "XPDS"sv); }, nullptr},
+     [](const SourceFile &file) { return startsWith(file, "SDPX"sv, "XPDS"sv); }, isWholeDpx},
     {"cineon", 4, OiioAlpha::AsTold,
      [](const SourceFile &file) { return startsWith(file, "\x80\x2a\x5f\xd7"sv, "\xd7\x5f\x2a\x80"sv); },
      nullptr},

@@ -21,7 +21,7 @@ struct OiioFormat {
     std::uint64_t expansion; ///< most bytes of pixels that a byte of the file makes
     OiioAlpha alpha;
     bool (*recognises)(const SourceFile &file);
-    /// Whether the file has its end; null for a decoder that takes well to a cut one.
+    /// Whether the file has its end, or what its header announces; null for a decoder that takes well to a cut one.
     bool (*isWhole)(const SourceFile &file);
 };
 

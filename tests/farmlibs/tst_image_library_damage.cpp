@@ -196,6 +196,7 @@ private Q_SLOTS:
               patched(files["compression3.exr"], QByteArray("tiledesc\0\x9\0\0\0", 13), 0,
                       littleEndian({kSide, kSide}))},
              {"PNG", "a.png", patched(files["a.png"], "IHDR", -4, header)},
+             {"DPX, user data", "a.dpx", QByteArray(files["a.dpx"]).replace(32, 4, bigEndian({0xfffffffbU}))},
              {"DPX", "a.dpx", QByteArray(files["a.dpx"]).replace(772, 8, bigEndian({30000, 30000}))},
              {"HDR", "a.hdr", QByteArray(files["a.hdr"]).replace("-Y 30 +X 40", "-Y 30000 +X 30000")},
              {"PNM", "a.ppm", QByteArray(files["a.ppm"]).replace("40 30", text + ' ' + text)},

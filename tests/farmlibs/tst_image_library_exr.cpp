@@ -457,10 +457,13 @@ private Q_SLOTS:
             spec.compression = compression;
             spec.rowsWritten = rowsWritten;
             writeExr(folder("a.exr"), spec);
-            told.clear();
             const bool loads = rowsWritten < 0; // else its writer was stopped
-            const Image image(IImageCore::Load(folder("a.exr").c_str(), "exr", {"R", "G"}, note, &told));
-            QCOMPARE(bool(image), loads);
+            // On a busy machine the other threads may do it all before this one gets to tell.
+            for (int times = 0; times == 0 || (loads && told.size() <= 4 && times < 50); ++times) {
+                told.clear();
+                const Image image(IImageCore::Load(folder("a.exr").c_str(), "exr", {"R", "G"}, note, &told));
+                QCOMPARE(bool(image), loads);
+            }
             QVERIFY(std::is_sorted(told.begin(), told.end()) && told.size() > (loads ? 4U : 0U));
             QCOMPARE(std::count(told.begin(), told.end(), 1.0F), 1);
             QCOMPARE(told.back(), 1.0F);
