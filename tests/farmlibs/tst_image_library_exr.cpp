@@ -217,7 +217,7 @@ private Q_SLOTS:
             for (int i = below(4); i >= 0; --i) {
                 part.channels.push_back({"c" + std::to_string(number) + std::to_string(i),
                                          Imf::PixelType(below(3)),
-                                         halved && i % 2 == 1 ? Imath::V2i(2) : Imath::V2i(1)});
+                                         halved && i % 2 == 1 ? Imath::V2i(1 + below(2), 2) : Imath::V2i(1)});
                 if (wanted.empty() || below(2) == 0) {
                     wanted.emplace_back(number, part.channels.back());
                     names.insert(part.channels.back().name);
