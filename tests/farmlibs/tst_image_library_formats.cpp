@@ -99,6 +99,21 @@ private Q_SLOTS:
         }
     }
 
+    void tiffOfTheOtherByteOrder()
+    {
+        const ImageFolder folder;
+        const std::string path = folder("a.tif");
+        QVERIFY(writeBytes(path,
+                           QByteArray::fromHex("4d4d002a00000008000901000003000000010001000001010003000000010"
+                                               "00100000102000300000001000800000103"
+                                               "0003000000010001000001060003000000010001000001110003000000010"
+                                               "07a00000115000300000001000100000116"
+                                               "0003000000010001000001170003000000010001000000000000c8")));
+        const Image image = loadImage(path, {""});
+        QVERIFY(image);
+        QCOMPARE(sampleAt(*image->GetDefaultLayer()->GetDefaultChannel(), 0, 0, 0), 200.0);
+    }
+
     void straightAlpha_data()
     {
         addTable<QByteArray, int, bool>({"file", "type", "multiplied"},
