@@ -6,6 +6,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include <utility>
+
 EmptyList::EmptyList(QAbstractItemView *view)
     : QWidget(view->viewport())
     , m_view(view)
@@ -29,12 +31,15 @@ EmptyList::EmptyList(QAbstractItemView *view)
     connect(model, &QAbstractItemModel::modelReset, this, &EmptyList::follow);
     connect(m_configure, &QPushButton::clicked, this, &EmptyList::configureRequested);
     view->viewport()->installEventFilter(this);
-    follow();
+    // It comes up with the view. To show it now would lay it out, and fonts are no part of a start.
+    if (model->rowCount() > 0)
+        hide();
 }
 
 void EmptyList::offerConfiguring(bool offers)
 {
-    m_configure->setVisible(offers);
+    if (std::exchange(m_offers, offers) != offers)
+        m_configure->setVisible(offers);
 }
 
 bool EmptyList::eventFilter(QObject *object, QEvent *event)

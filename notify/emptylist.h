@@ -27,4 +27,5 @@ private:
 
     QAbstractItemView *m_view;
     QPushButton *m_configure;
+    bool m_offers = true;
 };
