@@ -26,7 +26,7 @@ CLOSEST = [
     ("notify/", "tst_(alertor|results|events|preferences|settings|plaintext)|program_(tray|sound|protocol|link)"),
     ("viewer/frames/", "tst_(frame|compositelayers|viewersession)"),
     ("viewer/session/", "tst_viewersession|tst_(imageviewer|viewerpicture|openglfaults)$"),
-    ("viewer/widgets/", "tst_(picture|imagewidget|timeline|strips)|tst_(imageviewer|viewerpicture|openglfaults)$"),
+    ("viewer/widgets/", "tst_(picture|hud|imagewidget|timeline|strips)|tst_(imageviewer|viewerpicture|openglfaults)$"),
     ("resources/shaders/", "tst_picture"),
     ("viewer/", "tst_(imageviewer|viewerpicture|openglfaults)$"),
     ("ui/", "tst_(ui_helpers|skinned_dialog|message_box|startup|translations)"),
@@ -40,7 +40,7 @@ CLOSEST = [
     ("tools/demofarm/", "tst_demofarm|program_(events|reconnect|templates)"),
 ]
 
-PROGRAMS = ["tarrow-alertor", "tarrow-demofarm", "tarrow-imageinfo", "tarrow-view", "tst_picture"]
+PROGRAMS = ["tarrow-alertor", "tarrow-demofarm", "tarrow-imageinfo", "tarrow-view", "tst_picture", "tst_hud"]
 
 Fault = collections.namedtuple("Fault", "file breaks line wrong")
 

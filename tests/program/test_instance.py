@@ -46,11 +46,14 @@ def stopped_does_not_hold():
 
 def starting_hears_of_it():
     """A second start in the middle of the first's: while a template is loaded."""
-    write_template("slow.py", "import time\nprint('loading', flush=True)\ntime.sleep(2)\n")
+    gate = os.path.join(os.environ["HOME"], "gate")
+    os.mkfifo(gate)
+    write_template("slow.py", f"print('loading', flush=True)\nopen({gate!r}).read()\n")
     first = starting_alertor()
     first.expect("^loading$")
     second_start()
     equal(len(first.matching("^tarrow.app: ")), 0, "the first instance was no longer starting")
+    open(gate, "w", encoding="utf-8").close()
     first.expect(READY)
     wait_for(lambda: not splash_is_up(), "the splash to close")
     woken_up()

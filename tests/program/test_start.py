@@ -65,8 +65,9 @@ def screen_without_panel():
 
 def during_the_splash():
     gate = os.path.join(os.environ["HOME"], "gate")
+    os.mkfifo(gate)
     loading = "import os, time\nprint('loading', flush=True)\n"
-    write_template("slow.py", loading + f"while not os.path.exists({gate!r}): time.sleep(0.01)\n")
+    write_template("slow.py", loading + f"open({gate!r}).read()\n")
     write_template("then.py", loading + f"os.remove({gate!r})\ntime.sleep(1)\n")
     # The splash tells of this one next, and handles what has come meanwhile.
     write_template("usual.py", "")

@@ -1,10 +1,7 @@
-#include "glpath.h"
-#include "picturereference.h"
+#include "picturetest.h"
 #include "table.h"
 
 #include <ui/tappstate.h>
-#include <viewer/widgets/imagewidget.h>
-#include <viewer/widgets/render/hud.h>
 
 #include <QtCore/QRegularExpression>
 #include <QtGui/QOpenGLContext>
@@ -22,35 +19,10 @@
 #include <tuple>
 
 using Change = std::function<void(imageWidget &)>;
-using Spoiling = std::function<void(ImageFrame &)>;
 
 namespace {
 
 constexpr double kTolerance = 1.5;
-constexpr QSize kFrame(17, 11);
-constexpr QRect kPlace(0, 0, 61, 41);
-constexpr QRect kLargePlace(0, 0, 400, 300);
-
-ImageFrame stored(GLenum internalFormat, GLenum pixelType, int components, int textures = 1)
-{
-    ImageFrame form;
-    form.textureCount = textures;
-    form.internalFormat = internalFormat;
-    form.components = components;
-    form.pixelType = pixelType;
-    form.yFlipped = true;
-    return form;
-}
-
-ImageFrame flagged(bool isYCbCr = false, bool premultiplied = false, bool yFlipped = true)
-{
-    ImageFrame form = stored(GL_RGBA32F, GL_FLOAT, 4);
-    form.isYCbCr = isYCbCr;
-    form.premultiplied = premultiplied;
-    form.yFlipped = yFlipped;
-    return form;
-}
-
 /// Empty when every pixel is as it should be, else the first that is not.
 QString difference(const QImage &picture, const PictureSetup &setup, const PictureFrame *shown)
 {
@@ -72,55 +44,12 @@ QString difference(const QImage &picture, const PictureSetup &setup, const Pictu
     return {};
 }
 
-/// The rows that end the lines of a white text on black.
-QList<int> lineEnds(const QImage &picture)
-{
-    QList<int> ends;
-    bool within = false;
-    for (int y = 0; y < picture.height(); ++y) {
-        bool lit = false;
-        for (int x = 0; x < picture.width(); ++x)
-            lit = lit || qGray(picture.pixel(x, y)) > 100;
-        if (within && !lit)
-            ends.append(y);
-        within = lit;
-    }
-    return ends;
-}
-
 } // namespace
 
-class PictureTest final : public QObject {
+class PictureTest final : public PictureTestBase {
     Q_OBJECT
 
-public:
-    static void initMain() { chooseGlPath(); }
-
 private Q_SLOTS:
-    void init()
-    {
-        if (m_window)
-            return;
-        m_window = std::make_unique<QWidget>();
-        m_window->setFixedSize(600, 400);
-        m_picture = new imageWidget(m_window.get());
-        m_picture->setGeometry(kPlace);
-        m_picture->setHudOn(false);
-        const QSignalSpy shown(m_picture, &imageWidget::frameSwapped);
-        m_window->show();
-        QTRY_VERIFY(!shown.isEmpty());
-        QCOMPARE(m_picture->context()->format().profile(), QSurfaceFormat::defaultFormat().profile());
-    }
-    void cleanup()
-    {
-        m_picture->makeCurrent();
-        QCOMPARE(m_picture->context()->functions()->glGetError(), 0U);
-        // The rows of the pipeline share one: making it takes longest, and what it keeps between paints shows.
-        if (qstrcmp(QTest::currentTestFunction(), "pipeline") != 0)
-            m_window.reset();
-        QCOMPARE(imageWidget::liveTextures(), 0);
-    }
-
     void pipeline_data()
     {
         QTest::addColumn<PictureLook>("look");
@@ -385,110 +314,7 @@ private Q_SLOTS:
         }
     }
 
-    void hudIsLegibleOnAnyPicture_data()
-    {
-        addTable<QColor>({"text"},
-                         {{"white", Qt::white}, {"black", Qt::black}, {"grey", QColor(118, 118, 118)}});
-    }
-    void hudIsLegibleOnAnyPicture()
-    {
-        QFETCH(QColor, text);
-        m_picture->setGeometry(kLargePlace);
-        const auto shown = show(flagged(), QSize(10, 10), [](ImageFrame &frame) {
-            frame.filePath = std::string(500, 'a') + "/shot.0001.exr";
-        });
-        m_picture->setHudOn(true);
-        m_picture->setHudColor(text);
-        m_picture->setZoomFactor(60.0F);
-        m_picture->setChannelViewMode(-1); // transparent: the background shows, or the checker
-        for (const QColor &below : {QColor(Qt::white), QColor(Qt::black), QColor()}) {
-            m_picture->setCheckerOn(!below.isValid());
-            m_picture->setBackgroundColor(below);
-            const QImage picture = m_picture->grabFramebuffer();
-            double lightest = 0.0;
-            double darkest = 1.0;
-            const qreal ratio = m_picture->devicePixelRatioF();
-            // Within the first line, which the path fills from edge to edge.
-            for (int x = int(20 * ratio); x < int(380 * ratio); ++x) {
-                for (int y = int(14 * ratio); y < int(28 * ratio); ++y) {
-                    const double grey = picture.pixelColor(x, y).greenF();
-                    const double light =
-                        grey <= 0.04045 ? grey / 12.92 : std::pow((grey + 0.055) / 1.055, 2.4);
-                    lightest = std::max(lightest, light);
-                    darkest = std::min(darkest, light);
-                }
-            }
-            QVERIFY((lightest + 0.05) / (darkest + 0.05) >= 4.5);
-        }
-        const QString path = hudLines(shown->frame, 370).value(0);
-        QVERIFY(path.startsWith(u"File: aaa"_qs) && path.endsWith(u"shot.0001.exr"_qs));
-    }
-
-    void hudStandsWhereItsPathPutsIt()
-    {
-        m_picture->setGeometry(kLargePlace);
-        const auto shown = show(flagged(), QSize(900, 700));
-        const qreal ratio = m_picture->devicePixelRatioF();
-        m_picture->setChannelViewMode(-1);
-        m_picture->setCheckerOn(false);
-        m_picture->setHudColor(Qt::white);
-        QVERIFY(lineEnds(m_picture->grabFramebuffer()).isEmpty());
-        m_picture->setHudOn(true);
-        const QImage still = m_picture->grabFramebuffer();
-        const auto ends = lineEnds(still);
-        QCOMPARE(ends.size(), 7);
-        m_picture->setPan(QPoint(7, 5));
-        const QImage panned = m_picture->grabFramebuffer();
-        if (!TAppState::instance().gl32Supported) {
-            // Lines without a descender end at their baselines.
-            for (const auto &[line, row] : {std::pair(0, 25), {1, 47}, {6, 160}})
-                QVERIFY2(qAbs(ends[line] - row * ratio) <= ratio, qPrintable(QString::number(ends[line])));
-            QCOMPARE(panned, still);
-            QCOMPARE(imageWidget::liveTextures(), 1);
-            return;
-        }
-        QVERIFY(ends[0] > 25 * ratio && ends[0] < 33 * ratio);
-        const QSize common = still.size() - QSize(10, 10);
-        QCOMPARE(panned.copy(QRect(QPoint(0, 0), common)), still.copy(QRect(QPoint(7, 5), common)));
-        QCOMPARE(imageWidget::liveTextures(), 2);
-
-        // What is put into the texture shows for as long as the HUD does not make another.
-        const std::uint32_t green = 0xff00ff00U;
-        QOpenGLFunctions *gl = m_picture->context()->functions();
-        GLuint hud = 1;
-        while (hud == shown->frame.textureNames[0] || !gl->glIsTexture(hud))
-            ++hud;
-        gl->glBindTexture(GL_TEXTURE_2D, hud);
-        gl->glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, 1, 1, 0, GL_RGBA, GL_UNSIGNED_BYTE, &green);
-        gl->glBindTexture(GL_TEXTURE_2D, 0);
-        QCOMPARE(m_picture->grabFramebuffer().pixel((QPointF(16, 16) * ratio).toPoint()), 0xff00ff00U);
-        m_picture->setHudColor(Qt::red);
-        QVERIFY(m_picture->grabFramebuffer().pixel((QPointF(16, 16) * ratio).toPoint()) != 0xff00ff00U);
-        m_picture->setHudColor(Qt::white);
-        QCOMPARE(m_picture->grabFramebuffer(), panned);
-        QCOMPARE(imageWidget::liveTextures(), 2);
-    }
-
 private:
-    QImage onScreen() const
-    {
-        return m_picture->screen()->grabWindow().toImage().copy(
-            {m_picture->mapToGlobal(QPoint()), m_picture->size()});
-    }
-
-    std::unique_ptr<PictureFrame> show(ImageFrame form, QSize size, const Spoiling &spoil = {})
-    {
-        form.filePath = "A.exr";
-        form.formatName = "exr";
-        form.display = m_picture;
-        auto shown = std::make_unique<PictureFrame>(form, size);
-        if (spoil)
-            spoil(shown->frame);
-        m_picture->uploadTextures(shown->frame);
-        m_picture->showFrame(&shown->frame);
-        return shown;
-    }
-
     void compare(const PictureSetup &setup, const PictureFrame *shown)
     {
         m_picture->setCalibration(setup.look.calibration);
@@ -501,9 +327,6 @@ private:
         m_picture->setPan(setup.pan);
         QCOMPARE(difference(m_picture->grabFramebuffer(), setup, shown), QString());
     }
-
-    std::unique_ptr<QWidget> m_window;
-    imageWidget *m_picture = nullptr;
 };
 
 QTEST_MAIN(PictureTest)
