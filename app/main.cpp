@@ -14,6 +14,7 @@
 #include <ui/tappstate.h>
 
 #include <QtCore/QSocketNotifier>
+#include <QtCore/QTimer>
 
 #include <cstdio>
 
@@ -45,9 +46,7 @@ int run(QtSingleApplication &application, const CommandLine &line, Templates &te
         [&templates](int id, const QByteArray &message) { templates.invokeCustomMessage(id, message); });
     QObject::connect(&application, &QtSingleApplication::messageReceived, &alertor, &Alertor::handleMessage);
 
-    Look::installFonts();
-    Look::installPalette();
-    Look::installStyle(application);
+    Look look(application);
     Splash splash;
     splash.say(Splash::tr("Initializing..."));
     splash.show();
@@ -59,6 +58,7 @@ int run(QtSingleApplication &application, const CommandLine &line, Templates &te
     // Not of the window: it stays hidden, and the splash would wait a second for it to show.
     splash.finish(nullptr);
     alertor.minimize();
+    QTimer::singleShot(0, &look, &Look::askDesktop);
     const int code = isEnding ? 0 : QCoreApplication::exec();
 
     templates.shutdown();
@@ -85,7 +85,7 @@ int main(int argc, char *argv[])
     const int termination = TDesktop::TerminationDescriptor();
     bool isEnding = false;
     QtSingleApplication application(argc, argv);
-    QApplication::setFont(QFont(QStringLiteral("Lato")));
+    QApplication::setFont(Look::font());
     if (application.isRunning()) {
         application.sendMessage(QStringLiteral("wakeup"), kWakeUpTimeout);
         return 0;

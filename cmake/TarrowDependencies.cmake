@@ -1,5 +1,5 @@
 # Everything comes from the system's packages: scripts/packages.txt lists them.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Network Multimedia Svg OpenGL)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets DBus Network Multimedia Svg OpenGL)
 find_package(ZLIB REQUIRED)
 
 set(CMAKE_AUTOMOC ON)

@@ -2,6 +2,7 @@
 
 #include <ui/logfile.h>
 #include <ui/product.h>
+#include <ui/windowplacement.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
@@ -13,7 +14,7 @@ namespace {
 class PlainBox final : public QMessageBox {
 public:
     PlainBox(Icon icon, const QString &text, QWidget *parent)
-        : QMessageBox(icon, product::kProductTitle, text, Ok, parent)
+        : QMessageBox(icon, product::kProductTitle, text, Ok, shownParent(parent))
     {
         setTextFormat(Qt::PlainText);
         setDefaultButton(Ok);
@@ -41,7 +42,7 @@ bool Messages::askToQuit(QWidget *parent)
 {
     const QString question =
         QCoreApplication::translate("Messages", "Are you sure you want to close the Alertor?");
-    return QMessageBox::question(parent, product::kProductTitle, question) == QMessageBox::Yes;
+    return QMessageBox::question(shownParent(parent), product::kProductTitle, question) == QMessageBox::Yes;
 }
 
 QDialog *Messages::openRefusal(QWidget *parent)

@@ -1,24 +1,15 @@
 #include "look.h"
 
 #include "qtarrowstyle.h"
+#include "stylesheets.h"
+#include "theme.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QResource>
 #include <QtGui/QFontDatabase>
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
-
-namespace {
-
-QString textOf(const QString &resource)
-{
-    QFile file(resource);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-} // namespace
 
 void Look::installFonts()
 {
@@ -32,18 +23,53 @@ void Look::installFonts()
     }
 }
 
-void Look::installPalette()
+QFont Look::font()
 {
-    QPalette palette = QApplication::palette();
-    palette.setColor(QPalette::Disabled, QPalette::Light, QColor(0, 0, 0, 0));
-    QApplication::setPalette(palette);
+    QFont font(QStringLiteral("Lato"));
+    const qreal size = QFontDatabase::systemFont(QFontDatabase::GeneralFont).pointSizeF();
+    if (size > 0)
+        font.setPointSizeF(size);
+    return font;
 }
 
-void Look::installStyle(QApplication &application)
+Look::Look(QApplication &application)
+    : m_application(application)
 {
+    installFonts();
+    installPalette();
     QApplication::setStyle(new QTarrowStyle);
-    const QString sheet =
-        textOf(QStringLiteral(":/Styles/tarrow.qss")) + textOf(QStringLiteral(":/Styles/shared.qss"));
+    follow();
+    connect(&m_appearance, &DesktopAppearance::changed, this, [this] {
+        // What the toolkit's theme says is seen only where the program has set nothing.
+        QApplication::setPalette(QPalette());
+        installPalette();
+        follow();
+    });
+}
+
+void Look::askDesktop()
+{
+    m_appearance.ask();
+}
+
+void Look::installPalette()
+{
+    const QPalette desktop = QApplication::palette();
+    const bool isDark = m_appearance.prefersDark() || Theme::isDark(desktop);
+    const bool isToldMore = m_appearance.prefersHighContrast() || isDark != Theme::isDark(desktop);
+    QApplication::setPalette(
+        Theme::readable(isToldMore ? Theme::plain(isDark, m_appearance.prefersHighContrast()) : desktop));
+}
+
+void Look::follow()
+{
+    QApplication::setFont(font());
+    installStyleSheet();
+}
+
+void Look::installStyleSheet()
+{
+    const QString sheet = StyleSheets::forProgram(QApplication::palette());
     if (!sheet.isEmpty())
-        application.setStyleSheet(sheet);
+        m_application.setStyleSheet(sheet);
 }

@@ -1,5 +1,6 @@
 #include "qskinneddialog.h"
 
+#include "headerbutton.h"
 #include "managedwindow.h"
 #include "plaintext.h"
 #include "product.h"
@@ -21,8 +22,6 @@
 namespace {
 
 constexpr int kHeaderMargin = 3;
-constexpr int kHeaderButtonHeight = 14;
-constexpr int kHeaderImageSize = 11;
 constexpr auto kRectKey = "rect";
 
 QString settingsGroup(const QString &name)
@@ -148,21 +147,7 @@ void QSkinnedDialog::buildHeader()
 
 QPushButton *QSkinnedDialog::addHeaderButton(const QString &image, const QString &name)
 {
-    const QSize imageSize(kHeaderImageSize, kHeaderImageSize);
-    QIcon icon;
-    icon.addFile(QStringLiteral(":/Wins/Resources/wins/") + image, imageSize);
-
-    auto *button = new QPushButton(m_header);
-    // One style rule serves all three.
-    button->setObjectName(QStringLiteral("skinnedDialogCloseButton"));
-    button->setAccessibleName(name);
-    button->setToolTip(name);
-    button->setIcon(icon);
-    button->setIconSize(imageSize);
-    button->setFocusPolicy(Qt::NoFocus);
-    button->setAutoDefault(false);
-    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    button->setMaximumHeight(kHeaderButtonHeight);
+    auto *button = new HeaderButton(QStringLiteral(":/Wins/Resources/wins/") + image, name, m_header);
     m_header->layout()->addWidget(button);
     return button;
 }

@@ -1,5 +1,7 @@
 #include "qskinnedmessagebox.h"
 
+#include "windowplacement.h"
+
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
@@ -21,6 +23,7 @@ struct QSkinnedMessageBox::Message {
     QString title;
     QString text;
     Buttons buttons;
+    Button enter = QMessageBox::NoButton;
 };
 
 namespace {
@@ -41,12 +44,12 @@ struct Choice {
 
 // In the order shown, whatever order the caller thinks of.
 constexpr std::array<Choice, 5> kChoices{{
-    {QMessageBox::Yes, QT_TRANSLATE_NOOP("QSkinnedMessageBox", "Yes"), "skinnedMessageBoxYes", true},
-    {QMessageBox::No, QT_TRANSLATE_NOOP("QSkinnedMessageBox", "No"), "skinnedMessageBoxNo", false},
-    {QMessageBox::Cancel, QT_TRANSLATE_NOOP("QSkinnedMessageBox", "Cancel"), "skinnedMessageBoxCancel",
+    {QMessageBox::Yes, QT_TRANSLATE_NOOP("QSkinnedMessageBox", "&Yes"), "skinnedMessageBoxYes", true},
+    {QMessageBox::No, QT_TRANSLATE_NOOP("QSkinnedMessageBox", "&No"), "skinnedMessageBoxNo", false},
+    {QMessageBox::Cancel, QT_TRANSLATE_NOOP("QSkinnedMessageBox", "&Cancel"), "skinnedMessageBoxCancel",
      false},
-    {QMessageBox::Abort, QT_TRANSLATE_NOOP("QSkinnedMessageBox", "Abort"), "skinnedMessageBoxAbort", false},
-    {QMessageBox::Ok, QT_TRANSLATE_NOOP("QSkinnedMessageBox", "Ok"), "skinnedMessageBoxOk", true},
+    {QMessageBox::Abort, QT_TRANSLATE_NOOP("QSkinnedMessageBox", "&Abort"), "skinnedMessageBoxAbort", false},
+    {QMessageBox::Ok, QT_TRANSLATE_NOOP("QSkinnedMessageBox", "&Ok"), "skinnedMessageBoxOk", true},
 }};
 
 // Frameless and on top, as such a box has to be.
@@ -125,10 +128,10 @@ void QSkinnedMessageBox::fill(const Message &message)
     row->addWidget(m_icon, 0, Qt::AlignTop);
     row->addWidget(scrolled(m_text, content()), 1, Qt::AlignLeft | Qt::AlignVCenter);
     column->addLayout(row, 1);
-    addButtons(message.buttons);
+    addButtons(message.buttons, message.enter);
 }
 
-void QSkinnedMessageBox::addButtons(Buttons buttons)
+void QSkinnedMessageBox::addButtons(Buttons buttons, Button enter)
 {
     auto *row = new QHBoxLayout;
     row->addStretch();
@@ -144,9 +147,9 @@ void QSkinnedMessageBox::addButtons(Buttons buttons)
         connect(button, &QPushButton::clicked, this, &QSkinnedMessageBox::buttonPressed);
         m_buttons->addButton(button, choice.button);
         row->addWidget(button);
-        if (!focused || (choice.affirmative && !affirmed))
+        if (!focused || (choice.affirmative && !affirmed) || choice.button == enter)
             focused = button;
-        affirmed = affirmed || choice.affirmative;
+        affirmed = affirmed || choice.affirmative || choice.button == enter;
     }
     row->addStretch();
     static_cast<QVBoxLayout *>(content()->layout())->addLayout(row);
@@ -175,7 +178,7 @@ void QSkinnedMessageBox::buttonPressed()
 
 QSkinnedMessageBox::Button QSkinnedMessageBox::run(QWidget *parent, const Message &message)
 {
-    const QPointer<QSkinnedMessageBox> box(new QSkinnedMessageBox(parent));
+    const QPointer<QSkinnedMessageBox> box(new QSkinnedMessageBox(shownParent(parent)));
     box->fill(message);
     box->exec();
     if (!box)
@@ -207,4 +210,12 @@ QSkinnedMessageBox::Button QSkinnedMessageBox::question(QWidget *parent, const Q
                                                         const QString &text, Buttons buttons)
 {
     return run(parent, {QStyle::SP_MessageBoxQuestion, tr("Question"), title, text, buttons});
+}
+
+bool QSkinnedMessageBox::confirm(QWidget *parent, const QString &title, const QString &text)
+{
+    return run(parent,
+               {QStyle::SP_MessageBoxQuestion, tr("Question"), title, text,
+                QMessageBox::Yes | QMessageBox::No, QMessageBox::No})
+        == QMessageBox::Yes;
 }

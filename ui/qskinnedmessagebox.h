@@ -21,6 +21,8 @@ public:
     static Button warning(QWidget *parent, const QString &title, const QString &text, Buttons buttons);
     static Button critical(QWidget *parent, const QString &title, const QString &text, Buttons buttons);
     static Button question(QWidget *parent, const QString &title, const QString &text, Buttons buttons);
+    /// Asks for a yes where there is much to lose: Enter says no.
+    static bool confirm(QWidget *parent, const QString &title, const QString &text);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -35,7 +37,7 @@ private:
     static Button run(QWidget *parent, const Message &message);
 
     void fill(const Message &message);
-    void addButtons(Buttons buttons);
+    void addButtons(Buttons buttons, Button enter);
 
     QLabel *m_icon = nullptr;
     QLabel *m_text = nullptr;

@@ -2,6 +2,7 @@
 
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
+#include <QtWidgets/QWidget>
 
 #include <algorithm>
 
@@ -89,4 +90,9 @@ QRect fittedToScreens(const QRect &wanted)
     for (const QScreen *screen : screens)
         areas.append(screen->availableGeometry());
     return fittedToAreas(wanted, areas);
+}
+
+QWidget *shownParent(QWidget *parent)
+{
+    return parent && parent->window()->isVisible() ? parent : nullptr;
 }

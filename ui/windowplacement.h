@@ -5,6 +5,8 @@
 #include <QtCore/QRect>
 #include <QtCore/QSize>
 
+class QWidget;
+
 /// Whether windows are placed by the compositor alone (Wayland), so that drags have to be handed to it.
 bool compositorPlacesWindows();
 
@@ -16,6 +18,10 @@ QRect fittedToAreas(const QRect &wanted, const QList<QRect> &areas);
 /// The place of a window that opens after another: shifted down and to the right, at the work area's edges from its other
 /// side again. Never that of the other one.
 QPoint cascaded(const QRect &last, QSize size, const QRect &area);
+
+/// The parent for a box: null for one that is hidden, whose screen is not where the user is. A box without a parent
+/// opens on the screen of the pointer.
+QWidget *shownParent(QWidget *parent);
 
 /// fittedToAreas() with the work areas of the present screens.
 QRect fittedToScreens(const QRect &wanted);

@@ -13,6 +13,8 @@
 
 #include <image_library/iimagecore.h>
 #include <ui/plaintext.h>
+#include <ui/stylesheets.h>
+#include <ui/theme.h>
 #include <viewer/frames/cachetotals.h>
 #include <viewer/frames/framepaths.h>
 #include <viewer/frames/imageframe.h>
@@ -54,6 +56,8 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     setAttribute(Qt::WA_DeleteOnClose);
     setName(QStringLiteral("imageViewer"));
     setShowSetSize(true);
+    setPalette(Theme::neutral());
+    setStyleSheet(StyleSheets::forViewer());
     m_ui->setupUi(content());
     m_session = std::make_unique<ViewerSession>(totals, picture());
     m_zoom = new ZoomControl({m_ui->image, m_ui->horizontalScrollBar, m_ui->verticalScrollBar,

@@ -86,10 +86,10 @@ void MarkingControls::enableMarking()
 void MarkingControls::askToClear()
 {
     const QPointer<MarkingControls> self(this);
-    const auto answer = QSkinnedMessageBox::question(
-        m_form.image->window(), product::kProductTitle,
-        tr("Are you sure you want to remove the current markings ?"), QMessageBox::Yes | QMessageBox::No);
-    if (self && answer == QMessageBox::Yes)
+    const bool isSure =
+        QSkinnedMessageBox::confirm(m_form.image->window(), product::kProductTitle,
+                                    tr("Are you sure you want to remove the current markings ?"));
+    if (self && isSure)
         m_session.clearMarks();
 }
 

@@ -20,10 +20,7 @@ class TranslationsTest final : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        QApplication::setFont(QFont(QStringLiteral("Lato")));
-        Look::installFonts();
-        Look::installPalette();
-        Look::installStyle(*qApp);
+        m_look = std::make_unique<Look>(*qApp);
     }
     void cleanup() { qDeleteAll(qApp->findChildren<QTranslator *>()); }
 
@@ -87,6 +84,8 @@ private:
         for (const QScrollArea *area : window.findChildren<QScrollArea *>())
             QVERIFY2(area->widget()->width() <= area->viewport()->width(), qPrintable(area->objectName()));
     }
+
+    std::unique_ptr<Look> m_look;
 };
 
 QTEST_MAIN(TranslationsTest)

@@ -163,10 +163,8 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     TFramework::InitializeLibrary(argv[0]);
     installLanguage(QString());
-    QApplication::setFont(QFont(QStringLiteral("Lato")));
-    Look::installFonts();
-    Look::installPalette();
-    Look::installStyle(application);
+    Look look(application);
+    look.askDesktop();
     TAppState::instance().forceGl2 = options.forceGl2;
     probeOpenGl(TAppState::instance());
     const int code = TAppState::instance().openGlUsable

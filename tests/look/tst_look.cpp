@@ -1,0 +1,217 @@
+#include "desktops.h"
+#include "windowbook.h"
+
+#include <ui/glprobe.h>
+#include <ui/language.h>
+#include <ui/look.h>
+#include <ui/product.h>
+#include <ui/tappstate.h>
+#include <ui/theme.h>
+
+#include <QtCore/QTranslator>
+#include <QtTest/QTest>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+
+namespace {
+
+constexpr double kTextContrast = 4.5;
+
+/// The strongest contrast in a picture to the colour that fills most of it.
+double contrastIn(const QImage &picture)
+{
+    std::map<QRgb, int> counts;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            ++counts[picture.pixel(x, y)];
+    }
+    const auto most = std::max_element(counts.begin(), counts.end(), [](const auto &one, const auto &other) {
+        return one.second < other.second;
+    });
+    double strongest = 1;
+    for (const auto &[colour, count] : counts)
+        strongest = std::max(strongest, Theme::contrast(QColor(colour), QColor(most->first)));
+    return strongest;
+}
+
+QString textOf(const QWidget &widget)
+{
+    if (const auto *button = qobject_cast<const QAbstractButton *>(&widget))
+        return button->text();
+    if (const auto *label = qobject_cast<const QLabel *>(&widget))
+        return label->text();
+    if (const auto *field = qobject_cast<const QLineEdit *>(&widget))
+        return field->text();
+    const auto *box = qobject_cast<const QComboBox *>(&widget);
+    return box ? box->currentText() : QString();
+}
+
+bool isRead(const QWidget &widget)
+{
+    return widget.isVisible() && widget.isEnabled() && !textOf(widget).isEmpty()
+        && !widget.visibleRegion().isEmpty();
+}
+
+/// What does not fit: a text wider or higher than its place.
+QString cutOff(const QWidget &widget)
+{
+    if (!isRead(widget) || qobject_cast<const QLineEdit *>(&widget))
+        return {};
+    const auto *label = qobject_cast<const QLabel *>(&widget);
+    const bool isWrapped = label && label->wordWrap();
+    const QSize needed =
+        isWrapped ? QSize(0, widget.heightForWidth(widget.width())) : widget.minimumSizeHint();
+    const bool mayGiveWay = widget.sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
+    // The toolkit's own boxes lose a pixel of their buttons' air.
+    if (widget.height() + 1 >= needed.height() && (mayGiveWay || widget.width() >= needed.width()))
+        return {};
+    return QStringLiteral("%1 \"%2\" %3x%4 of %5x%6")
+        .arg(widget.objectName(), textOf(widget))
+        .arg(widget.width())
+        .arg(widget.height())
+        .arg(needed.width())
+        .arg(needed.height());
+}
+
+/// Siblings that lie over each other; those that are stacked on purpose have no text.
+QString overlapping(const QWidget &widget)
+{
+    for (const QObject *sibling : widget.parent() ? widget.parent()->children() : QObjectList()) {
+        const auto *other = qobject_cast<const QWidget *>(sibling);
+        if (other && other != &widget && !other->isWindow() && isRead(*other)
+            && other->geometry().intersects(widget.geometry()))
+            return QStringLiteral("%1 \"%2\" over \"%3\"")
+                .arg(widget.objectName(), textOf(widget), textOf(*other));
+    }
+    return {};
+}
+
+} // namespace
+
+class LookTest final : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QCoreApplication::setOrganizationName(product::kOrganisation);
+        QCoreApplication::setApplicationName(product::kApplicationName);
+        QApplication::setQuitOnLastWindowClosed(false);
+        probeOpenGl(TAppState::instance());
+    }
+    void cleanup()
+    {
+        qDeleteAll(qApp->findChildren<QTranslator *>());
+        QApplication::setPalette(QPalette());
+    }
+
+    void anyDesktopCanBeRead()
+    {
+        QList<Desktop> all = desktops();
+        all += {QStringLiteral("grey on grey"),
+                desktopPalette(0x808080, 0x7a7a7a, 0x868686, 0x8a8a8a, 0x828282, 0x808080)};
+        all += {QStringLiteral("neutral"), Theme::neutral()};
+        for (const Desktop &desktop : all) {
+            const QPalette palette = Theme::readable(desktop.palette);
+            using Role = QPalette::ColorRole;
+            const std::tuple<Role, Role, double> pairs[] = {
+                {QPalette::WindowText, QPalette::Window, 4.5},
+                {QPalette::Text, QPalette::Base, 4.5},
+                {QPalette::ButtonText, QPalette::Button, 4.5},
+                {QPalette::ButtonText, QPalette::Midlight, 4.5},
+                {QPalette::PlaceholderText, QPalette::Base, 4.5},
+                {QPalette::HighlightedText, QPalette::Highlight, 4.5},
+                {QPalette::ToolTipText, QPalette::ToolTipBase, 4.5},
+                {QPalette::Dark, QPalette::Window, 3.0},
+                {QPalette::Dark, QPalette::Base, 3.0},
+                {QPalette::Link, QPalette::Window, 3.0},
+                {QPalette::Link, QPalette::Button, 3.0},
+                {QPalette::Highlight, QPalette::Base, desktop.name == u"grey on grey" ? 1.0 : 3.0},
+            };
+            for (const auto &[front, back, needed] : pairs) {
+                const double ratio = Theme::contrast(palette.color(front), palette.color(back));
+                QVERIFY2(ratio >= needed,
+                         qPrintable(QStringLiteral("%1: role %2 on %3: %4")
+                                        .arg(desktop.name)
+                                        .arg(front)
+                                        .arg(back)
+                                        .arg(ratio)));
+            }
+        }
+    }
+
+    void textsStandOutInPictures_data()
+    {
+        QTest::addColumn<QPalette>("desktop");
+        for (const Desktop &desktop : desktops())
+            QTest::newRow(qPrintable(desktop.name)) << desktop.palette;
+    }
+    void textsStandOutInPictures()
+    {
+        QFETCH(QPalette, desktop);
+        QApplication::setPalette(desktop);
+        const Look look(*qApp);
+        double faintest = 21;
+        int count = 0;
+        WindowBook([&](const QString &name, QWidget &window) {
+            const QImage picture = window.grab().toImage();
+            const qreal ratio = picture.devicePixelRatio();
+            for (const QWidget *widget : window.findChildren<QWidget *>()) {
+                if (!isRead(*widget))
+                    continue;
+                const QRect place(widget->mapTo(&window, QPoint()), widget->size());
+                const double contrast = contrastIn(
+                    picture.copy(QRect(place.topLeft() * ratio, place.size() * ratio) & picture.rect()));
+                faintest = std::min(faintest, contrast);
+                ++count;
+                QVERIFY2(contrast >= kTextContrast,
+                         qPrintable(QStringLiteral("%1: %2 \"%3\" has %4:1")
+                                        .arg(name, widget->objectName(), textOf(*widget))
+                                        .arg(contrast)));
+            }
+        }).visitAll();
+        std::printf("contrast, %s: the faintest of %d texts has %.1f:1\n", QTest::currentDataTag(), count,
+                    faintest);
+        QVERIFY(count > 50);
+    }
+
+    void textsAreWhole_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<qreal>("size");
+        for (const char *language : {"en", "de", "es", "fr", "it", "ja"})
+            QTest::addRow("%s", language) << QString::fromLatin1(language) << 1.0;
+        QTest::addRow("de, larger") << QStringLiteral("de") << 1.5;
+    }
+    void textsAreWhole()
+    {
+        QFETCH(QString, language);
+        QFETCH(qreal, size);
+        installLanguage(language);
+        const Look look(*qApp);
+        QFont font = QApplication::font();
+        font.setPointSizeF(font.pointSizeF() * size);
+        QApplication::setFont(font);
+        QStringList faults;
+        WindowBook([&](const QString &name, QWidget &window) {
+            for (const QWidget *widget : window.findChildren<QWidget *>()) {
+                for (const QString &fault :
+                     {cutOff(*widget), isRead(*widget) ? overlapping(*widget) : QString()}) {
+                    if (!fault.isEmpty())
+                        faults += name + QStringLiteral(": ") + fault;
+                }
+            }
+        }).visitAll();
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+};
+
+QTEST_MAIN(LookTest)
+#include "tst_look.moc"
