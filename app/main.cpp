@@ -49,10 +49,12 @@ int run(QtSingleApplication &application, const CommandLine &line, Templates &te
     Look look(application);
     Splash splash;
     splash.say(Splash::tr("Initializing..."));
-    splash.show();
     splash.say(Splash::tr("Enumerating templates..."));
     TFramework::SetLibraryContext("Alertor", alertor.sendEntry());
-    templates.loadTemplates([&splash](const QString &what) { splash.say(what); });
+    templates.loadTemplates([&splash](const QString &what) {
+        splash.say(what);
+        splash.appear();
+    });
     TAppState::instance().forceGl2 = line.forceGl2;
     probeOpenGl(TAppState::instance());
     // Not of the window: it stays hidden, and the splash would wait a second for it to show.

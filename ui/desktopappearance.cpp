@@ -4,7 +4,8 @@
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusPendingCallWatcher>
-#include <QtDBus/QDBusPendingReply>
+#include <QtDBus/QDBusReply>
+#include <QtDBus/QDBusVariant>
 #include <QtGui/QWindow>
 
 #include <utility>
@@ -53,8 +54,9 @@ void DesktopAppearance::ask()
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    bus.connect(QLatin1String(kService), QLatin1String(kPath), QLatin1String(kInterface),
-                QStringLiteral("SettingChanged"), this, SLOT(take(QString, QString, QDBusVariant)));
+    // From whomever: to name a sender would wait for the bus to say who that is.
+    bus.connect(QString(), QLatin1String(kPath), QLatin1String(kInterface), QStringLiteral("SettingChanged"),
+                this, SLOT(take(QDBusMessage)));
     QDBusMessage call = QDBusMessage::createMethodCall(QLatin1String(kService), QLatin1String(kPath),
                                                        QLatin1String(kInterface), QStringLiteral("ReadAll"));
     call << QStringList{QLatin1String(kSpace)};
@@ -71,18 +73,21 @@ void DesktopAppearance::ask()
     });
 }
 
-void DesktopAppearance::take(const QString &space, const QString &key, const QDBusVariant &value)
+void DesktopAppearance::take(const QDBusMessage &change)
 {
-    if (space == QLatin1String(kSpace))
-        apply(key, value.variant());
+    const QVariantList said = change.arguments();
+    if (said.size() == 3 && said[0].toString() == QLatin1String(kSpace))
+        apply(said[1].toString(), said[2].value<QDBusVariant>().variant());
 }
 
 void DesktopAppearance::apply(const QString &key, const QVariant &value)
 {
-    bool *kept = key == QLatin1String("color-scheme") ? &m_prefersDark
-        : key == QLatin1String("contrast")            ? &m_prefersHighContrast
-                                                      : nullptr;
-    const uint wanted = key == QLatin1String("contrast") ? kHighContrast : kDark;
-    if (kept && std::exchange(*kept, value.toUInt() == wanted) != *kept)
-        Q_EMIT changed();
+    const bool isScheme = key == QLatin1String("color-scheme");
+    if (!isScheme && key != QLatin1String("contrast"))
+        return;
+    bool &kept = isScheme ? m_prefersDark : m_prefersHighContrast;
+    const bool said = value.toUInt() == (isScheme ? kDark : kHighContrast);
+    if (std::exchange(kept, said) == said)
+        return;
+    Q_EMIT changed();
 }

@@ -1,11 +1,10 @@
 #pragma once
 
 #include <QtCore/QObject>
-#include <QtCore/QVariantMap>
+#include <QtDBus/QDBusMessage>
 
 #include <memory>
 
-class QDBusVariant;
 class QWindow;
 
 /// What the desktop says about its look beyond the toolkit's own palette: the settings portal
@@ -28,7 +27,7 @@ Q_SIGNALS:
     void changed();
 
 private Q_SLOTS:
-    void take(const QString &space, const QString &key, const QDBusVariant &value);
+    void take(const QDBusMessage &change);
 
 private:
     void apply(const QString &key, const QVariant &value);
