@@ -1,14 +1,15 @@
 #!/usr/bin/env bash
-# scripts/isolated.sh [--display] [--tray] -- command...
+# scripts/isolated.sh [--display] [--tray] [--screen WIDTHxHEIGHT] -- command...
 #
 # Runs a command that can neither read nor change the user's settings, and takes everything it started away again.
 #   --display  gives it an X server and a window manager of its own; without it Qt draws off screen
 #   --tray     gives it a system tray too (implies --display)
+#   --screen   gives it a screen of that size (implies --display)
 # Ends with the command's status. Any number of these may run side by side.
 set -u
 
 usage() {
-    sed -n '2,7s/^# \{0,1\}//p' "$0"
+    sed -n '2,8s/^# \{0,1\}//p' "$0"
 }
 
 die() {
@@ -18,10 +19,12 @@ die() {
 
 display=no
 tray=no
+screen=1280x800
 while [ $# -gt 0 ]; do
     case $1 in
         --display) display=yes ;;
         --tray) display=yes tray=yes ;;
+        --screen) [ $# -gt 1 ] || { usage >&2; exit 125; }; display=yes screen=$2; shift ;;
         --help) usage; exit 0 ;;
         --) shift; break ;;
         *) usage >&2; exit 125 ;;
@@ -102,8 +105,8 @@ PYTHON
 start_display() {
     unset QT_QPA_PLATFORM
     # Xvfb writes the number of the display that it found free.
-    start_server xvfb bash -c 'exec Xvfb -displayfd 3 -screen 0 1280x800x24 +extension GLX -nolisten tcp -noreset 3>"$0"' \
-        "$work/display"
+    start_server xvfb bash -c 'exec Xvfb -displayfd 3 -screen 0 "$1x24" +extension GLX -nolisten tcp -noreset 3>"$0"' \
+        "$work/display" "$screen"
     wait_until "the X server" grep -q . "$work/display"
     DISPLAY=:$(cat "$work/display")
     export DISPLAY
