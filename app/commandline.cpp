@@ -60,7 +60,7 @@ QString commandLineHelp()
         "  -port NUMBER    connect to its TCP port NUMBER\n"
         "  -user NAME      log in as NAME\n"
         "  -pass PASSWORD  log in with PASSWORD, which other users of this machine can read\n"
-        "  --language CODE show the texts in de, en, es, fr, it or ja\n"
+        "  --language CODE show the texts in de, en, es, fr, it, ja, ko or zh_CN\n"
         "  -forcegl2       show images with OpenGL 2.1 even where 3.2 is there\n"
         "  --help          print this text and exit\n"
         "  --version       print the version and exit\n"

@@ -12,7 +12,7 @@ function(tarrow_add_translations target)
     set(name tarrow_${code})
     add_custom_command(OUTPUT ${name}.qm
       COMMAND Qt6::lrelease -silent ${CMAKE_CURRENT_SOURCE_DIR}/${name}.ts -qm ${name}.qm
-      DEPENDS ${name}.ts VERBATIM)
+      DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}.ts VERBATIM)
     list(APPEND sheets ${CMAKE_CURRENT_SOURCE_DIR}/${name}.ts)
     string(APPEND entries "<file>${name}.qm</file>")
   endforeach()

@@ -66,19 +66,19 @@
     </message>
     <message>
         <source>Input level start</source>
-        <translation>Eingangspegel Anfang</translation>
+        <translation>Eingangspegel Minimum</translation>
     </message>
     <message>
         <source>Input level end</source>
-        <translation>Eingangspegel Ende</translation>
+        <translation>Eingangspegel Maximum</translation>
     </message>
     <message>
         <source>Output level start</source>
-        <translation>Ausgangspegel Anfang</translation>
+        <translation>Ausgangspegel Minimum</translation>
     </message>
     <message>
         <source>Output level end</source>
-        <translation>Ausgangspegel Ende</translation>
+        <translation>Ausgangspegel Maximum</translation>
     </message>
     <message>
         <source>Soft clip</source>
@@ -111,7 +111,7 @@
     <name>EmptyList</name>
     <message>
         <source>&amp;Configure</source>
-        <translation>&amp;Konfigurieren</translation>
+        <translation>&amp;Einstellungen</translation>
     </message>
     <message>
         <source>Opens the preferences: where the Dispatcher is, and who logs in</source>
@@ -121,7 +121,7 @@
         <source>Nothing has happened yet.
 What the farm tells of your jobs appears here.</source>
         <translation>Es ist noch nichts geschehen.
-Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
+Was die Renderfarm von Ihren Jobs meldet, erscheint hier.</translation>
     </message>
 </context>
 <context>
@@ -258,7 +258,7 @@ Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
     </message>
     <message>
         <source>File format: %1, deep</source>
-        <translation>Dateiformat: %1, tief</translation>
+        <translation>Dateiformat: %1, Deep</translation>
     </message>
 </context>
 <context>
@@ -292,7 +292,7 @@ Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
     </message>
     <message>
         <source>File, numbered sequence or mask that is shown</source>
-        <translation>Angezeigte Datei, nummerierte Sequenz oder Maske</translation>
+        <translation>Angezeigte Datei, nummerierte Sequenz oder Namensmuster</translation>
     </message>
     <message>
         <source>Select images</source>
@@ -348,7 +348,7 @@ Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
     </message>
     <message>
         <source>Downsampling:</source>
-        <translation>Verkleinerung:</translation>
+        <translation>Downsampling:</translation>
     </message>
     <message>
         <source>Size at which frames are kept and shown</source>
@@ -408,7 +408,7 @@ Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
     </message>
     <message>
         <source>Take the colours of files that say so as multiplied by alpha</source>
-        <translation>Farben von Dateien, die es angeben, als mit Alpha multipliziert nehmen</translation>
+        <translation>Farben als mit Alpha multipliziert behandeln, wenn die Datei es angibt</translation>
     </message>
     <message>
         <source>HUD</source>
@@ -793,11 +793,11 @@ Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
     </message>
     <message>
         <source>OpenGL does not build the shaders that draw pictures. The log says why.</source>
-        <translation>OpenGL übersetzt die Shader nicht, die Bilder zeichnen. Das Protokoll nennt den Grund.</translation>
+        <translation>OpenGL kann die Shader, die Bilder zeichnen, nicht kompilieren. Das Protokoll nennt den Grund.</translation>
     </message>
     <message>
         <source>OpenGL has no memory for it. Choose a higher downsampling.</source>
-        <translation>OpenGL hat keinen Speicher dafür. Wählen Sie eine stärkere Verkleinerung.</translation>
+        <translation>OpenGL hat keinen Speicher dafür. Wählen Sie ein stärkeres Downsampling.</translation>
     </message>
     <message>
         <source>It is too large for OpenGL.</source>
@@ -805,11 +805,11 @@ Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
     </message>
     <message>
         <source>This OpenGL cannot show samples of its kind.</source>
-        <translation>Dieses OpenGL kann solche Bildwerte nicht anzeigen.</translation>
+        <translation>Dieses OpenGL kann Samples dieser Art nicht anzeigen.</translation>
     </message>
     <message>
         <source>It holds too few samples for its size.</source>
-        <translation>Sie enthält zu wenige Bildwerte für ihre Größe.</translation>
+        <translation>Sie enthält zu wenige Samples für ihre Größe.</translation>
     </message>
     <message>
         <source>You have no permission to read it.</source>
@@ -867,7 +867,7 @@ Was die Farm von Ihren Jobs meldet, erscheint hier.</translation>
     </message>
     <message>
         <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
-        <translation>Der Dispatcher hat die Verbindung abgelehnt. Bitte prüfen Sie Anmeldename und Passwort in den Alertor-Einstellungen!</translation>
+        <translation>Der Dispatcher hat die Verbindung des Alertors abgelehnt. Bitte prüfen Sie Anmeldename und Passwort in den Alertor-Einstellungen!</translation>
     </message>
     <message>
         <source>Tarrow Alertor %1 (build %2)
@@ -931,26 +931,6 @@ Protokoll: %3</translation>
 <context>
     <name>QSkinnedMessageBox</name>
     <message>
-        <source>Yes</source>
-        <translation>Ja</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Nein</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Abort</source>
-        <translation>Abbruch</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>Information</source>
         <translation>Information</translation>
     </message>
@@ -966,6 +946,26 @@ Protokoll: %3</translation>
         <source>Question</source>
         <translation>Frage</translation>
     </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>A&amp;bbruch</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>&amp;OK</translation>
+    </message>
 </context>
 <context>
     <name>ResultOpener</name>
@@ -975,7 +975,7 @@ Protokoll: %3</translation>
     </message>
     <message>
         <source>Cannot launch image viewer to shown selected frame</source>
-        <translation>Das Programm zum Anzeigen der gewählten Frames lässt sich nicht starten</translation>
+        <translation>Der Bildbetrachter für den gewählten Frame lässt sich nicht starten</translation>
     </message>
 </context>
 <context>
@@ -1068,7 +1068,7 @@ Ein Rechtsklick auf dieses Symbol öffnet das Kontextmenü, ein Doppelklick holt
     </message>
     <message>
         <source>&amp;Configure</source>
-        <translation>&amp;Konfigurieren</translation>
+        <translation>&amp;Einstellungen</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -1208,15 +1208,15 @@ Ein Rechtsklick auf dieses Symbol öffnet das Kontextmenü, ein Doppelklick holt
     </message>
     <message>
         <source>Play sound on items start</source>
-        <translation>Klang beim Start</translation>
+        <translation>Klang beim Start von Jobs und Chunks</translation>
     </message>
     <message>
         <source>Sound file for starts of items</source>
-        <translation>Klangdatei für Starts</translation>
+        <translation>Klangdatei für den Start von Jobs und Chunks</translation>
     </message>
     <message>
         <source>Choose the sound file for starts of items</source>
-        <translation>Klangdatei für Starts wählen</translation>
+        <translation>Klangdatei für den Start von Jobs und Chunks wählen</translation>
     </message>
     <message>
         <source>Play sound on service events</source>
@@ -1232,11 +1232,11 @@ Ein Rechtsklick auf dieses Symbol öffnet das Kontextmenü, ein Doppelklick holt
     </message>
     <message>
         <source>Single frame jobs</source>
-        <translation>Einzelbild-Jobs</translation>
+        <translation>Jobs mit nur einem Frame</translation>
     </message>
     <message>
         <source>Image viewer mode:</source>
-        <translation>Bildbetrachter:</translation>
+        <translation>Bildbetrachter-Modus:</translation>
     </message>
     <message>
         <source>Integrated</source>
@@ -1252,15 +1252,15 @@ Ein Rechtsklick auf dieses Symbol öffnet das Kontextmenü, ein Doppelklick holt
     </message>
     <message>
         <source>Image viewer application:</source>
-        <translation>Programm zum Betrachten:</translation>
+        <translation>Bildbetrachter-Programm:</translation>
     </message>
     <message>
         <source>Image viewer application</source>
-        <translation>Programm zum Betrachten</translation>
+        <translation>Bildbetrachter-Programm</translation>
     </message>
     <message>
         <source>Choose the image viewer application</source>
-        <translation>Programm zum Betrachten wählen</translation>
+        <translation>Bildbetrachter-Programm wählen</translation>
     </message>
     <message>
         <source>GPU/RAM viewer cache:</source>
@@ -1280,11 +1280,11 @@ Ein Rechtsklick auf dieses Symbol öffnet das Kontextmenü, ein Doppelklick holt
     </message>
     <message>
         <source>EXR import gamma</source>
-        <translation>Importgamma EXR</translation>
+        <translation>EXR-Importgamma</translation>
     </message>
     <message>
         <source>Default import gamma</source>
-        <translation>Importgamma Standard</translation>
+        <translation>Standard-Importgamma</translation>
     </message>
     <message>
         <source>Network and behaviours</source>

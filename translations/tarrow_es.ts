@@ -66,19 +66,19 @@
     </message>
     <message>
         <source>Input level start</source>
-        <translation>Nivel de entrada inicial</translation>
+        <translation>Nivel de entrada mínimo</translation>
     </message>
     <message>
         <source>Input level end</source>
-        <translation>Nivel de entrada final</translation>
+        <translation>Nivel de entrada máximo</translation>
     </message>
     <message>
         <source>Output level start</source>
-        <translation>Nivel de salida inicial</translation>
+        <translation>Nivel de salida mínimo</translation>
     </message>
     <message>
         <source>Output level end</source>
-        <translation>Nivel de salida final</translation>
+        <translation>Nivel de salida máximo</translation>
     </message>
     <message>
         <source>Soft clip</source>
@@ -111,7 +111,7 @@
     <name>EmptyList</name>
     <message>
         <source>&amp;Configure</source>
-        <translation>&amp;Configurar</translation>
+        <translation>&amp;Preferencias</translation>
     </message>
     <message>
         <source>Opens the preferences: where the Dispatcher is, and who logs in</source>
@@ -121,7 +121,7 @@
         <source>Nothing has happened yet.
 What the farm tells of your jobs appears here.</source>
         <translation>Aún no ha pasado nada.
-Lo que la granja diga de sus trabajos aparece aquí.</translation>
+Lo que la granja de render comunique sobre sus trabajos aparecerá aquí.</translation>
     </message>
 </context>
 <context>
@@ -258,7 +258,7 @@ Lo que la granja diga de sus trabajos aparece aquí.</translation>
     </message>
     <message>
         <source>File format: %1, deep</source>
-        <translation>Formato de archivo: %1, profundo</translation>
+        <translation>Formato de archivo: %1, deep</translation>
     </message>
 </context>
 <context>
@@ -292,7 +292,7 @@ Lo que la granja diga de sus trabajos aparece aquí.</translation>
     </message>
     <message>
         <source>File, numbered sequence or mask that is shown</source>
-        <translation>Archivo, secuencia numerada o máscara que se muestra</translation>
+        <translation>Archivo, secuencia numerada o patrón de nombre que se muestra</translation>
     </message>
     <message>
         <source>Select images</source>
@@ -416,7 +416,7 @@ Lo que la granja diga de sus trabajos aparece aquí.</translation>
     </message>
     <message>
         <source>Information over the picture</source>
-        <translation>Información sobre la imagen</translation>
+        <translation>Información superpuesta a la imagen</translation>
     </message>
     <message>
         <source>HUD colour</source>
@@ -424,7 +424,7 @@ Lo que la granja diga de sus trabajos aparece aquí.</translation>
     </message>
     <message>
         <source>Colour of the information</source>
-        <translation>Color de la información</translation>
+        <translation>Color de la información superpuesta</translation>
     </message>
     <message>
         <source>Save as default</source>
@@ -719,7 +719,7 @@ Lo que la granja diga de sus trabajos aparece aquí.</translation>
     </message>
     <message>
         <source>Link was down %1 to %2; events of that time are not sent again</source>
-        <translation>Sin enlace de %1 a %2; los eventos de ese tiempo no se envían de nuevo</translation>
+        <translation>Sin conexión de %1 a %2; los eventos de ese periodo no se vuelven a enviar</translation>
     </message>
     <message>
         <source>larger than 1 MiB</source>
@@ -931,26 +931,6 @@ Registro: %3</translation>
 <context>
     <name>QSkinnedMessageBox</name>
     <message>
-        <source>Yes</source>
-        <translation>Sí</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>No</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>Abort</source>
-        <translation>Interrumpir</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>Aceptar</translation>
-    </message>
-    <message>
         <source>Information</source>
         <translation>Información</translation>
     </message>
@@ -966,6 +946,26 @@ Registro: %3</translation>
         <source>Question</source>
         <translation>Pregunta</translation>
     </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sí</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Interrumpir</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>&amp;Aceptar</translation>
+    </message>
 </context>
 <context>
     <name>ResultOpener</name>
@@ -975,7 +975,7 @@ Registro: %3</translation>
     </message>
     <message>
         <source>Cannot launch image viewer to shown selected frame</source>
-        <translation>No se puede iniciar el visor para mostrar el fotograma seleccionado</translation>
+        <translation>No se puede iniciar el visor de imágenes para mostrar el fotograma seleccionado</translation>
     </message>
 </context>
 <context>
@@ -1035,7 +1035,7 @@ Registro: %3</translation>
     </message>
     <message>
         <source>Tarrow Alertor (not connected)</source>
-        <translation>Tarrow Alertor (sin conexión)</translation>
+        <translation>Tarrow Alertor (no conectado)</translation>
     </message>
     <message>
         <source>New event available!</source>
@@ -1060,7 +1060,7 @@ Haga clic derecho en este icono para abrir el menú o doble clic para mostrar la
     </message>
     <message>
         <source>&amp;Silent</source>
-        <translation>&amp;Silencio</translation>
+        <translation>&amp;Silenciar</translation>
     </message>
     <message>
         <source>&amp;Open images viewer</source>
@@ -1068,7 +1068,7 @@ Haga clic derecho en este icono para abrir el menú o doble clic para mostrar la
     </message>
     <message>
         <source>&amp;Configure</source>
-        <translation>C&amp;onfigurar</translation>
+        <translation>&amp;Preferencias</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -1252,15 +1252,15 @@ Haga clic derecho en este icono para abrir el menú o doble clic para mostrar la
     </message>
     <message>
         <source>Image viewer application:</source>
-        <translation>Aplicación de visor:</translation>
+        <translation>Aplicación de visualización:</translation>
     </message>
     <message>
         <source>Image viewer application</source>
-        <translation>Aplicación de visor</translation>
+        <translation>Aplicación de visualización</translation>
     </message>
     <message>
         <source>Choose the image viewer application</source>
-        <translation>Elegir la aplicación de visor</translation>
+        <translation>Elegir la aplicación de visualización</translation>
     </message>
     <message>
         <source>GPU/RAM viewer cache:</source>

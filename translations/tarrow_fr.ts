@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Shows the version, and where the log is</source>
-        <translation>Affiche la version et l’emplacement du journal</translation>
+        <translation>Affiche la version et l&apos;emplacement du journal</translation>
     </message>
     <message>
         <source>A&amp;bout</source>
@@ -111,17 +111,17 @@
     <name>EmptyList</name>
     <message>
         <source>&amp;Configure</source>
-        <translation>&amp;Configurer</translation>
+        <translation>Pré&amp;férences</translation>
     </message>
     <message>
         <source>Opens the preferences: where the Dispatcher is, and who logs in</source>
-        <translation>Ouvre les préférences : où se trouve le Dispatcher et qui se connecte</translation>
+        <translation>Ouvre les préférences&#xa0;: où se trouve le Dispatcher et qui se connecte</translation>
     </message>
     <message>
         <source>Nothing has happened yet.
 What the farm tells of your jobs appears here.</source>
-        <translation>Rien ne s’est encore passé.
-Ce que la ferme dit de vos tâches apparaît ici.</translation>
+        <translation>Rien ne s&apos;est encore passé.
+Ce que la ferme de rendu signale au sujet de vos jobs apparaît ici.</translation>
     </message>
 </context>
 <context>
@@ -258,7 +258,7 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>File format: %1, deep</source>
-        <translation>Format de fichier : %1, profond</translation>
+        <translation>Format de fichier&#xa0;: %1, deep</translation>
     </message>
 </context>
 <context>
@@ -292,7 +292,7 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>File, numbered sequence or mask that is shown</source>
-        <translation>Fichier, séquence numérotée ou masque affiché</translation>
+        <translation>Fichier, séquence numérotée ou motif de nom affiché</translation>
     </message>
     <message>
         <source>Select images</source>
@@ -416,7 +416,7 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>Information over the picture</source>
-        <translation>Informations sur l&apos;image</translation>
+        <translation>Informations superposées à l&apos;image</translation>
     </message>
     <message>
         <source>HUD colour</source>
@@ -424,15 +424,15 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>Colour of the information</source>
-        <translation>Couleur des informations</translation>
+        <translation>Couleur des informations superposées</translation>
     </message>
     <message>
         <source>Save as default</source>
-        <translation>Enregistrer par défaut</translation>
+        <translation>Définir par défaut</translation>
     </message>
     <message>
         <source>Save the display settings as default</source>
-        <translation>Enregistrer les réglages d&apos;affichage par défaut</translation>
+        <translation>Enregistrer les réglages d&apos;affichage comme réglages par défaut</translation>
     </message>
     <message>
         <source>Calibration</source>
@@ -472,7 +472,7 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>Save the calibration as default</source>
-        <translation>Enregistrer l&apos;étalonnage par défaut</translation>
+        <translation>Enregistrer l&apos;étalonnage comme étalonnage par défaut</translation>
     </message>
     <message>
         <source>Progress of the load</source>
@@ -576,7 +576,7 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>FPS:</source>
-        <translation>IPS&#xa0;:</translation>
+        <translation>i/s&#xa0;:</translation>
     </message>
     <message>
         <source>Frames per second</source>
@@ -652,33 +652,33 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>Luminance: the largest of red, green and blue</source>
-        <translation>Luminance : la plus grande valeur du rouge, du vert et du bleu</translation>
+        <translation>Luminance&#xa0;: la plus grande valeur du rouge, du vert et du bleu</translation>
     </message>
     <message>
         <source>Marked frames; the right button copies them</source>
-        <translation>Images marquées ; le bouton droit les copie</translation>
+        <translation>Images marquées&#xa0;; le bouton droit les copie</translation>
     </message>
     <message>
         <source>Marked chunks; the right button copies them</source>
-        <translation>Chunks marqués ; le bouton droit les copie</translation>
+        <translation>Chunks marqués&#xa0;; le bouton droit les copie</translation>
     </message>
 </context>
 <context>
     <name>LinkStatus</name>
     <message>
         <source>Connect &amp;now</source>
-        <translation>Connecter &amp;maintenant</translation>
+        <translation>Se co&amp;nnecter maintenant</translation>
     </message>
     <message>
         <source>Tries to connect to the Dispatcher at once</source>
-        <translation>Essaie de se connecter au Dispatcher tout de suite</translation>
+        <translation>Essaie de se connecter immédiatement au Dispatcher</translation>
     </message>
 </context>
 <context>
     <name>LinkWords</name>
     <message>
         <source>Not a Dispatcher: it sent %1</source>
-        <translation>Pas un Dispatcher : il a envoyé %1</translation>
+        <translation>Ce n&apos;est pas un Dispatcher&#xa0;: il a envoyé %1</translation>
     </message>
     <message>
         <source>The Dispatcher&apos;s stream was damaged</source>
@@ -702,7 +702,7 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>Log-in refused by %1 for %2</source>
-        <translation>Connexion refusée par %1 pour %2</translation>
+        <translation>Authentification de %2 refusée par %1</translation>
     </message>
     <message>
         <source>Not connected to %1 as %2</source>
@@ -711,15 +711,15 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     <message>
         <source>%1: %2</source>
         <comment>state of the link and why</comment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Next try at %1</source>
-        <translation>Prochain essai à %1</translation>
+        <translation>Prochaine tentative à %1</translation>
     </message>
     <message>
         <source>Link was down %1 to %2; events of that time are not sent again</source>
-        <translation>Liaison coupée de %1 à %2 ; les événements de ce temps ne sont pas renvoyés</translation>
+        <translation>Connexion interrompue de %1 à %2&#xa0;; les événements de cette période ne sont pas renvoyés</translation>
     </message>
     <message>
         <source>larger than 1 MiB</source>
@@ -735,11 +735,11 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>one to the Dispatcher was larger than 1 MiB</source>
-        <translation>un message au Dispatcher dépassait 1 Mio</translation>
+        <translation>un message vers le Dispatcher dépassait 1 Mio</translation>
     </message>
     <message>
         <source>Messages of or to the Dispatcher lost at %1: %2 (%3)</source>
-        <translation>Messages du Dispatcher ou vers lui perdus à %1 : %2 (%3)</translation>
+        <translation>Messages du Dispatcher ou vers lui perdus à %1&#xa0;: %2 (%3)</translation>
     </message>
 </context>
 <context>
@@ -758,7 +758,7 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>Open frame(s) exter&amp;nally</source>
-        <translation>Ouvrir la ou les images en e&amp;xterne</translation>
+        <translation>Ouvrir la ou les images dans une application e&amp;xterne</translation>
     </message>
     <message>
         <source>&amp;Remove selection	DEL</source>
@@ -781,11 +781,11 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>File that cannot be shown at path: %1</source>
-        <translation>Fichier impossible à afficher : %1</translation>
+        <translation>Fichier impossible à afficher&#xa0;: %1</translation>
     </message>
     <message>
         <source>Too large for OpenGL: shown at 1/%1 of its size</source>
-        <translation>Trop grande pour OpenGL : affichée à 1/%1 de sa taille</translation>
+        <translation>Trop grande pour OpenGL&#xa0;: affichée à 1/%1 de sa taille</translation>
     </message>
     <message>
         <source>OpenGL does not start.</source>
@@ -797,7 +797,7 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>OpenGL has no memory for it. Choose a higher downsampling.</source>
-        <translation>OpenGL n&apos;a pas assez de mémoire. Choisissez un sous-échantillonnage plus fort.</translation>
+        <translation>OpenGL n&apos;a pas assez de mémoire pour cette image. Choisissez un sous-échantillonnage plus fort.</translation>
     </message>
     <message>
         <source>It is too large for OpenGL.</source>
@@ -825,11 +825,11 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>The viewer cannot read it: %1</source>
-        <translation>La visionneuse ne peut pas le lire : %1</translation>
+        <translation>La visionneuse ne peut pas le lire&#xa0;: %1</translation>
     </message>
     <message>
         <source>What is wrong: %1</source>
-        <translation>Problème : %1</translation>
+        <translation>Problème&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -844,7 +844,7 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     </message>
     <message>
         <source>Are you sure you want to remove the current markings ?</source>
-        <translation>Voulez-vous vraiment supprimer les marques actuelles&#xa0;?</translation>
+        <translation>Voulez-vous vraiment retirer les marques actuelles&#xa0;?</translation>
     </message>
     <message>
         <source>Copy marked frames</source>
@@ -863,7 +863,7 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
     <name>Messages</name>
     <message>
         <source>Are you sure you want to close the Alertor?</source>
-        <translation>Voulez-vous vraiment fermer l&apos;Alertor&#xa0;?</translation>
+        <translation>Voulez-vous vraiment quitter l&apos;Alertor&#xa0;?</translation>
     </message>
     <message>
         <source>Dispatcher denied Alertor connection. Please double check the login and password in the Alertor applet configuration dialog!</source>
@@ -875,7 +875,7 @@ Ce que la ferme dit de vos tâches apparaît ici.</translation>
 Log: %3</source>
         <translation>Tarrow Alertor %1 (build %2)
 
-Journal : %3</translation>
+Journal&#xa0;: %3</translation>
     </message>
 </context>
 <context>
@@ -917,7 +917,7 @@ Journal : %3</translation>
     </message>
     <message>
         <source>Set default size and position</source>
-        <translation>Garder la taille et la position actuelles par défaut</translation>
+        <translation>Enregistrer la taille et la position actuelles par défaut</translation>
     </message>
     <message>
         <source>Close</source>
@@ -925,31 +925,11 @@ Journal : %3</translation>
     </message>
     <message>
         <source>Are you sure you want to set the default size and position for this dialog ?</source>
-        <translation>Voulez-vous vraiment garder la taille et la position actuelles par défaut pour cette fenêtre ?</translation>
+        <translation>Voulez-vous vraiment enregistrer la taille et la position actuelles comme valeurs par défaut de cette fenêtre&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>QSkinnedMessageBox</name>
-    <message>
-        <source>Yes</source>
-        <translation>Oui</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Non</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Abort</source>
-        <translation>Interrompre</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
     <message>
         <source>Information</source>
         <translation>Information</translation>
@@ -965,6 +945,26 @@ Journal : %3</translation>
     <message>
         <source>Question</source>
         <translation>Question</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Oui</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Non</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Interrompre</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>O&amp;K</translation>
     </message>
 </context>
 <context>
@@ -1068,7 +1068,7 @@ Cliquez avec le bouton droit sur cette icône pour le menu contextuel ou double-
     </message>
     <message>
         <source>&amp;Configure</source>
-        <translation>&amp;Configurer</translation>
+        <translation>Pré&amp;férences</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -1252,15 +1252,15 @@ Cliquez avec le bouton droit sur cette icône pour le menu contextuel ou double-
     </message>
     <message>
         <source>Image viewer application:</source>
-        <translation>Application de visionneuse&#xa0;:</translation>
+        <translation>Application de visualisation&#xa0;:</translation>
     </message>
     <message>
         <source>Image viewer application</source>
-        <translation>Application de visionneuse</translation>
+        <translation>Application de visualisation</translation>
     </message>
     <message>
         <source>Choose the image viewer application</source>
-        <translation>Choisir l&apos;application de visionneuse</translation>
+        <translation>Choisir l&apos;application de visualisation</translation>
     </message>
     <message>
         <source>GPU/RAM viewer cache:</source>

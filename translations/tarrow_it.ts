@@ -5,7 +5,7 @@
     <name>Alertor</name>
     <message>
         <source>Cannot save the settings: check the free space and the permissions of your home folder. Your changes apply until you quit.</source>
-        <translation>Impossibile salvare le impostazioni: controllare lo spazio libero e i permessi della cartella personale. Le modifiche valgono fino alla chiusura del programma.</translation>
+        <translation>Impossibile salvare le preferenze: controllare lo spazio libero e i permessi della cartella personale. Le modifiche valgono fino alla chiusura del programma.</translation>
     </message>
 </context>
 <context>
@@ -66,19 +66,19 @@
     </message>
     <message>
         <source>Input level start</source>
-        <translation>Livello di ingresso iniziale</translation>
+        <translation>Livello di ingresso minimo</translation>
     </message>
     <message>
         <source>Input level end</source>
-        <translation>Livello di ingresso finale</translation>
+        <translation>Livello di ingresso massimo</translation>
     </message>
     <message>
         <source>Output level start</source>
-        <translation>Livello di uscita iniziale</translation>
+        <translation>Livello di uscita minimo</translation>
     </message>
     <message>
         <source>Output level end</source>
-        <translation>Livello di uscita finale</translation>
+        <translation>Livello di uscita massimo</translation>
     </message>
     <message>
         <source>Soft clip</source>
@@ -111,7 +111,7 @@
     <name>EmptyList</name>
     <message>
         <source>&amp;Configure</source>
-        <translation>&amp;Configura</translation>
+        <translation>&amp;Preferenze</translation>
     </message>
     <message>
         <source>Opens the preferences: where the Dispatcher is, and who logs in</source>
@@ -121,7 +121,7 @@
         <source>Nothing has happened yet.
 What the farm tells of your jobs appears here.</source>
         <translation>Non è ancora successo nulla.
-Ciò che la farm dice dei tuoi lavori appare qui.</translation>
+Ciò che la render farm comunica sui propri job appare qui.</translation>
     </message>
 </context>
 <context>
@@ -258,7 +258,7 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
     </message>
     <message>
         <source>File format: %1, deep</source>
-        <translation>Formato file: %1, profondo</translation>
+        <translation>Formato file: %1, deep</translation>
     </message>
 </context>
 <context>
@@ -292,7 +292,7 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
     </message>
     <message>
         <source>File, numbered sequence or mask that is shown</source>
-        <translation>File, sequenza numerata o maschera mostrata</translation>
+        <translation>File, sequenza numerata o modello di nome mostrato</translation>
     </message>
     <message>
         <source>Select images</source>
@@ -416,7 +416,7 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
     </message>
     <message>
         <source>Information over the picture</source>
-        <translation>Informazioni sull&apos;immagine</translation>
+        <translation>Informazioni sovrapposte all&apos;immagine</translation>
     </message>
     <message>
         <source>HUD colour</source>
@@ -424,7 +424,7 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
     </message>
     <message>
         <source>Colour of the information</source>
-        <translation>Colore delle informazioni</translation>
+        <translation>Colore delle informazioni sovrapposte</translation>
     </message>
     <message>
         <source>Save as default</source>
@@ -456,7 +456,7 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation>Ripristina</translation>
+        <translation>Reimposta</translation>
     </message>
     <message>
         <source>Calibration for the current file</source>
@@ -719,7 +719,7 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
     </message>
     <message>
         <source>Link was down %1 to %2; events of that time are not sent again</source>
-        <translation>Collegamento interrotto da %1 a %2; gli eventi di quel periodo non vengono inviati di nuovo</translation>
+        <translation>Connessione interrotta da %1 a %2; gli eventi di quel periodo non vengono inviati di nuovo</translation>
     </message>
     <message>
         <source>larger than 1 MiB</source>
@@ -758,7 +758,7 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
     </message>
     <message>
         <source>Open frame(s) exter&amp;nally</source>
-        <translation>Apri fotogramma/i est&amp;ernamente</translation>
+        <translation>Apri fotogramma/i in un&apos;applicazione &amp;esterna</translation>
     </message>
     <message>
         <source>&amp;Remove selection	DEL</source>
@@ -817,7 +817,7 @@ Ciò che la farm dice dei tuoi lavori appare qui.</translation>
     </message>
     <message>
         <source>It is no image of a format that the viewer reads.</source>
-        <translation>Non è un’immagine in un formato che il visualizzatore legge.</translation>
+        <translation>Non è un&apos;immagine in un formato che il visualizzatore legge.</translation>
     </message>
     <message>
         <source>Its picture is too large for the memory of this computer.</source>
@@ -931,26 +931,6 @@ Registro: %3</translation>
 <context>
     <name>QSkinnedMessageBox</name>
     <message>
-        <source>Yes</source>
-        <translation>Sì</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>No</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
-        <source>Abort</source>
-        <translation>Interrompi</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>Information</source>
         <translation>Informazioni</translation>
     </message>
@@ -966,6 +946,26 @@ Registro: %3</translation>
         <source>Question</source>
         <translation>Domanda</translation>
     </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sì</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>&amp;Interrompi</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>&amp;OK</translation>
+    </message>
 </context>
 <context>
     <name>ResultOpener</name>
@@ -975,7 +975,7 @@ Registro: %3</translation>
     </message>
     <message>
         <source>Cannot launch image viewer to shown selected frame</source>
-        <translation>Impossibile avviare il visualizzatore per mostrare il fotogramma selezionato</translation>
+        <translation>Impossibile avviare il visualizzatore immagini per mostrare il fotogramma selezionato</translation>
     </message>
 </context>
 <context>
@@ -1056,7 +1056,7 @@ Fare clic destro su questa icona per il menu contestuale o doppio clic per mostr
     </message>
     <message>
         <source>&amp;Acknowledge pending events</source>
-        <translation>C&amp;onferma eventi in sospeso</translation>
+        <translation>&amp;Conferma eventi in sospeso</translation>
     </message>
     <message>
         <source>&amp;Silent</source>
@@ -1068,7 +1068,7 @@ Fare clic destro su questa icona per il menu contestuale o doppio clic per mostr
     </message>
     <message>
         <source>&amp;Configure</source>
-        <translation>&amp;Configura</translation>
+        <translation>&amp;Preferenze</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -1079,7 +1079,7 @@ Fare clic destro su questa icona per il menu contestuale o doppio clic per mostr
     <name>ViewerWindows</name>
     <message>
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
-        <translation>La GPU non supporta OpenGL! Il visualizzatore di immagini non può essere usato!</translation>
+        <translation>La GPU non supporta OpenGL! Il visualizzatore immagini non può essere usato!</translation>
     </message>
 </context>
 <context>
@@ -1252,15 +1252,15 @@ Fare clic destro su questa icona per il menu contestuale o doppio clic per mostr
     </message>
     <message>
         <source>Image viewer application:</source>
-        <translation>Applicazione visualizzatore:</translation>
+        <translation>Applicazione di visualizzazione:</translation>
     </message>
     <message>
         <source>Image viewer application</source>
-        <translation>Applicazione visualizzatore</translation>
+        <translation>Applicazione di visualizzazione</translation>
     </message>
     <message>
         <source>Choose the image viewer application</source>
-        <translation>Scegli l&apos;applicazione visualizzatore</translation>
+        <translation>Scegli l&apos;applicazione di visualizzazione</translation>
     </message>
     <message>
         <source>GPU/RAM viewer cache:</source>
@@ -1276,15 +1276,15 @@ Fare clic destro su questa icona per il menu contestuale o doppio clic per mostr
     </message>
     <message>
         <source>EXR/Default import gamma:</source>
-        <translation>Gamma di import EXR/predefinita:</translation>
+        <translation>Gamma di importazione EXR/altri:</translation>
     </message>
     <message>
         <source>EXR import gamma</source>
-        <translation>Gamma di import EXR</translation>
+        <translation>Gamma di importazione EXR</translation>
     </message>
     <message>
         <source>Default import gamma</source>
-        <translation>Gamma di import predefinita</translation>
+        <translation>Gamma di importazione predefinito</translation>
     </message>
     <message>
         <source>Network and behaviours</source>

@@ -5,7 +5,7 @@
     <name>Alertor</name>
     <message>
         <source>Cannot save the settings: check the free space and the permissions of your home folder. Your changes apply until you quit.</source>
-        <translation>設定を保存できません。ホームフォルダーの空き容量とアクセス権を確認してください。変更はプログラムを終了するまで有効です。</translation>
+        <translation>環境設定を保存できません。ホームフォルダーの空き容量とアクセス権を確認してください。変更はプログラムを終了するまで有効です。</translation>
     </message>
 </context>
 <context>
@@ -66,19 +66,19 @@
     </message>
     <message>
         <source>Input level start</source>
-        <translation>入力レベル開始</translation>
+        <translation>入力レベル下限</translation>
     </message>
     <message>
         <source>Input level end</source>
-        <translation>入力レベル終了</translation>
+        <translation>入力レベル上限</translation>
     </message>
     <message>
         <source>Output level start</source>
-        <translation>出力レベル開始</translation>
+        <translation>出力レベル下限</translation>
     </message>
     <message>
         <source>Output level end</source>
-        <translation>出力レベル終了</translation>
+        <translation>出力レベル上限</translation>
     </message>
     <message>
         <source>Soft clip</source>
@@ -120,8 +120,8 @@
     <message>
         <source>Nothing has happened yet.
 What the farm tells of your jobs appears here.</source>
-        <translation>まだ何も起きていません。
-ファームからのジョブの知らせがここに表示されます。</translation>
+        <translation>まだイベントはありません。
+レンダーファームからのジョブの通知がここに表示されます。</translation>
     </message>
 </context>
 <context>
@@ -292,7 +292,7 @@ What the farm tells of your jobs appears here.</source>
     </message>
     <message>
         <source>File, numbered sequence or mask that is shown</source>
-        <translation>表示するファイル、連番、またはマスク</translation>
+        <translation>表示するファイル、連番、またはファイル名パターン</translation>
     </message>
     <message>
         <source>Select images</source>
@@ -352,7 +352,7 @@ What the farm tells of your jobs appears here.</source>
     </message>
     <message>
         <source>Size at which frames are kept and shown</source>
-        <translation>フレームを保持、表示するサイズ</translation>
+        <translation>フレームを保持・表示するサイズ</translation>
     </message>
     <message>
         <source>Zoom out</source>
@@ -656,11 +656,11 @@ What the farm tells of your jobs appears here.</source>
     </message>
     <message>
         <source>Marked frames; the right button copies them</source>
-        <translation>マークしたフレーム。右ボタンでコピーします</translation>
+        <translation>マークしたフレーム。右クリックでコピーできます</translation>
     </message>
     <message>
         <source>Marked chunks; the right button copies them</source>
-        <translation>マークしたチャンク。右ボタンでコピーします</translation>
+        <translation>マークしたチャンク。右クリックでコピーできます</translation>
     </message>
 </context>
 <context>
@@ -682,7 +682,7 @@ What the farm tells of your jobs appears here.</source>
     </message>
     <message>
         <source>The Dispatcher&apos;s stream was damaged</source>
-        <translation>Dispatcher からのデータが壊れていました</translation>
+        <translation>Dispatcher からのデータストリームが破損していました</translation>
     </message>
     <message>
         <source>Not connected</source>
@@ -727,7 +727,7 @@ What the farm tells of your jobs appears here.</source>
     </message>
     <message>
         <source>damaged</source>
-        <translation>壊れています</translation>
+        <translation>破損しています</translation>
     </message>
     <message>
         <source>the Dispatcher does not read</source>
@@ -793,7 +793,7 @@ What the farm tells of your jobs appears here.</source>
     </message>
     <message>
         <source>OpenGL does not build the shaders that draw pictures. The log says why.</source>
-        <translation>画像を描くシェーダーを OpenGL がビルドできません。理由はログにあります。</translation>
+        <translation>画像を描くシェーダーを OpenGL がコンパイルできません。理由はログにあります。</translation>
     </message>
     <message>
         <source>OpenGL has no memory for it. Choose a higher downsampling.</source>
@@ -844,7 +844,7 @@ What the farm tells of your jobs appears here.</source>
     </message>
     <message>
         <source>Are you sure you want to remove the current markings ?</source>
-        <translation>現在のマークを削除しますか?</translation>
+        <translation>現在のマークをすべて外しますか?</translation>
     </message>
     <message>
         <source>Copy marked frames</source>
@@ -931,26 +931,6 @@ Log: %3</source>
 <context>
     <name>QSkinnedMessageBox</name>
     <message>
-        <source>Yes</source>
-        <translation>はい</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>いいえ</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
-    </message>
-    <message>
-        <source>Abort</source>
-        <translation>中止</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>Information</source>
         <translation>情報</translation>
     </message>
@@ -966,6 +946,26 @@ Log: %3</source>
         <source>Question</source>
         <translation>確認</translation>
     </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>はい(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>いいえ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Abort</source>
+        <translation>中止(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>OK(&amp;O)</translation>
+    </message>
 </context>
 <context>
     <name>ResultOpener</name>
@@ -975,7 +975,7 @@ Log: %3</source>
     </message>
     <message>
         <source>Cannot launch image viewer to shown selected frame</source>
-        <translation>選択したフレームを表示するビューアを起動できません</translation>
+        <translation>選択したフレームを表示するイメージビューアを起動できません</translation>
     </message>
 </context>
 <context>
@@ -1117,7 +1117,7 @@ Right-click on this icon to access the context menu or double click to raise the
     </message>
     <message>
         <source>A port is a number from 1 to 65535</source>
-        <translation>ポートは 1 から 65535 の数です</translation>
+        <translation>ポート番号は 1～65535 の範囲で指定してください</translation>
     </message>
 </context>
 <context>
@@ -1208,15 +1208,15 @@ Right-click on this icon to access the context menu or double click to raise the
     </message>
     <message>
         <source>Play sound on items start</source>
-        <translation>開始時に音を鳴らす</translation>
+        <translation>項目の開始時に音を鳴らす</translation>
     </message>
     <message>
         <source>Sound file for starts of items</source>
-        <translation>開始用サウンドファイル</translation>
+        <translation>項目開始用サウンドファイル</translation>
     </message>
     <message>
         <source>Choose the sound file for starts of items</source>
-        <translation>開始用サウンドファイルを選択</translation>
+        <translation>項目開始用サウンドファイルを選択</translation>
     </message>
     <message>
         <source>Play sound on service events</source>
@@ -1328,7 +1328,7 @@ Right-click on this icon to access the context menu or double click to raise the
     </message>
     <message>
         <source>Show bubble (when supported)</source>
-        <translation>バルーンを表示 (対応時)</translation>
+        <translation>バルーンを表示 (対応環境のみ)</translation>
     </message>
     <message>
         <source>Automatic aknowledge notifications when raising the application</source>

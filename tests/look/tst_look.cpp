@@ -259,7 +259,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<qreal>("size");
-        for (const char *language : {"en", "de", "es", "fr", "it", "ja"})
+        for (const char *language : {"en", "de", "es", "fr", "it", "ja", "ko", "zh_CN"})
             QTest::addRow("%s", language) << QString::fromLatin1(language) << 1.0;
         QTest::addRow("de, larger") << QStringLiteral("de") << 1.5;
     }

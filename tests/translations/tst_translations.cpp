@@ -42,7 +42,7 @@ private Q_SLOTS:
 
     void everyLanguage_data()
     {
-        addTable<int>({"none"}, {{"de", 0}, {"es", 0}, {"fr", 0}, {"it", 0}, {"ja", 0}});
+        addTable<int>({"none"}, {{"de", 0}, {"es", 0}, {"fr", 0}, {"it", 0}, {"ja", 0}, {"ko", 0}, {"zh_CN", 0}});
     }
     /// Its mnemonics are unique and its texts are shown whole.
     void everyLanguage()
