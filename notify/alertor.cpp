@@ -1,12 +1,13 @@
 #include "alertor.h"
 
 #include "emptylist.h"
+#include "eventcolumns.h"
 #include "linkdisplay.h"
 #include "menus.h"
 #include "messages.h"
 #include "notifylog.h"
+#include "pendingcounts.h"
 #include "preferences.h"
-#include "resultopener.h"
 #include "ui_alertor.h"
 
 #include <net/protocol/packets.h>
@@ -20,6 +21,7 @@
 #include <QtCore/QPointer>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QShortcut>
 #include <QtWidgets/QApplication>
 
 #include <chrono>
@@ -45,11 +47,13 @@ Alertor::Alertor(QWidget *parent)
     , m_sendEntry{this, &sendThrough}
 {
     m_ui->setupUi(this);
-    m_ui->linkStatus->addButton(m_ui->aboutButton);
-    m_ui->linkStatus->addButton(m_ui->menuButton);
+    m_ui->statusLine->addButton(m_ui->menuButton);
     m_ui->treeWidget->setModel(&m_model);
+    m_ui->statusLine->counts().follow(m_events, m_model);
     m_ui->treeWidget->installEventFilter(this);
     connect(m_ui->treeWidget, &QWidget::customContextMenuRequested, this, &Alertor::popupMenu);
+    connect(m_ui->treeWidget, &EventsView::openRequested, this,
+            [this](quint64 id) { m_actions.openEvent(id); });
     buildMenus();
     connectSession();
     m_session.setSettings(m_settings.link());
@@ -68,6 +72,7 @@ Alertor::~Alertor()
     m_session.disconnect(this);
     m_session.closeConnection();
     updateIcon(false);
+    hide(); // what it keeps is saved then
 }
 
 void Alertor::buildMenus()
@@ -79,9 +84,13 @@ void Alertor::buildMenus()
     connect(m_trayMenu->silent, &QAction::triggered, this, &Alertor::actIsSilent);
     connect(m_trayMenu->openViewer, &QAction::triggered, this, &Alertor::openImageViewer);
     connect(m_trayMenu->configure, &QAction::triggered, this, &Alertor::configure);
-    connect(m_ui->aboutButton, &QPushButton::clicked, this, [this] { Messages::showAbout(this); });
     connect(m_trayMenu->quit, &QAction::triggered, this, &Alertor::onQuit);
-    m_ui->menuButton->setMenu(m_trayMenu);
+    auto *windowMenu = new WindowMenu(*m_trayMenu, m_ui->treeWidget->columns().menu(), this);
+    connect(windowMenu, &QMenu::aboutToShow, this, &Alertor::updateTrayMenu);
+    connect(windowMenu->about, &QAction::triggered, this, [this] { Messages::showAbout(this); });
+    m_ui->menuButton->setMenu(windowMenu);
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, m_ui->menuButton,
+            &QPushButton::showMenu);
 
     m_listMenu = new ListMenu(this);
     connect(m_listMenu->acknowledge, &QAction::triggered, this, &Alertor::actAckSelection);
@@ -102,8 +111,8 @@ void Alertor::connectSession()
     connect(&m_session, &DispatcherSession::reportChanged, this, [this] { updateIcon(true); });
     auto *emptyList = new EmptyList(m_ui->treeWidget);
     connect(emptyList, &EmptyList::configureRequested, this, &Alertor::configure);
-    connect(m_ui->linkStatus, &LinkStatus::connectRequested, &m_session, &DispatcherSession::retry);
-    m_linkDisplay = new LinkDisplay(m_session, {m_tray, *m_ui->linkStatus, *emptyList}, this);
+    connect(m_ui->statusLine, &StatusLine::connectRequested, &m_session, &DispatcherSession::retry);
+    m_linkDisplay = new LinkDisplay(m_session, {m_tray, *m_ui->statusLine, *emptyList}, this);
 }
 
 void Alertor::loadSettings()
@@ -114,6 +123,7 @@ void Alertor::loadSettings()
     m_linkDisplay->setConfigured(m_isConfigured);
     m_session.setSettings(m_settings.link());
     m_viewers.setSettings(m_settings);
+    keepAbove(this, m_settings.keepAbove);
 }
 
 void Alertor::saveSettings()
@@ -217,18 +227,10 @@ void Alertor::handleNewEvent(std::unique_ptr<NotifyEvent> event)
     if (!m_silent && handling.sound)
         m_sounds.play(m_settings.*handling.sound);
     if (handling.singleFrame && m_settings.launchImageViewer)
-        openResult(kept);
+        m_actions.openResult(kept);
     else if (m_settings.showBubble)
         m_tray.showNewEvent();
     refreshList();
-}
-
-void Alertor::openResult(const NotifyEvent &event)
-{
-    if (m_settings.imageViewerMode == 1)
-        ResultOpener::startExternalViewer(m_settings.imageViewer, event.text(EventKey::kFramesMask));
-    else
-        m_viewers.openSoon(event, m_events);
 }
 
 void Alertor::refreshList()
@@ -267,31 +269,19 @@ void Alertor::actRemoveAll()
     refreshList();
 }
 
-QList<const NotifyEvent *> Alertor::selectedEvents() const
-{
-    return m_events.find(m_ui->treeWidget->selectedIds());
-}
-
 void Alertor::actOpenOutput()
 {
-    ResultOpener::openOutputs(selectedEvents(), this);
+    m_actions.openOutputs(m_ui->treeWidget->selectedIds());
 }
 
 void Alertor::actOpenFrame()
 {
-    // All of them first: a message box runs an event loop, in which events may go.
-    QList<EventFrames> selected;
-    for (const NotifyEvent *event : selectedEvents()) {
-        if (event->has(EventKey::kFramesMask))
-            selected += framesOf(*event, m_events);
-    }
-    for (const EventFrames &frames : selected)
-        m_viewers.open(frames, true);
+    m_actions.openFrames(m_ui->treeWidget->selectedIds());
 }
 
 void Alertor::actOpenFrameExternally()
 {
-    ResultOpener::openFramesExternally(selectedEvents(), m_settings.imageViewer, this);
+    m_actions.openFramesExternally(m_ui->treeWidget->selectedIds());
 }
 
 void Alertor::onQuit()
@@ -308,9 +298,8 @@ void Alertor::actIsSilent()
 
 void Alertor::popupMenu(const QPoint &position)
 {
-    Q_UNUSED(position);
-    m_listMenu->follow(selectedEvents(), m_events.size() > 0);
-    m_listMenu->popup(QCursor::pos());
+    m_listMenu->follow(m_events.find(m_ui->treeWidget->selectedIds()), m_events.size() > 0);
+    m_listMenu->popup(m_ui->treeWidget->viewport()->mapToGlobal(position));
 }
 
 void Alertor::minimize()
@@ -329,7 +318,8 @@ void Alertor::minimize()
 void Alertor::restore()
 {
     if (m_settings.autoAckOnRaise)
-        actAckEvents();
+        m_events.ackAllAtSight();
+    refreshList();
     showNormal();
     raise();
     activateWindow();
@@ -392,6 +382,7 @@ void Alertor::applySettings(const Settings &edited)
         updateIcon(false);
     }
     m_viewers.setSettings(m_settings);
+    keepAbove(this, m_settings.keepAbove);
     m_sounds.clear();
     saveSettings();
 }
@@ -412,7 +403,6 @@ void Alertor::timerEvent()
 void Alertor::standInForTray()
 {
     const bool hasTray = QSystemTrayIcon::isSystemTrayAvailable();
-    m_ui->menuButton->setVisible(!hasTray);
     // A window that was hidden into a tray which has gone since: nobody would find it again.
     if (!hasTray && !isVisible() && !m_firstHideHint)
         show();
@@ -427,7 +417,18 @@ void Alertor::closeEvent(QCloseEvent *event)
 void Alertor::showEvent(QShowEvent *event)
 {
     standInForTray();
-    QDialog::showEvent(event);
+    QDialog::showEvent(event); // puts it into the middle of the screen, large or small
+    if (!event->spontaneous())
+        m_place.takeUp();
+}
+
+void Alertor::hideEvent(QHideEvent *event)
+{
+    if (!event->spontaneous()) {
+        m_events.settle();
+        m_place.save();
+    }
+    QDialog::hideEvent(event);
 }
 
 bool Alertor::event(QEvent *event)

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "eventactions.h"
 #include "eventsmodel.h"
 #include "soundplayer.h"
 #include "tray.h"
 #include "viewerwindows.h"
+#include "windowmemory.h"
 
 #include <framework/sendentry.h>
 #include <net/dispatchersession.h>
@@ -96,6 +98,7 @@ protected:
     using QDialog::timerEvent;
     void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     bool eventFilter(QObject *object, QEvent *event) override;
     bool event(QEvent *event) override;
     /// Escape does what closing does.
@@ -106,10 +109,8 @@ private:
     void connectSession();
     void processCustomMessage(const QByteArray &payload);
     void applySettings(const Settings &edited);
-    void openResult(const NotifyEvent &event);
     void updateTrayMenu();
     void standInForTray();
-    QList<const NotifyEvent *> selectedEvents() const;
 
     std::unique_ptr<Ui::AlertorClass> m_ui;
     EventsList m_events;
@@ -122,6 +123,7 @@ private:
     SoundPlayer m_sounds;
     Tray m_tray;
     ViewerWindows m_viewers{*this};
+    EventActions m_actions{{m_events, m_settings, m_viewers, *this}};
     LinkDisplay *m_linkDisplay = nullptr;
     TrayMenu *m_trayMenu = nullptr;
     ListMenu *m_listMenu = nullptr;
@@ -130,6 +132,7 @@ private:
     quint32 m_tick = 0;
     PendingLevel m_pendingLevel = NothingPending;
     quint64 m_nextEventId = 1;
+    WindowMemory m_place{*this};
     bool m_isConfigured = true;
     bool m_silent = false;
     bool m_firstHideHint = true;

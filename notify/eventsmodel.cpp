@@ -8,10 +8,38 @@
 
 #include <QtCore/QDateTime>
 #include <QtCore/QLocale>
+#include <QtGui/QColor>
 
 namespace {
 
 const QString kCheckIcon = QStringLiteral(":/icons/check");
+
+struct KindColour {
+    const char *icon;
+    QRgb colour;
+};
+
+// Those of the icons.
+constexpr KindColour kColours[] = {
+    {"service", 0xffa48fe0},     {"itemStart", 0xff3fb6c6}, {"itemCompleted", 0xff36a35c},
+    {"itemWarning", 0xfff5b32e}, {"itemError", 0xffdc4440},
+};
+constexpr QRgb kNoKindColour = 0xff8c8c8c;
+
+QString iconPath(const char *name)
+{
+    return QStringLiteral(":/icons/") + QLatin1String(name);
+}
+
+QColor severityColour(const NotifyEvent &event)
+{
+    const QString icon = lookOf(event).iconPath;
+    for (const KindColour &kind : kColours) {
+        if (icon.endsWith(QLatin1String(kind.icon)))
+            return QColor(kind.colour);
+    }
+    return QColor(kNoKindColour);
+}
 
 QString timeText(qint64 unixSeconds)
 {
@@ -23,18 +51,95 @@ QString timeText(qint64 unixSeconds)
 EventsModel::EventsModel(const EventsList &events, QObject *parent)
     : QAbstractItemModel(parent)
     , m_events(events)
+    , m_order(events, &EventsModel::sortKey)
 {
-    for (const char *name : {"service", "itemStart", "itemCompleted", "itemWarning", "itemError", "check"}) {
-        const QString path = QStringLiteral(":/icons/") + QLatin1String(name);
-        m_icons.insert(path, svgIcon(path));
-    }
-    connect(&events, &EventsList::aboutToAppend, this, [this](int row) { beginInsertRows({}, row, row); });
-    connect(&events, &EventsList::appended, this, &EventsModel::endInsertRows);
-    connect(&events, &EventsList::acknowledged, this, [this](int first, int last) {
-        Q_EMIT dataChanged(index(first, Acknowledged), index(last, Acknowledged));
-    });
+    for (const KindColour &kind : kColours)
+        m_icons.insert(iconPath(kind.icon), svgIcon(iconPath(kind.icon)));
+    m_icons.insert(kCheckIcon, svgIcon(kCheckIcon));
+    connect(&events, &EventsList::aboutToAppend, this, &EventsModel::beginAppend);
+    connect(&events, &EventsList::appended, this, &EventsModel::endAppend);
+    connect(&events, &EventsList::acknowledged, this, &EventsModel::tellMarks);
     connect(&events, &EventsList::aboutToRebuild, this, &EventsModel::beginResetModel);
-    connect(&events, &EventsList::rebuilt, this, &EventsModel::endResetModel);
+    connect(&events, &EventsList::rebuilt, this, &EventsModel::endRebuild);
+}
+
+void EventsModel::beginAppend(const NotifyEvent &event)
+{
+    m_appended = m_order.rowOfNext(event);
+    if (m_appended)
+        beginInsertRows({}, *m_appended, *m_appended);
+}
+
+void EventsModel::endAppend()
+{
+    if (!m_appended)
+        return;
+    m_order.insert(*m_appended);
+    endInsertRows();
+}
+
+void EventsModel::endRebuild()
+{
+    m_order.rebuild();
+    const bool emptied = m_order.size() == 0 && m_events.size() > 0;
+    if (emptied) // none of the level is left: an empty list would say that nothing has happened
+        m_order.filter(NothingPending);
+    endResetModel();
+    if (emptied)
+        Q_EMIT rearranged();
+}
+
+void EventsModel::tellMarks(int firstPlace, int lastPlace)
+{
+    if (rowCount() == 0)
+        return;
+    // The places of many rows may lie anywhere in another order.
+    const bool one = firstPlace == lastPlace;
+    const int first = one ? m_order.rowFrom(firstPlace) : 0;
+    const int last = one ? first : rowCount() - 1;
+    if (last < rowCount())
+        Q_EMIT dataChanged(index(first, 0), index(last, ColumnCount - 1));
+}
+
+void EventsModel::sort(int column, Qt::SortOrder order)
+{
+    if (column == m_order.column() && (column < 0 || order == m_order.direction()))
+        return;
+    beginResetModel();
+    m_order.sort(column < ColumnCount ? column : -1, order);
+    endResetModel();
+    Q_EMIT rearranged();
+}
+
+void EventsModel::showLevel(PendingLevel level)
+{
+    if (level == m_order.level())
+        return;
+    beginResetModel();
+    m_order.filter(level);
+    endResetModel();
+    Q_EMIT rearranged();
+}
+
+int EventsModel::rowFrom(quint64 eventId) const
+{
+    return m_order.rowFrom(m_events.rowFrom(eventId));
+}
+
+EventsOrder::Key EventsModel::sortKey(const NotifyEvent &event, int column)
+{
+    switch (column) {
+    case Type: // the worst first
+        return {-pendingLevelOf(event), text(event, column)};
+    case Acknowledged:
+        return {event.acknowledged ? 1 : 0, {}};
+    case Time:
+        return {event.eventTime, {}};
+    case Chunk:
+        return {event.job && event.chunk ? event.chunk->getChunkId() : -1, {}};
+    default:
+        return {0, text(event, column)};
+    }
 }
 
 QModelIndex EventsModel::index(int row, int column, const QModelIndex &parent) const
@@ -50,7 +155,7 @@ QModelIndex EventsModel::parent(const QModelIndex &child) const
 
 int EventsModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : m_events.size();
+    return parent.isValid() ? 0 : m_order.size();
 }
 
 int EventsModel::columnCount(const QModelIndex &parent) const
@@ -68,7 +173,7 @@ QVariant EventsModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const NotifyEvent &event = m_events.at(index.row());
+    const NotifyEvent &event = m_events.at(m_order.placeOf(index.row()));
     switch (role) {
     case Qt::DisplayRole:
         return text(event, index.column());
@@ -80,6 +185,8 @@ QVariant EventsModel::data(const QModelIndex &index, int role) const
         return decoration(event, index.column());
     case Qt::AccessibleTextRole:
         return accessibleText(event, index.column());
+    case kEmphasisRole:
+        return event.standsOut() ? QVariant(severityColour(event)) : QVariant();
     case Qt::UserRole:
         return index.column() == Type ? QVariant(event.eventId) : QVariant();
     default:
@@ -100,7 +207,7 @@ QVariant EventsModel::headerData(int section, Qt::Orientation orientation, int r
     return {};
 }
 
-QString EventsModel::text(const NotifyEvent &event, int column, Extent extent) const
+QString EventsModel::text(const NotifyEvent &event, int column, Extent extent)
 {
     // The view asks for each cell several times a paint: a long text must cost no more than a short one.
     const auto said = [&event, extent](const QString &key) {
@@ -150,6 +257,8 @@ QVariant EventsModel::decoration(const NotifyEvent &event, int column) const
 QString EventsModel::accessibleText(const NotifyEvent &event, int column) const
 {
     if (column == Acknowledged)
-        return event.acknowledged ? tr("Acknowledged") : tr("Pending");
+        return !event.acknowledged ? tr("Pending")
+            : event.lingers        ? tr("Acknowledged just now")
+                                   : tr("Acknowledged");
     return text(event, column);
 }

@@ -1,8 +1,8 @@
 #include "linkdisplay.h"
 
 #include "emptylist.h"
-#include "linkstatus.h"
 #include "linkwords.h"
+#include "statusline.h"
 #include "tray.h"
 
 #include <net/dispatchersession.h>
@@ -36,7 +36,7 @@ void LinkDisplay::show()
     const QString words = LinkWords::state(report, m_nextAttempt);
     m_history.follow(report.state, QDateTime::currentDateTime());
     m_places.tray.explain(report.state, words);
-    m_places.status.showState(report, words, m_isConfigured);
+    m_places.status.showState(report, m_places.tray.stateIcon(report.state), words, m_isConfigured);
     m_places.emptyList.offerConfiguring(report.state != LinkReport::State::Connected);
 }
 

@@ -8,8 +8,8 @@
 
 class DispatcherSession;
 class EmptyList;
-class LinkStatus;
 struct LinkTrouble;
+class StatusLine;
 class Tray;
 
 /// Tells the user of the link wherever it is told of: in the tray's hint, below the list and in a list without events.
@@ -20,7 +20,7 @@ class LinkDisplay final : public QObject {
 public:
     struct Places {
         Tray &tray;
-        LinkStatus &status;
+        StatusLine &status;
         EmptyList &emptyList;
     };
 

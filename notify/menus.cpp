@@ -34,6 +34,19 @@ void TrayMenu::follow(const State &state)
     silent->setChecked(state.isSilent);
 }
 
+WindowMenu::WindowMenu(const TrayMenu &trayMenu, QMenu *columns, QWidget *parent)
+    : QMenu(parent)
+    , about(new QAction(tr("A&bout"), this))
+{
+    setObjectName(QStringLiteral("windowMenu"));
+    about->setToolTip(tr("Shows the version, and where the log is"));
+    about->setMenuRole(QAction::NoRole);
+    addActions(trayMenu.actions());
+    insertMenu(trayMenu.configure, columns);
+    insertSeparator(trayMenu.configure);
+    insertAction(trayMenu.quit, about);
+}
+
 ListMenu::ListMenu(QWidget *parent)
     : QMenu(parent)
     , acknowledge(new QAction(tr("&Acknowledge selection"), this))

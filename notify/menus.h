@@ -28,6 +28,16 @@ public:
     QAction *const quit;
 };
 
+/// Menu of the window's button: that of the tray icon, and what concerns the window alone.
+class WindowMenu final : public QMenu {
+    Q_OBJECT
+
+public:
+    WindowMenu(const TrayMenu &trayMenu, QMenu *columns, QWidget *parent);
+
+    QAction *const about;
+};
+
 /// Context menu of the events list. Its owner connects the actions and calls follow() before the menu shows.
 class ListMenu final : public QMenu {
     Q_OBJECT

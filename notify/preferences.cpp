@@ -5,6 +5,7 @@
 #include <notify/settings/settings.h>
 #include <ui/fieldmark.h>
 #include <ui/numbertext.h>
+#include <ui/windowplacement.h>
 
 #include <QtCore/QPointer>
 #include <QtGui/QScreen>
@@ -57,6 +58,7 @@ constexpr CheckBox kCheckBoxes[] = {
     {&Form::skipDirectoryAuthentication, &Settings::skipDirectoryAuthentication},
     {&Form::showBubble, &Settings::showBubble},
     {&Form::autoAckOnRaise, &Settings::autoAckOnRaise},
+    {&Form::keepAbove, &Settings::keepAbove},
 };
 
 constexpr TextField kTextFields[] = {
@@ -80,9 +82,6 @@ constexpr GammaField kGammaFields[] = {
     {&Form::exrImportGamma, &Settings::imageViewerExrImportGamma},
     {&Form::defaultImportGamma, &Settings::imageViewerDefaultImportGamma},
 };
-
-/// Room for the frame that the desktop puts around the window; its size is known only once the window is on screen.
-constexpr QSize kWindowFrame(10, 40);
 
 /// The fewest digits that read back as the same number.
 QString shortest(float number)
@@ -236,5 +235,5 @@ bool preferences::eventFilter(QObject *object, QEvent *event)
 void preferences::fitToScreen()
 {
     const QScreen *where = parentWidget() ? parentWidget()->screen() : screen();
-    resize(size().boundedTo(where->availableSize() - kWindowFrame));
+    resize(size().boundedTo(where->availableSize().shrunkBy(frameOf(*this))));
 }

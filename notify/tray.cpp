@@ -13,7 +13,7 @@ QString iconPath(const char *name)
     return QStringLiteral(":/icons/") + QLatin1String(name);
 }
 
-QString stateIcon(LinkReport::State state)
+QString stateIconPath(LinkReport::State state)
 {
     switch (state) {
     case LinkReport::State::LookingUp:
@@ -53,13 +53,18 @@ Tray::Tray(QObject *parent)
     for (const char *name : {"mainIcon", "connectingIcon", "unconnectedIcon", "service", "itemStart",
                              "itemCompleted", "itemWarning", "itemError"})
         m_icons.emplace(iconPath(name), svgIcon(iconPath(name)));
-    showIcon(stateIcon(LinkReport::State::Idle));
+    showIcon(stateIconPath(LinkReport::State::Idle));
+}
+
+const QIcon &Tray::stateIcon(LinkReport::State state) const
+{
+    return m_icons.at(stateIconPath(state));
 }
 
 void Tray::update(LinkReport::State state, PendingLevel level, bool normal)
 {
     const char *severity = normal ? nullptr : levelIcon(level);
-    showIcon(severity ? iconPath(severity) : stateIcon(state));
+    showIcon(severity ? iconPath(severity) : stateIconPath(state));
 }
 
 void Tray::explain(LinkReport::State state, const QString &words)

@@ -16,6 +16,7 @@ public:
     explicit Tray(QObject *parent = nullptr);
 
     const QIcon &normalIcon() const { return m_icons.at(kNormal); }
+    const QIcon &stateIcon(LinkReport::State state) const;
     /// Resource path of the icon that is shown.
     const QString &shownIcon() const { return m_shown; }
 

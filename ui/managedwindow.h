@@ -7,3 +7,6 @@ class QWidget;
 /// window's frame and the keyboard away; the widget keeps its flags, its native window goes without. To be called from
 /// the widget's event() with every event.
 void keepManaged(QWidget *window, const QEvent *event);
+
+/// Keeps the window above others, or no longer; one that is shown stays so.
+void keepAbove(QWidget *window, bool above);

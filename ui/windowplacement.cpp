@@ -12,6 +12,8 @@ namespace {
 constexpr QSize kGrasp{40, 20};
 // As high as a header: those of all windows stay in sight.
 constexpr QPoint kShift{24, 24};
+// Of a frame that is not known yet.
+constexpr QMargins kUsualFrame{5, 30, 5, 10};
 // Beyond any desktop, and safe to add and subtract.
 constexpr int kFarthest = 1 << 24;
 
@@ -81,6 +83,16 @@ QPoint cascaded(const QRect &last, QSize size, const QRect &area)
     if (next.bottom() > area.bottom())
         next.moveTop(area.top());
     return next.topLeft() == last.topLeft() ? last.topLeft() + kShift : next.topLeft();
+}
+
+QMargins frameOf(const QWidget &window)
+{
+    const QRect frame = window.frameGeometry();
+    const QRect inner = window.geometry();
+    if (frame == inner)
+        return kUsualFrame;
+    return {inner.left() - frame.left(), inner.top() - frame.top(), frame.right() - inner.right(),
+            frame.bottom() - inner.bottom()};
 }
 
 QRect fittedToScreens(const QRect &wanted)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QList>
+#include <QtCore/QMargins>
 #include <QtCore/QPoint>
 #include <QtCore/QRect>
 #include <QtCore/QSize>
@@ -22,6 +23,9 @@ QPoint cascaded(const QRect &last, QSize size, const QRect &area);
 /// The parent for a box: null for one that is hidden, whose screen is not where the user is. A box without a parent
 /// opens on the screen of the pointer.
 QWidget *shownParent(QWidget *parent);
+
+/// The frame that the desktop puts around the window; a guess until the window has been on screen.
+QMargins frameOf(const QWidget &window);
 
 /// fittedToAreas() with the work areas of the present screens.
 QRect fittedToScreens(const QRect &wanted);

@@ -46,7 +46,7 @@ bool EventsList::append(std::unique_ptr<NotifyEvent> event)
 {
     if (!m_events.empty() && event->eventId <= m_events.back()->eventId)
         return false;
-    Q_EMIT aboutToAppend(size());
+    Q_EMIT aboutToAppend(*event);
     if (!event->acknowledged) {
         ++m_unacknowledged;
         ++m_pending[pendingLevelOf(*event)];
@@ -60,10 +60,13 @@ void EventsList::acknowledge(NotifyEvent &event)
 {
     forget(event);
     event.acknowledged = true;
+    event.lingers = false;
 }
 
 void EventsList::forget(const NotifyEvent &event)
 {
+    if (event.lingers)
+        --m_lingering[pendingLevelOf(event)];
     if (event.acknowledged)
         return;
     --m_unacknowledged;
@@ -85,6 +88,30 @@ void EventsList::ackAll()
         return;
     for (const auto &event : m_events)
         acknowledge(*event);
+    Q_EMIT acknowledged(0, size() - 1);
+}
+
+void EventsList::ackAllAtSight()
+{
+    if (m_events.empty())
+        return;
+    for (const auto &event : m_events) {
+        if (event->acknowledged)
+            continue;
+        acknowledge(*event);
+        event->lingers = true;
+        ++m_lingering[pendingLevelOf(*event)];
+    }
+    Q_EMIT acknowledged(0, size() - 1);
+}
+
+void EventsList::settle()
+{
+    if (m_lingering == Counts{})
+        return;
+    for (const auto &event : m_events)
+        event->lingers = false;
+    m_lingering = {};
     Q_EMIT acknowledged(0, size() - 1);
 }
 
@@ -114,6 +141,7 @@ void EventsList::removeAll()
     m_events.clear();
     m_events.shrink_to_fit();
     m_pending = {};
+    m_lingering = {};
     m_unacknowledged = 0;
     Q_EMIT rebuilt();
 }

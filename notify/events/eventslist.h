@@ -33,18 +33,25 @@ public:
     /// True when some event is not acknowledged, of whatever severity.
     bool anyUnacknowledged() const { return m_unacknowledged > 0; }
 
+    /// Counts the events of the level that stand out, be it that they are pending or that they linger.
+    int standingOut(PendingLevel level) const { return m_pending[level] + m_lingering[level]; }
+
     /// Takes the event over. False, the event deleted, when the list already holds its id or a later one.
     bool append(std::unique_ptr<NotifyEvent> event);
     void ackEvent(quint64 eventId);
     void ackAll();
+    /// Acknowledges all because the user is about to see them: what was pending lingers until settle().
+    void ackAllAtSight();
+    void settle();
     void removeEvent(quint64 eventId) { removeEvents({eventId}); }
     /// Removes them in one pass whatever their number; passes unknown ids over.
     void removeEvents(QList<quint64> eventIds);
     void removeAll();
 
 Q_SIGNALS:
-    void aboutToAppend(int row);
+    void aboutToAppend(const NotifyEvent &event);
     void appended();
+    /// What is pending or lingers has changed among these.
     void acknowledged(int firstRow, int lastRow);
     void aboutToRebuild();
     void rebuilt();
@@ -54,6 +61,8 @@ private:
     void forget(const NotifyEvent &event);
 
     std::vector<std::unique_ptr<NotifyEvent>> m_events;
-    std::array<int, ErrorPending + 1> m_pending{}; // unacknowledged events by level
+    using Counts = std::array<int, ErrorPending + 1>; // by level
+    Counts m_pending{}; // unacknowledged events
+    Counts m_lingering{};
     int m_unacknowledged = 0;
 };

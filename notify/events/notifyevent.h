@@ -18,6 +18,8 @@ public:
     /// Empty when the event has no such value.
     QString text(const QString &key) const { return properties.value(key); }
     bool has(const QString &key) const { return !text(key).isEmpty(); }
+    /// Whether the list shows it as news.
+    bool standsOut() const { return !acknowledged || lingers; }
     void setText(const QString &key, const QString &value) { properties.insert(key, value); }
 
     qint64 eventType = 0; ///< an EventType of the link
@@ -27,6 +29,7 @@ public:
     bool acknowledged = false;
     std::unique_ptr<TClientLib::TJob> job;
     std::unique_ptr<TClientLib::TChunk> chunk;
+    bool lingers = false; ///< acknowledged as the list came up, and news until that hides
 };
 
 /// Keys of NotifyEvent::properties.

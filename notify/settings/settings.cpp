@@ -53,6 +53,8 @@ constexpr SettingsRow kRows[] = {
     {"behaviours/successSound", &Settings::successSound},
     {"behaviours/startSound", &Settings::startSound},
     {"behaviours/serviceSound", &Settings::serviceSound},
+
+    {"eventsWindow/keepAbove", &Settings::keepAbove},
 };
 
 } // namespace

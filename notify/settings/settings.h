@@ -25,6 +25,7 @@ struct Settings {
     bool filterChunkCompletedWithSuccess = true;
     bool showBubble = true;
     bool autoAckOnRaise = true;
+    bool keepAbove = true;
     bool playErrorSound = false;
     bool playWarningSound = false;
     bool playSuccessSound = false;

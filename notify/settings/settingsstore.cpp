@@ -166,3 +166,12 @@ bool saveRows(std::initializer_list<SettingsRows> tables, const Settings &settin
         qCWarning(lcSettings, "Cannot save the settings to %s", qUtf8Printable(store.fileName()));
     return saved;
 }
+
+void saveAside(const QString &key, const QVariant &value)
+{
+    QSettings store;
+    if (store.value(key) == value || store.status() != QSettings::NoError || !hasRoom(store))
+        return;
+    keepToOwner(store);
+    store.setValue(key, value);
+}

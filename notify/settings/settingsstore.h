@@ -2,6 +2,8 @@
 
 #include "settings.h"
 
+#include <QtCore/QVariant>
+
 #include <initializer_list>
 #include <span>
 #include <variant>
@@ -31,3 +33,7 @@ extern const SettingsRows kImageViewerRows;
 Settings loadRows(std::initializer_list<SettingsRows> tables);
 bool anyRowStored(std::initializer_list<SettingsRows> tables);
 bool saveRows(std::initializer_list<SettingsRows> tables, const Settings &settings);
+
+/// Writes one value that is no setting of the user's, such as where a window was, with the care of saveRows(); leaves the
+/// file alone where it holds the value already.
+void saveAside(const QString &key, const QVariant &value);

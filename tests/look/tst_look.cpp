@@ -14,6 +14,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -111,6 +112,38 @@ QString overlapping(const QWidget &widget)
             && other->geometry().intersects(widget.geometry()))
             return QStringLiteral("%1 \"%2\" over \"%3\"")
                 .arg(widget.objectName(), textOf(widget), textOf(*other));
+    }
+    return {};
+}
+
+/// Pixels of a title, without the lines around it.
+int titleInk(QHeaderView &header, int column)
+{
+    const QPoint origin(header.sectionViewportPosition(column), 0);
+    const QImage picture =
+        header.viewport()
+            ->grab({origin, QSize(header.sectionSize(column), header.height()) - QSize(2, 2)})
+            .toImage();
+    int ink = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            ink += picture.pixel(x, y) != picture.pixel(1, 1);
+    }
+    return ink;
+}
+
+/// The first title that shows more when its column gets wider.
+QString cutTitle(QHeaderView &header)
+{
+    const QSignalBlocker unseen(header); // it is not the user who tries other widths
+    for (int column = 0; column < header.count(); ++column) {
+        const int size = header.sectionSize(column);
+        const int ink = titleInk(header, column);
+        header.resizeSection(column, size + 40);
+        const bool isCut = titleInk(header, column) != ink;
+        header.resizeSection(column, size);
+        if (isCut)
+            return header.model()->headerData(column, Qt::Horizontal).toString();
     }
     return {};
 }
@@ -280,6 +313,10 @@ private Q_SLOTS:
                     if (!fault.isEmpty())
                         faults += name + QStringLiteral(": ") + fault;
                 }
+            }
+            if (auto *header = window.findChild<QHeaderView *>()) {
+                if (const QString title = cutTitle(*header); !title.isEmpty())
+                    faults += name + QStringLiteral(": title ") + title;
             }
         }).visitAll();
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));

@@ -94,6 +94,8 @@ private Q_SLOTS:
             farm.click(1);
             farm.alertor.actOpenOutput();
             QCOMPARE(std::exchange(m_opened, {}), QUrl::fromLocalFile(folder.path()));
+            QTest::keyClick(farm.list(), Qt::Key_Return);
+            QCOMPARE(std::exchange(m_opened, {}), QUrl::fromLocalFile(folder.path()));
             farm.alertor.actRemoveSelected();
         }
         QDesktopServices::unsetUrlHandler(u"file"_s);
@@ -122,7 +124,11 @@ private Q_SLOTS:
         farm.send(farm::notification(2, &job, &chunk));
         QTRY_COMPARE(farm.alertor.events().size(), 2);
         QVERIFY(openViewers().isEmpty());
+        farm.click(0);
         farm.list()->selectAll();
+        QTest::keyClick(farm.list(), Qt::Key_Enter); // the current event, whatever is selected
+        QCOMPARE(openViewers().size(), 1);
+        qDeleteAll(openViewers());
         farm.alertor.actOpenFrame();
         QCOMPARE(openViewers().size(), 2);
         QCOMPARE(openViewers()[0]->session().sequence().frames, (std::set<long>{5, 6, 7, 8, 9}));

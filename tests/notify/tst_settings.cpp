@@ -138,6 +138,7 @@ private Q_SLOTS:
              "false", "true"},
             {"behaviours/errorSound,warningSound,successSound,startSound,serviceSound", "",
              "/sounds, old/\"ping\".wav"},
+            {"eventsWindow/keepAbove", "true", "false"},
             {"imageViewer/imageViewerMaxGPUCache", "1000000000", "18446744073709551615"},
             {"imageViewer/imageViewerMaxRAMCache", "2000000000", "0"},
             {"imageViewer/imageViewerExrImportGamma", "2.2", "1.8"},
@@ -147,7 +148,7 @@ private Q_SLOTS:
             {"imageViewer/launchImageViewer", "false", "true"},
         };
         QVERIFY(saveSettings(Settings()));
-        QCOMPARE(QSettings().allKeys().size(), 33);
+        QCOMPARE(QSettings().allKeys().size(), 34);
         for (const auto &[names, byDefault, changed] : keys) {
             const QStringList group = QString::fromLatin1(names).split(u'/');
             for (const QString &name : group[1].split(u',')) {

@@ -1,10 +1,39 @@
-#include "linkstatus.h"
+#include "statusline.h"
 
 #include "linkhistory.h"
+#include "pendingcounts.h"
 
+#include <QtGui/QIcon>
+#include <QtGui/QPainter>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
+
+/// Draws when it is shown: a label would draw at the start already. The words beside it say the same.
+class StateIcon final : public QWidget {
+public:
+    explicit StateIcon(QWidget *parent)
+        : QWidget(parent)
+    {
+        constexpr int kSize = 18;
+        setFixedSize(kSize, kSize);
+    }
+    void setIcon(const QIcon &icon)
+    {
+        m_icon = icon;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        m_icon.paint(&painter, rect());
+    }
+
+private:
+    QIcon m_icon;
+};
 
 namespace {
 
@@ -21,12 +50,14 @@ QLabel *plainLabel(const QString &name, QWidget *parent)
 
 } // namespace
 
-LinkStatus::LinkStatus(QWidget *parent)
+StatusLine::StatusLine(QWidget *parent)
     : QWidget(parent)
+    , m_icon(new StateIcon(this))
     , m_state(plainLabel(QStringLiteral("linkState"), this))
     , m_history(plainLabel(QStringLiteral("linkHistory"), this))
-    , m_row(new QHBoxLayout)
     , m_connect(new QPushButton(tr("Connect &now"), this))
+    , m_counts(new PendingCounts(this))
+    , m_row(new QHBoxLayout)
 {
     m_connect->setObjectName(QStringLiteral("connectNow"));
     m_connect->setToolTip(tr("Tries to connect to the Dispatcher at once"));
@@ -35,22 +66,24 @@ LinkStatus::LinkStatus(QWidget *parent)
     m_history->hide();
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins({});
-    column->addWidget(m_state);
+    column->addWidget(m_history);
     column->addLayout(m_row);
-    m_row->addWidget(m_history, 1);
-    m_row->addStretch();
-    addButton(m_connect);
-    connect(m_connect, &QPushButton::clicked, this, &LinkStatus::connectRequested);
+    m_row->addWidget(m_icon);
+    m_row->addWidget(m_state, 1);
+    m_row->addWidget(m_connect);
+    m_row->addWidget(m_counts);
+    connect(m_connect, &QPushButton::clicked, this, &StatusLine::connectRequested);
 }
 
-void LinkStatus::addButton(QPushButton *button)
+void StatusLine::addButton(QPushButton *button)
 {
     m_row->addWidget(button);
 }
 
-void LinkStatus::showState(const LinkReport &report, const QString &words, bool canConnect)
+void StatusLine::showState(const LinkReport &report, const QIcon &icon, const QString &words, bool canConnect)
 {
     using State = LinkReport::State;
+    m_icon->setIcon(icon);
     m_state->setText(words);
     m_connect->setVisible(canConnect && report.state != State::Connected);
     // An attempt that is under way ends soon: the button stays, or it would flicker.
@@ -58,7 +91,7 @@ void LinkStatus::showState(const LinkReport &report, const QString &words, bool 
                           || report.state == State::Idle);
 }
 
-void LinkStatus::showHistory(const LinkHistory &history)
+void StatusLine::showHistory(const LinkHistory &history)
 {
     m_history->setText(history.latest());
     m_history->setToolTip(history.lines().join(u'\n').toHtmlEscaped());
