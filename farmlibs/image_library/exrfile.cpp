@@ -1,6 +1,7 @@
 #include "exrfile.h"
 
 #include "exrchannels.h"
+#include "exrheaders.h"
 #include "imageerror.h"
 
 #include <ImathBox.h>
@@ -122,6 +123,7 @@ std::string prefixOf(const Imf::Header &header, const std::vector<ExrChannel> &c
 ExrFile ExrFile::open(const SourceFile &file)
 {
     try {
+        checkHeaders(file);
         return ExrFile(file);
     } catch (const std::exception &) {
         refuseNewCompression(file);
