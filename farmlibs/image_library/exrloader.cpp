@@ -149,7 +149,6 @@ CTImage ExrLoader::loadPartial(const SourceFile &file, const std::set<std::strin
     }
 
     bool isAnyRead = false;
-    load = {};
     for (const auto &[part, chunks] : present) {
         chunks.tell(load, stored.header(part).displayWindow());
         isAnyRead = isAnyRead || chunks.isAnyRead();

@@ -199,9 +199,10 @@ CTImage *IImageCore::Load(const char *path, const char *format, const std::set<s
 }
 
 CTImage *IImageCore::LoadPartial(const char *path, const char *format, const std::set<std::string> &names,
-                                 TLoadProgress progress, void *user, TPartialLoad &load)
+                                 TPartialLoad &load)
 {
-    Progress reported(progress, user);
+    Progress reported(load.progress, load.user);
+    load = {};
     return guarded(path, [&]() -> CTImage * {
         const ImageLoader &loader = loaderOf(format);
         const SourceFile file = LastSource::take(path);

@@ -10,9 +10,6 @@
 
 namespace TImageLibrary {
 
-/// Hears how far a load has come, from 0 to 1, with the pointer that was handed to Load().
-using TLoadProgress = void (*)(float fraction, void *user);
-
 /// Reads images: OpenEXR files through OpenEXR, everything else through OpenImageIO. Paths are UTF-8.
 /// Nothing throws; a file that is damaged, cut short, or announces more pixels than its bytes can hold does not load.
 class IImageCore final {
@@ -44,7 +41,8 @@ public:
     /// rest of each plane is 0. Null when there is nothing sound of it, and for formats that are read as a whole. An
     /// addition to the interface: a farm's own library need not have it.
     static CTImage *LoadPartial(const char *path, const char *format, const std::set<std::string> &names,
-                                TLoadProgress progress, void *user, TPartialLoad &load);
+                                TPartialLoad &load);
+    using PartialLoad = TPartialLoad;
 
     /// Ends an image; null does nothing.
     static void DestroyImage(CTImage *image);

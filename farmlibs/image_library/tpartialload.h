@@ -5,8 +5,14 @@
 
 namespace TImageLibrary {
 
+/// Hears how far a load has come, from 0 to 1, with the pointer that it was handed.
+using TLoadProgress = void (*)(float fraction, void *user);
+
 /// Tells what was read of a file that is being written, was cut short or is damaged.
 struct TPartialLoad {
+    TLoadProgress progress = nullptr; ///< as in IImageCore::Load(), set by who asks; so is the next
+    void *user = nullptr;
+
     /// In pixels of the picture, from its top left corner.
     struct Box {
         std::int32_t x = 0;

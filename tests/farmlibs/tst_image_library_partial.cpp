@@ -35,7 +35,7 @@ Image loadPartial(const std::string &path, TPartialLoad &load)
     std::set<std::string> names;
     if (!IImageCore::LoadLayers(path.c_str(), format, names))
         return nullptr;
-    return Image(IImageCore::LoadPartial(path.c_str(), format, names, nullptr, nullptr, load));
+    return Image(IImageCore::LoadPartial(path.c_str(), format, names, load));
 }
 
 /// A table stands before the chunks, and its lowest entry is where it ends.
