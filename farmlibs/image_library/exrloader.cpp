@@ -148,6 +148,8 @@ CTImage ExrLoader::loadPartial(const SourceFile &file, const std::set<std::strin
         readParts(exr, targets, progress, &present);
     }
 
+    for (ExrTarget &target : targets)
+        present.at(target.channel.part).clearUnread(target);
     bool isAnyRead = false;
     for (const auto &[part, chunks] : present) {
         chunks.tell(load, stored.header(part).displayWindow());

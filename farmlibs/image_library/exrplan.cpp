@@ -107,8 +107,7 @@ std::vector<ExrTarget> planPlanes(const ExrFile &file, const std::set<std::strin
 
     std::vector<ExrTarget> targets;
     for (std::size_t i = 0; i < channels.size(); ++i) {
-        const bool isFilled = shapes[i].isCovered && !mayBeIncomplete;
-        const auto fill = isFilled ? CTImageChannel::Fill::None : CTImageChannel::Fill::Zero;
+        const auto fill = shapes[i].isCovered ? CTImageChannel::Fill::None : CTImageChannel::Fill::Zero;
         targets.push_back({channels[i], type, shapes[i].columns, shapes[i].rows,
                            CTImageChannel(planeName(channels[i].layer), shapes[i].format, fill)});
     }

@@ -32,8 +32,8 @@ struct ExrTarget {
     CTImageChannel plane;
 };
 
-/// The planes for the named layers, or for the default layer when the file has none of them, in the file's order: cleared
-/// for a file that may be incomplete. Throws when there is nothing to read or the file cannot hold what it announces.
+/// The planes for the named layers, or for the default layer when the file has none of them, in the file's order.
+/// Throws when there is nothing to read or the file cannot hold what it announces.
 std::vector<ExrTarget> planPlanes(const ExrFile &file, const std::set<std::string> &names,
                                   bool mayBeIncomplete);
 

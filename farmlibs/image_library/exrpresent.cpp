@@ -5,6 +5,7 @@
 #include <IexBaseExc.h>
 
 #include <algorithm>
+#include <cstring>
 #include <optional>
 
 namespace TImageLibrary {
@@ -67,17 +68,37 @@ bool PresentChunks::isAnyRead() const
     return std::any_of(m_isRead.begin(), m_isRead.end(), [](std::uint8_t isRead) { return isRead != 0; });
 }
 
+void PresentChunks::clearUnread(ExrTarget &target) const
+{
+    const Imath::V2i &sampling = target.channel.sampling;
+    const TPlaneFormat &format = target.plane.format();
+    for (std::uint64_t index = 0; index < m_isRead.size(); ++index) {
+        if (m_isRead[index] != 0)
+            continue;
+        const Imath::Box2i box = layout().box(index);
+        const ExrSpan columns =
+            ExrSpan::common(ExrSpan::within(box.min.x, box.max.x, sampling.x), target.columns);
+        const ExrSpan rows = ExrSpan::common(ExrSpan::within(box.min.y, box.max.y, sampling.y), target.rows);
+        for (int row = rows.first; row < rows.end() && columns.count > 0; ++row)
+            std::memset(target.plane.data() + std::size_t(row - target.rows.first) * format.rowBytes()
+                            + std::size_t(columns.first - target.columns.first) * format.pixelBytes(),
+                        0, std::size_t(columns.count) * format.pixelBytes());
+    }
+}
+
 void PresentChunks::tell(TPartialLoad &load, const Imath::Box2i &picture) const
 {
     std::vector<Box> rows;
     for (std::uint64_t index = 0; index < m_isRead.size(); ++index) {
+        const auto box = within(layout().box(index), picture);
+        if (!box)
+            continue;
         ++load.chunks;
         if (m_isRead[index] != 0)
             continue;
         const bool isUnwritten = m_survey.chunk(m_part, index) == ExrSurvey::Chunk::Unwritten;
         ++(isUnwritten ? load.unwritten : load.damaged);
-        if (const auto box = within(layout().box(index), picture))
-            add(rows, *box);
+        add(rows, *box);
     }
     for (const Box &row : rows)
         add(load.unread, row);

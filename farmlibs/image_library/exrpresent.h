@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exrplan.h"
 #include "exrsurvey.h"
 #include "tpartialload.h"
 
@@ -35,6 +36,8 @@ public:
     /// then; false where not all were read.
     bool read(const Range &chunks, const std::function<void()> &function);
 
+    /// Clears what of a plane is in no chunk that was read.
+    void clearUnread(ExrTarget &target) const;
     /// Adds the part to what was read of the picture, whose pixels are counted as the chunks' are.
     void tell(TPartialLoad &load, const Imath::Box2i &picture) const;
     bool isAnyRead() const;

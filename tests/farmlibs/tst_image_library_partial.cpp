@@ -106,6 +106,9 @@ const std::map<QByteArray, std::vector<ExrSpec>> &kinds()
         spec.data = {{-4, 4}, {21, 55}};
         list["subsampled"] = {spec};
         spec = basic;
+        spec.display = {{-1, 7}, {12, 30}}; // whole chunks lie outside
+        list["overscan"] = {spec};
+        spec = basic;
         spec.part = "one";
         ExrSpec other = basic;
         other.part = "two";
