@@ -13,7 +13,7 @@ namespace TImageLibrary {
 namespace {
 
 // A lost block or two of a disk, and what a damaged chunk of any usual size takes.
-constexpr std::uint64_t kMostSearched = std::uint64_t(64) << 20;
+constexpr std::uint64_t kMostSearched = std::uint64_t(16) << 20;
 constexpr std::size_t kLongestHeading = 44;
 
 std::uint64_t littleEndian(const std::uint8_t *bytes, int count)
@@ -105,8 +105,12 @@ bool ExrSurvey::readTables()
 
 void ExrSurvey::walk()
 {
+    // No file holds a chunk twice but for one that lies, where some are met again.
+    std::uint64_t stepsLeft = 1000;
+    for (const Part &part : m_parts)
+        stepsLeft += 2 * part.layout.count();
     Window window(m_file.source(), kLongestHeading);
-    for (std::uint64_t place = m_tablesEnd; place < m_size && m_missing > 0;) {
+    for (std::uint64_t place = m_tablesEnd; place < m_size && m_missing > 0 && stepsLeft > 0; --stepsLeft) {
         const auto heading = headingAt(window, place);
         if (heading && isWithin(*heading, place)) {
             const std::uint64_t end = place + heading->bytes;
