@@ -66,7 +66,12 @@ ExrSurvey::ExrSurvey(const ExrFile &file)
         // The file has a table of them: there is memory for as many.
         if (layout.count() > m_size / sizeof(std::uint64_t))
             throw ImageError(TLoadFailure::Damaged, file.nameOf(part) + " has no table of its chunks");
-        m_parts.push_back({layout, {}, {}, {}, 0});
+        const bool isFromBelow = file.header(part).lineOrder() == Imf::DECREASING_Y;
+        const std::uint64_t minusOne = ~std::uint64_t(0);
+        if (isFromBelow)
+            m_parts.push_back({layout, {}, {}, {}, minusOne, minusOne, layout.count()});
+        else
+            m_parts.push_back({layout, {}, {}, {}, 1, layout.count(), minusOne});
     }
     m_areTablesTrue = readTables();
     if (!m_areTablesTrue)
@@ -130,11 +135,11 @@ void ExrSurvey::note(const Heading &heading, std::uint64_t place, const std::opt
 {
     Part &part = m_parts[heading.part];
     const std::uint64_t before = std::exchange(part.last, heading.index);
-    const std::uint64_t step =
-        m_file.header(int(heading.part)).lineOrder() == Imf::DECREASING_Y ? ~std::uint64_t(0) : 1;
     const bool isFirst = part.chunks[heading.index] != Chunk::Found;
-    const bool isSure = heading.index == before + step
-        || (next && next->part == heading.part && next->index == heading.index + step);
+    const bool isBehind = heading.index == before + part.step;
+    const bool isAhead = next ? next->part == heading.part && next->index == heading.index + part.step
+                              : heading.index + part.step == part.end;
+    const bool isSure = isBehind || isAhead;
     if (!(isFirst || (isSure && !part.isSure[heading.index])) || !spend(heading.bytes))
         return;
     m_missing -= isFirst ? 1 : 0;

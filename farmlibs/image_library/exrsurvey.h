@@ -37,7 +37,9 @@ private:
         std::vector<std::uint64_t> places; ///< 0 where none is known
         std::vector<Chunk> chunks;
         std::vector<bool> isSure; ///< of its place
-        std::uint64_t last = 0; ///< chunk that the walk has met last
+        std::uint64_t step; ///< from a chunk to the next in the file
+        std::uint64_t end; ///< behind the last chunk in the file
+        std::uint64_t last; ///< chunk that the walk has met last, or before the first
     };
     /// What a chunk says of itself.
     struct Heading {

@@ -228,6 +228,30 @@ private Q_SLOTS:
         }
     }
 
+    /// Without a table, a chunk that says it is another is not shown in the place of that one.
+    void misplacedChunks()
+    {
+        const ImageFolder folder;
+        for (const char *kind : {"lines 3", "lines 4", "tiles 2", "from below", "mipmap", "deep lines"}) {
+            const Whole whole = wholeOf(kinds().at(kind));
+            const qsizetype length = kinds().at(kind).front().tiled ? 16 : 4;
+            for (qsizetype i = 0; i < whole.levelChunks * whole.levelChunks; ++i) {
+                const qsizetype place = whole.places[std::size_t(i % whole.levelChunks)];
+                const qsizetype other = whole.places[std::size_t(i / whole.levelChunks)];
+                QByteArray bytes = whole.bytes;
+                bytes.replace(place, length, whole.bytes.sliced(other, length));
+                bytes.replace(whole.table, 8 * qsizetype(whole.places.size()),
+                              QByteArray(8 * qsizetype(whole.places.size()), '\0'));
+                QVERIFY(writeBytes(folder("a.exr"), bytes));
+                TPartialLoad load;
+                const Image image = loadPartial(folder("a.exr"), load);
+                QVERIFY(image);
+                QCOMPARE(load.unwritten + load.damaged, place == other ? 0 : 1);
+                QVERIFY2(difference(image, whole, load).isEmpty(), kind);
+            }
+        }
+    }
+
 private:
     void lookAtCut(const Whole &whole, qsizetype cut, const QByteArray &table)
     {
