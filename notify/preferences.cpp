@@ -55,6 +55,7 @@ constexpr CheckBox kCheckBoxes[] = {
     {&Form::playStartSound, &Settings::playStartSound},
     {&Form::playServiceSound, &Settings::playServiceSound},
     {&Form::launchImageViewer, &Settings::launchImageViewer},
+    {&Form::showIncompleteFrames, &Settings::viewerShowIncompleteFrames},
     {&Form::skipDirectoryAuthentication, &Settings::skipDirectoryAuthentication},
     {&Form::showBubble, &Settings::showBubble},
     {&Form::autoAckOnRaise, &Settings::autoAckOnRaise},

@@ -60,10 +60,13 @@ void ViewerWindows::setSettings(const Settings &settings)
 {
     m_totals.videoMemoryBudget = settings.imageViewerMaxGPUCache;
     m_totals.mainMemoryBudget = settings.imageViewerMaxRAMCache;
-    m_settings = {settings.imageViewerExrImportGamma, settings.imageViewerDefaultImportGamma};
+    m_settings = {settings.imageViewerExrImportGamma, settings.imageViewerDefaultImportGamma,
+                  settings.viewerShowIncompleteFrames};
     for (const QPointer<ImageViewer> &viewer : std::as_const(m_viewers)) {
-        if (viewer)
-            viewer->session().applyBudgets();
+        if (!viewer)
+            continue;
+        viewer->session().applyBudgets();
+        viewer->session().setShowIncomplete(m_settings.showIncomplete);
     }
 }
 

@@ -60,6 +60,7 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     setStyleSheet(StyleSheets::forViewer());
     m_ui->setupUi(content());
     m_session = std::make_unique<ViewerSession>(totals, picture());
+    m_session->setShowIncomplete(settings.showIncomplete);
     m_zoom = new ZoomControl({m_ui->image, m_ui->horizontalScrollBar, m_ui->verticalScrollBar,
                               m_ui->fitPixelSize, m_ui->setPixelSize});
     m_transport = std::make_unique<TransportControls>(*m_ui, *m_session);
@@ -147,7 +148,7 @@ void ImageViewer::connectSession()
             Qt::QueuedConnection);
     connect(m_session.get(), &ViewerSession::loaded, this, [this] {
         m_zoom->refresh();
-        m_ui->infoLabel->setText(m_totals.statusText() + m_loadStatus->sizeText());
+        m_ui->infoLabel->setText(m_totals.statusText() + m_loadStatus->shownText());
     });
     connect(m_session.get(), &ViewerSession::cacheTrimmed, this,
             [this] { m_ui->infoLabel->setText(m_totals.statusText()); });
@@ -182,7 +183,7 @@ void ImageViewer::retranslate()
     }
     m_transport->retranslate();
     m_markings->retranslate();
-    m_ui->infoLabel->setText(m_totals.statusText() + m_loadStatus->sizeText());
+    m_ui->infoLabel->setText(m_totals.statusText() + m_loadStatus->shownText());
     showTitle();
 }
 

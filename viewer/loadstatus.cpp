@@ -3,6 +3,7 @@
 #include "ui_imageviewer.h"
 
 #include <ui/plaintext.h>
+#include <viewer/frames/incompletetext.h>
 #include <viewer/session/viewersession.h>
 
 #include <QtGui/QGuiApplication>
@@ -73,12 +74,16 @@ QString LoadStatus::detailsText() const
     return load.failed() ? reasonText(load.failure) : QString();
 }
 
-QString LoadStatus::sizeText() const
+QString LoadStatus::shownText() const
 {
     const LoadResult &load = m_session.lastLoad();
-    if (!load.shown() || load.forcedHalvings == 0)
-        return {};
-    return tr("Too large for OpenGL: shown at 1/%1 of its size").arg(qulonglong(1) << load.forcedHalvings);
+    QStringList texts;
+    if (load.shown() && load.partial.isIncomplete())
+        texts += incompleteText(load.partial);
+    if (load.shown() && load.forcedHalvings != 0)
+        texts +=
+            tr("Too large for OpenGL: shown at 1/%1 of its size").arg(qulonglong(1) << load.forcedHalvings);
+    return texts.join(u' ');
 }
 
 QString LoadStatus::refusalText(Refusal refusal)

@@ -21,8 +21,8 @@ public:
     /// Both outlive the status.
     LoadStatus(const Ui::ImageViewerClass &form, ViewerSession &session);
 
-    /// Says for the status line that the picture is shown smaller than it is; empty where it is not.
-    QString sizeText() const;
+    /// Says for the status line how the picture differs from its file: it is incomplete, or shown smaller than it is.
+    QString shownText() const;
 
 private:
     struct StatusPictures {

@@ -34,6 +34,7 @@ TransportControls::TransportControls(const Ui::ImageViewerClass &form, ViewerSes
     connect(&m_session, &ViewerSession::rangeChanged, this, &TransportControls::showRange);
     connect(&m_session, &ViewerSession::frameChanged, this, &TransportControls::showFrame);
     connect(&m_session, &ViewerSession::loaded, this, [this] {
+        showStates();
         // A frame that was cached changes nothing in the cache.
         if (!m_session.lastLoad().shown() || m_session.lastLoad().decoded)
             m_form.imageAllocation->update();
@@ -122,6 +123,21 @@ void TransportControls::showRange()
     show(*m_form.imageAllocation);
     show(*m_form.imageMarker);
     showFrame(m_session.frame());
+}
+
+void TransportControls::showStates()
+{
+    const FrameStates &states = m_session.states();
+    if (states == m_states)
+        return;
+    m_states = states;
+    m_form.timeline->setStates(states);
+    m_form.timeline->update();
+    for (FrameStrip *strip :
+         std::initializer_list<FrameStrip *>{m_form.imageAllocation, m_form.imageMarker}) {
+        strip->setStates(states);
+        strip->update();
+    }
 }
 
 void TransportControls::showFrame(int frame)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <viewer/frames/framestates.h>
+
 #include <QtCore/QObject>
 
 class ViewerSession;
@@ -26,6 +28,7 @@ private:
     void connectFields();
     void showSequence();
     void showRange();
+    void showStates();
     void showFrame(int frame);
     void showPlaying(bool playing);
     void editRange();
@@ -34,4 +37,5 @@ private:
 
     const Ui::ImageViewerClass &m_form;
     ViewerSession &m_session;
+    FrameStates m_states; // as the timeline and the strips show them
 };

@@ -114,7 +114,7 @@ private:
 
 } // namespace
 
-ExrChroma::ExrChroma(const ExrFile &file, const std::vector<ExrTarget *> &colors)
+ExrChroma::ExrChroma(const ExrFile &file, const std::vector<ExrTarget *> &colors, CTImageChannel::Fill fill)
     : m_header(file.header(colors.front()->channel.part))
     , m_colors(colors)
 {
@@ -136,7 +136,7 @@ ExrChroma::ExrChroma(const ExrFile &file, const std::vector<ExrTarget *> &colors
                              Imf::HALF,
                              columns,
                              rows,
-                             CTImageChannel(name, format, CTImageChannel::Fill::None)});
+                             CTImageChannel(name, format, fill)});
     }
 }
 

@@ -12,8 +12,9 @@ namespace TImageLibrary {
 /// Makes the colour of luminance and chroma, by the filters and weights with which OpenEXR reads such files itself.
 class ExrChroma final {
 public:
-    /// `colors` are the targets of one prefix in a part, and outlive this. Throws when the file cannot fill the part.
-    ExrChroma(const ExrFile &file, const std::vector<ExrTarget *> &colors);
+    /// `colors` are the targets of one prefix in a part, and outlive this; what is not read of their sources is 0 with
+    /// `fill` Zero. Throws when the file cannot fill the part.
+    ExrChroma(const ExrFile &file, const std::vector<ExrTarget *> &colors, CTImageChannel::Fill fill);
 
     /// The stored channels, to be read before the colour is made.
     std::vector<ExrTarget> &sources() { return m_sources; }

@@ -1,11 +1,7 @@
 #include "exrchunks.h"
 
-#include "exrplan.h"
 #include "imageerror.h"
 
-#include <ImathBox.h>
-#include <ImathFun.h>
-#include <ImfChannelList.h>
 #include <ImfInputPart.h>
 
 #include <zlib.h>
@@ -18,24 +14,6 @@
 namespace TImageLibrary {
 
 namespace {
-
-std::size_t sampleBytes(Imf::PixelType type)
-{
-    return type == Imf::HALF ? 2 : 4;
-}
-
-/// Bytes of all channels within a box of pixels.
-std::size_t unpackedSize(const Imf::ChannelList &channels, const Imath::Box2i &box)
-{
-    std::size_t bytes = 0;
-    for (auto channel = channels.begin(); channel != channels.end(); ++channel) {
-        const Imf::Channel &details = channel.channel();
-        const ExrSpan columns = ExrSpan::within(box.min.x, box.max.x, details.xSampling);
-        const ExrSpan rows = ExrSpan::within(box.min.y, box.max.y, details.ySampling);
-        bytes += std::size_t(columns.count) * std::size_t(rows.count) * sampleBytes(details.type);
-    }
-    return bytes;
-}
 
 bool inflatesTo(std::span<const char> bytes, std::size_t size)
 {
@@ -62,23 +40,32 @@ bool runsMake(std::span<const char> bytes, std::size_t size)
 
 } // namespace
 
-void checkLastChunk(ExrFile &file, int part)
+bool takesShortChunks(const ExrFile &file, int part)
 {
     const Imf::Compression compression = file.header(part).compression();
-    const bool deflates = compression == Imf::ZIP_COMPRESSION || compression == Imf::ZIPS_COMPRESSION;
-    const bool runs = compression == Imf::RLE_COMPRESSION;
-    if (file.isTiled(part) || !(deflates || runs))
+    return compression == Imf::RLE_COMPRESSION || compression == Imf::ZIPS_COMPRESSION
+        || compression == Imf::ZIP_COMPRESSION;
+}
+
+void checkChunk(const Imf::Header &header, const Imath::Box2i &box, std::span<const char> packed)
+{
+    const std::size_t expected = ExrLayout::unpackedSize(header.channels(), box);
+    const bool runs = header.compression() == Imf::RLE_COMPRESSION;
+    // What would not shrink is stored as it is.
+    if (packed.size() != expected && !(runs ? runsMake(packed, expected) : inflatesTo(packed, expected)))
+        throw ImageError(TLoadFailure::Damaged, "chunk of another size at line " + std::to_string(box.min.y));
+}
+
+void checkLastChunk(ExrFile &file, int part)
+{
+    if (file.isTiled(part) || !takesShortChunks(file, part))
         return;
-    Imath::Box2i box = file.header(part).dataWindow();
-    box.min.y = box.max.y - (box.max.y - box.min.y) % file.chunkRows(part);
-    const std::size_t expected = unpackedSize(file.header(part).channels(), box);
+    const ExrLayout layout(file, part);
+    const Imath::Box2i box = layout.box(layout.fullCount() - 1);
     const char *data = nullptr;
     int size = 0;
     Imf::InputPart(file.parts(), part).rawPixelData(box.min.y, data, size);
-    const std::span<const char> bytes(data, std::size_t(std::max(size, 0)));
-    // What would not shrink is stored as it is.
-    if (bytes.size() != expected && !(deflates ? inflatesTo(bytes, expected) : runsMake(bytes, expected)))
-        throw ImageError(TLoadFailure::Damaged, "chunk of another size at line " + std::to_string(box.min.y));
+    checkChunk(file.header(part), box, {data, std::size_t(std::max(size, 0))});
 }
 
 } // namespace TImageLibrary

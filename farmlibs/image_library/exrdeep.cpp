@@ -19,51 +19,56 @@ namespace TImageLibrary {
 
 namespace {
 
-/// A deep part, read in rows that begin and end where chunks do.
-class DeepRows {
+/// A deep part, read in boxes of pixels that begin and end where chunks do.
+class DeepPixels {
 public:
-    virtual ~DeepRows() = default;
+    virtual ~DeepPixels() = default;
     virtual void setFrameBuffer(const Imf::DeepFrameBuffer &buffer) = 0;
-    virtual void readCounts(int firstRow, int lastRow) = 0;
-    virtual void read(int firstRow, int lastRow) = 0;
+    virtual void readCounts(const Imath::Box2i &box) = 0;
+    virtual void read(const Imath::Box2i &box) = 0;
 };
 
-class DeepScanLineRows final : public DeepRows {
+class DeepScanLines final : public DeepPixels {
 public:
-    DeepScanLineRows(ExrFile &file, int part)
+    DeepScanLines(ExrFile &file, int part)
         : m_part(file.parts(), part)
     { }
     void setFrameBuffer(const Imf::DeepFrameBuffer &buffer) override { m_part.setFrameBuffer(buffer); }
-    void readCounts(int firstRow, int lastRow) override { m_part.readPixelSampleCounts(firstRow, lastRow); }
-    void read(int firstRow, int lastRow) override { m_part.readPixels(firstRow, lastRow); }
+    void readCounts(const Imath::Box2i &box) override { m_part.readPixelSampleCounts(box.min.y, box.max.y); }
+    void read(const Imath::Box2i &box) override { m_part.readPixels(box.min.y, box.max.y); }
 
 private:
     Imf::DeepScanLineInputPart m_part;
 };
 
-class DeepTileRows final : public DeepRows {
+class DeepTiles final : public DeepPixels {
 public:
-    DeepTileRows(ExrFile &file, int part)
+    DeepTiles(ExrFile &file, int part)
         : m_part(file.parts(), part)
-        , m_top(file.header(part).dataWindow().min.y)
-        , m_tileRows(file.chunkRows(part))
+        , m_first(file.header(part).dataWindow().min)
+        , m_tile(int(file.header(part).tileDescription().xSize), file.chunkRows(part))
     { }
     void setFrameBuffer(const Imf::DeepFrameBuffer &buffer) override { m_part.setFrameBuffer(buffer); }
-    void readCounts(int firstRow, int lastRow) override
+    void readCounts(const Imath::Box2i &box) override
     {
-        m_part.readPixelSampleCounts(0, m_part.numXTiles() - 1, tileRow(firstRow), tileRow(lastRow));
+        const Imath::Box2i tiles = tilesOf(box);
+        m_part.readPixelSampleCounts(tiles.min.x, tiles.max.x, tiles.min.y, tiles.max.y);
     }
-    void read(int firstRow, int lastRow) override
+    void read(const Imath::Box2i &box) override
     {
-        m_part.readTiles(0, m_part.numXTiles() - 1, tileRow(firstRow), tileRow(lastRow));
+        const Imath::Box2i tiles = tilesOf(box);
+        m_part.readTiles(tiles.min.x, tiles.max.x, tiles.min.y, tiles.max.y);
     }
 
 private:
-    int tileRow(int row) const { return (row - m_top) / m_tileRows; }
+    Imath::Box2i tilesOf(const Imath::Box2i &box) const
+    {
+        return {(box.min - m_first) / m_tile, (box.max - m_first) / m_tile};
+    }
 
     Imf::DeepTiledInputPart m_part;
-    int m_top;
-    int m_tileRows;
+    Imath::V2i m_first;
+    Imath::V2i m_tile;
 };
 
 class Flattener final {
@@ -73,12 +78,11 @@ public:
         , m_part(part)
         , m_targets(targets)
         , m_data(file.header(part).dataWindow())
-        , m_width(std::uint64_t(std::int64_t(m_data.max.x) - m_data.min.x + 1))
     {
         if (file.isTiled(part))
-            m_rows = std::make_unique<DeepTileRows>(file, part);
+            m_pixels = std::make_unique<DeepTiles>(file, part);
         else
-            m_rows = std::make_unique<DeepScanLineRows>(file, part);
+            m_pixels = std::make_unique<DeepScanLines>(file, part);
         const bool hasBack = file.header(part).channels().findChannel("ZBack") != nullptr;
         // In the order that the compositing asks for.
         addInput("Z");
@@ -95,17 +99,28 @@ public:
         const std::int64_t bandRows = (kRows + chunkRows - 1) / chunkRows * chunkRows;
         for (std::int64_t top = m_data.min.y; top <= m_data.max.y; top += bandRows) {
             const auto bottom = int(std::min<std::int64_t>(top + bandRows - 1, m_data.max.y));
-            readBand(int(top), bottom);
-            for (int row = int(top); row <= bottom; ++row)
-                flattenRow(row, std::size_t(row - top) * m_width);
+            flattenBox({{m_data.min.x, int(top)}, {m_data.max.x, bottom}});
             report(double(bottom - m_data.min.y + 1) / double(m_data.max.y - m_data.min.y + 1));
+        }
+    }
+
+    void flattenPresent(PresentChunks &present, const std::function<void(double)> &report)
+    {
+        const ExrLayout &layout = present.layout();
+        const std::uint64_t count = layout.fullCount();
+        // As with flat pixels, OpenEXR looks for each chunk only where they are not asked for in order.
+        const bool isBackwards = m_file.header(m_part).lineOrder() == Imf::INCREASING_Y;
+        for (std::uint64_t i = 0; i < count; ++i) {
+            const std::uint64_t index = isBackwards ? count - 1 - i : i;
+            present.read({index, index + 1}, [&] { flattenBox(layout.box(index)); });
+            report(double(i + 1) / double(count));
         }
     }
 
 private:
     struct Channel {
         std::string name;
-        std::vector<float> samples; ///< of a band, pixel after pixel
+        std::vector<float> samples; ///< of a box, pixel after pixel
         std::vector<float *> pixels;
     };
 
@@ -128,29 +143,42 @@ private:
 
     /// What OpenEXR counts from, the pixel (0, 0), which may lie outside the memory: no arithmetic on pointers then.
     template <typename Value>
-    char *originOf(std::vector<Value> &values, int top) const
+    static char *originOf(std::vector<Value> &values, const Imath::Box2i &box)
     {
         const auto data = reinterpret_cast<std::uintptr_t>(values.data());
-        return reinterpret_cast<char *>(data - std::uintptr_t(top) * m_width * sizeof(Value)
-                                        - std::uintptr_t(m_data.min.x) * sizeof(Value));
+        return reinterpret_cast<char *>(data - std::uintptr_t(box.min.y) * widthOf(box) * sizeof(Value)
+                                        - std::uintptr_t(box.min.x) * sizeof(Value));
     }
 
-    void readBand(int top, int bottom)
+    static std::uint64_t widthOf(const Imath::Box2i &box)
     {
-        const std::uint64_t pixels = m_width * (std::uint64_t(bottom - top) + 1);
+        return std::uint64_t(std::int64_t(box.max.x) - box.min.x + 1);
+    }
+
+    void flattenBox(const Imath::Box2i &box)
+    {
+        readBox(box);
+        for (int row = box.min.y; row <= box.max.y; ++row)
+            flattenRow(row, box);
+    }
+
+    void readBox(const Imath::Box2i &box)
+    {
+        const std::uint64_t width = widthOf(box);
+        const std::uint64_t pixels = width * (std::uint64_t(box.max.y - box.min.y) + 1);
         require(pixels * (sizeof(unsigned) + m_channels.size() * sizeof(float *)));
         m_counts.assign(pixels, 0);
         Imf::DeepFrameBuffer buffer;
         buffer.insertSampleCountSlice(
-            Imf::Slice(Imf::UINT, originOf(m_counts, top), sizeof(unsigned), sizeof(unsigned) * m_width));
+            Imf::Slice(Imf::UINT, originOf(m_counts, box), sizeof(unsigned), sizeof(unsigned) * width));
         for (Channel &channel : m_channels) {
             channel.pixels.assign(pixels, nullptr);
             buffer.insert(channel.name,
-                          Imf::DeepSlice(Imf::FLOAT, originOf(channel.pixels, top), sizeof(float *),
-                                         sizeof(float *) * m_width, sizeof(float)));
+                          Imf::DeepSlice(Imf::FLOAT, originOf(channel.pixels, box), sizeof(float *),
+                                         sizeof(float *) * width, sizeof(float)));
         }
-        m_rows->setFrameBuffer(buffer);
-        m_rows->readCounts(top, bottom);
+        m_pixels->setFrameBuffer(buffer);
+        m_pixels->readCounts(box);
         std::uint64_t total = 0;
         for (const unsigned count : m_counts)
             total += count;
@@ -163,14 +191,14 @@ private:
             for (std::size_t i = 0; i < m_counts.size(); samples += m_counts[i++])
                 channel.pixels[i] = samples;
         }
-        m_rows->read(top, bottom);
+        m_pixels->read(box);
     }
 
-    /// `first` is the row's first pixel in the band.
-    void flattenRow(int row, std::size_t first)
+    /// Of the box that was read.
+    void flattenRow(int row, const Imath::Box2i &box)
     {
         const ExrSpan visible = m_targets.front()->columns;
-        const ExrSpan columns = ExrSpan::common(visible, ExrSpan::within(m_data.min.x, m_data.max.x, 1));
+        const ExrSpan columns = ExrSpan::common(visible, ExrSpan::within(box.min.x, box.max.x, 1));
         const ExrSpan rows = m_targets.front()->rows;
         if (row < rows.first || row >= rows.end())
             return;
@@ -180,7 +208,8 @@ private:
         for (const std::size_t input : m_inputs)
             names.push_back(m_channels[input].name.c_str());
         for (int column = columns.first; column < columns.end(); ++column) {
-            const std::size_t pixel = first + std::size_t(column - m_data.min.x);
+            const std::size_t pixel =
+                std::size_t(row - box.min.y) * widthOf(box) + std::size_t(column - box.min.x);
             for (std::size_t i = 0; i < inputs.size(); ++i)
                 inputs[i] = m_channels[m_inputs[i]].pixels[pixel];
             m_compositing.composite_pixel(flat.data(), inputs.data(), names.data(), int(inputs.size()),
@@ -206,20 +235,20 @@ private:
     int m_part;
     const std::vector<ExrTarget *> &m_targets;
     Imath::Box2i m_data;
-    std::uint64_t m_width;
-    std::unique_ptr<DeepRows> m_rows;
+    std::unique_ptr<DeepPixels> m_pixels;
     std::vector<Channel> m_channels;
     std::vector<std::size_t> m_inputs; // channels by what the compositing takes them for
-    std::vector<unsigned> m_counts; // samples of a band's pixels
+    std::vector<unsigned> m_counts; // samples of a box's pixels
     Imf::DeepCompositing m_compositing;
 };
 
 } // namespace
 
 void flattenPart(ExrFile &file, int part, const std::vector<ExrTarget *> &targets,
-                 const std::function<void(double)> &report)
+                 const std::function<void(double)> &report, PresentChunks *present)
 {
-    Flattener(file, part, targets).flatten(report);
+    Flattener flattener(file, part, targets);
+    present ? flattener.flattenPresent(*present, report) : flattener.flatten(report);
 }
 
 } // namespace TImageLibrary

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "exrplan.h"
+#include "exrpresent.h"
 
 #include <functional>
 #include <vector>
@@ -8,8 +9,8 @@
 namespace TImageLibrary {
 
 /// Flattens a deep part's channels into their planes: OpenEXR puts the samples of each pixel together from front to back.
-/// All `targets` are of that part. Throws when the pixels are damaged.
+/// All `targets` are of that part. Without `present` every chunk is to be there: throws when the pixels are damaged.
 void flattenPart(ExrFile &file, int part, const std::vector<ExrTarget *> &targets,
-                 const std::function<void(double)> &report);
+                 const std::function<void(double)> &report, PresentChunks *present);
 
 } // namespace TImageLibrary

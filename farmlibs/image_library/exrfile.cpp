@@ -1,6 +1,7 @@
 #include "exrfile.h"
 
 #include "exrchannels.h"
+#include "exrheaders.h"
 #include "imageerror.h"
 
 #include <ImathBox.h>
@@ -122,6 +123,7 @@ std::string prefixOf(const Imf::Header &header, const std::vector<ExrChannel> &c
 ExrFile ExrFile::open(const SourceFile &file)
 {
     try {
+        checkHeaders(file);
         return ExrFile(file);
     } catch (const std::exception &) {
         refuseNewCompression(file);
@@ -134,6 +136,7 @@ ExrFile::ExrFile(const SourceFile &file)
     , m_stream(file)
     // A table of chunks that is not there is not rebuilt: the writer has not finished, or the file is cut.
     , m_parts(m_stream, exrPoolThreads(), false)
+    , m_tablesEnd(m_stream.tellg())
 {
     listChannels(false);
     listChannels(true);
@@ -162,10 +165,14 @@ void ExrFile::listChannels(bool deep)
     }
 }
 
-void ExrFile::checkPart(int part) const
+void ExrFile::checkComplete(int part) const
 {
     if (!m_parts.partComplete(part))
         throw ImageError(TLoadFailure::Damaged, nameOf(part) + " lacks some of its pixels");
+}
+
+void ExrFile::checkChunks(int part) const
+{
     const Imf::Header &partHeader = header(part);
     const Imath::Box2i &window = partHeader.dataWindow();
     const std::uint64_t width = isTiled(part) ? partHeader.tileDescription().xSize

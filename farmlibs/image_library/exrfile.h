@@ -43,8 +43,15 @@ public:
     const Imf::Header &header(int part) const { return m_parts.header(part); }
     Imf::MultiPartInputFile &parts() { return m_parts; }
 
-    /// Throws when the part has not all its pixels, or its chunks are larger than the file can fill.
-    void checkPart(int part) const;
+    int version() const { return m_parts.version(); }
+    int partCount() const { return m_parts.parts(); }
+    /// Where the tables of chunks end, which stand behind the headers one after the other.
+    std::uint64_t tablesEnd() const { return m_tablesEnd; }
+
+    /// Throws when the part has not all its pixels.
+    void checkComplete(int part) const;
+    /// Throws when the part's chunks are larger than the file can fill.
+    void checkChunks(int part) const;
     /// How many bytes of pixels a byte of the part can make.
     std::uint64_t expansion(int part) const;
     /// Rows of pixels that the part compresses together.
@@ -61,6 +68,7 @@ private:
     const SourceFile &m_source;
     ExrStream m_stream;
     Imf::MultiPartInputFile m_parts;
+    std::uint64_t m_tablesEnd;
     std::vector<ExrChannel> m_channels;
 };
 

@@ -17,6 +17,8 @@ public:
     std::set<std::string> layers(const SourceFile &file, const std::string &format) const override;
     CTImage load(const SourceFile &file, const std::string &format, const std::set<std::string> &names,
                  Progress &progress) const override;
+    CTImage loadPartial(const SourceFile &file, const std::set<std::string> &names, Progress &progress,
+                        TPartialLoad &load) const override;
 };
 
 } // namespace TImageLibrary

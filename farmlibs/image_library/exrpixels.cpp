@@ -27,6 +27,7 @@ public:
     virtual ~PartRows() = default;
     virtual void setFrameBuffer(const Imf::FrameBuffer &buffer) = 0;
     virtual void read(int firstRow, int lastRow) = 0;
+    virtual void readTile(int column, int row) = 0;
     virtual int chunksPerRow() const = 0;
 };
 
@@ -37,6 +38,7 @@ public:
     { }
     void setFrameBuffer(const Imf::FrameBuffer &buffer) override { m_part.setFrameBuffer(buffer); }
     void read(int firstRow, int lastRow) override { m_part.readPixels(firstRow, lastRow); }
+    void readTile(int, int) override { }
     int chunksPerRow() const override { return 1; }
 
 private:
@@ -56,6 +58,7 @@ public:
         m_part.readTiles(0, m_part.numXTiles() - 1, (firstRow - m_top) / m_tileRows,
                          (lastRow - m_top) / m_tileRows);
     }
+    void readTile(int column, int row) override { m_part.readTile(column, row); }
     int chunksPerRow() const override { return m_part.numXTiles(); }
 
 private:
@@ -141,16 +144,14 @@ void located(const std::string &place, const Function &function)
 
 class PartReader final {
 public:
-    PartReader(ExrFile &file, int part, const std::vector<ExrTarget *> &targets)
+    PartReader(ExrFile &file, int part, const std::vector<ExrTarget *> &targets, PresentChunks *present)
         : m_file(file)
         , m_part(part)
         , m_targets(targets)
+        , m_present(present)
         , m_data(file.header(part).dataWindow())
     {
-        if (file.isTiled(part))
-            m_rows = std::make_unique<TileRows>(file.parts(), part);
-        else
-            m_rows = std::make_unique<ScanLineRows>(file.parts(), part);
+        m_rows = rowsOf(file);
     }
 
     void read(const std::function<void(double)> &report)
@@ -164,13 +165,15 @@ public:
             setPlanes();
         // In 64 bits: a band may end behind the last row that an int can count.
         const std::int64_t bandRows = rowsPerBand();
-        for (std::int64_t top = m_data.min.y; top <= m_data.max.y; top += bandRows) {
+        const std::int64_t bands = (std::int64_t(m_data.max.y) - m_data.min.y) / bandRows + 1;
+        for (std::int64_t i = 0; i < bands; ++i) {
+            const std::int64_t top = m_data.min.y + (isBackwards() ? bands - 1 - i : i) * bandRows;
             const auto bottom = int(std::min<std::int64_t>(top + bandRows - 1, m_data.max.y));
             if (direct)
                 readRows(int(top), bottom);
             else
                 readThroughScratch({{m_data.min.x, int(top)}, {m_data.max.x, bottom}});
-            report(double(bottom - m_data.min.y + 1) / double(m_data.max.y - m_data.min.y + 1));
+            report(double(i + 1) / double(bands));
         }
     }
 
@@ -189,19 +192,72 @@ private:
         return chunkRows * ((lines - 1) / threads + 1) * threads;
     }
 
+    /// OpenEXR takes for granted that chunks in the order of their lines follow each other in the file, which is not so
+    /// behind a damaged one; in the other order it looks for each.
+    bool isBackwards() const { return m_present && m_file.header(m_part).lineOrder() == Imf::INCREASING_Y; }
+
+    std::unique_ptr<PartRows> rowsOf(ExrFile &file) const
+    {
+        if (file.isTiled(m_part))
+            return std::make_unique<TileRows>(file.parts(), m_part);
+        return std::make_unique<ScanLineRows>(file.parts(), m_part);
+    }
+
     void setPlanes()
     {
         Imf::FrameBuffer buffer;
         for (ExrTarget *target : m_targets)
             buffer.insert(target->channel.name,
                           sliceOn(target->plane.data(), *target, target->columns, target->rows));
+        setBuffer(buffer);
+    }
+
+    void setBuffer(const Imf::FrameBuffer &buffer)
+    {
+        m_buffer = buffer;
         m_rows->setFrameBuffer(buffer);
     }
 
     void readRows(int top, int bottom)
     {
+        if (m_present)
+            return readPresent(top, bottom);
         located("in the lines " + std::to_string(top) + " to " + std::to_string(bottom),
                 [&] { m_rows->read(top, bottom); });
+    }
+
+    /// A band at a time as long as all goes well, which keeps the threads busy.
+    void readPresent(int top, int bottom)
+    {
+        const ExrLayout &layout = m_present->layout();
+        const std::int64_t chunkRows = m_file.chunkRows(m_part);
+        const auto columns = std::uint64_t(layout.columns());
+        const std::uint64_t begin = std::uint64_t((std::int64_t(top) - m_data.min.y) / chunkRows) * columns;
+        const std::uint64_t end =
+            (std::uint64_t((std::int64_t(bottom) - m_data.min.y) / chunkRows) + 1) * columns;
+        if (!takesShortChunks(m_file, m_part)
+            && m_present->read({begin, end}, [&] { m_rows->read(top, bottom); }))
+            return;
+        // What has met damage keeps parts of it.
+        if (!m_again)
+            m_again = std::make_unique<Again>(*this);
+        m_again->rows->setFrameBuffer(m_buffer);
+        for (std::uint64_t i = 0; i < end - begin; ++i) {
+            const std::uint64_t index = isBackwards() ? end - 1 - i : begin + i;
+            m_present->read({index, index + 1}, [&] { readChunk(layout, index); });
+        }
+    }
+
+    void readChunk(const ExrLayout &layout, std::uint64_t index)
+    {
+        const Imath::Box2i box = layout.box(index);
+        if (takesShortChunks(m_file, m_part))
+            checkChunk(m_file.header(m_part), box, m_present->packed(index));
+        const auto at = std::int64_t(index);
+        if (layout.isTiled())
+            m_again->rows->readTile(int(at % layout.columns()), int(at / layout.columns()));
+        else
+            m_again->rows->read(box.min.y, box.max.y);
     }
 
     void readThroughScratch(const Imath::Box2i &band)
@@ -219,28 +275,43 @@ private:
         Imf::FrameBuffer buffer;
         for (ExrTarget *target : m_targets)
             buffer.insert(target->channel.name, scratches.emplace_back(*target, band).slice());
-        m_rows->setFrameBuffer(buffer);
+        setBuffer(buffer);
         readRows(band.min.y, band.max.y);
         for (const Scratch &scratch : scratches)
             scratch.copyToPlane();
     }
 
+    /// The file once more, for chunks one by one.
+    struct Again {
+        explicit Again(const PartReader &reader)
+            : file(ExrFile::open(reader.m_file.source()))
+            , rows(reader.rowsOf(file))
+        { }
+
+        ExrFile file;
+        std::unique_ptr<PartRows> rows;
+    };
+
     ExrFile &m_file;
     int m_part;
     const std::vector<ExrTarget *> &m_targets;
+    PresentChunks *m_present; // null where every chunk is to be there
     Imath::Box2i m_data;
     std::unique_ptr<PartRows> m_rows;
+    Imf::FrameBuffer m_buffer;
+    std::unique_ptr<Again> m_again; // once a chunk has not been read with its neighbours
 };
 
 } // namespace
 
 void readPart(ExrFile &file, int part, const std::vector<ExrTarget *> &targets,
-              const std::function<void(double)> &report)
+              const std::function<void(double)> &report, PresentChunks *present)
 {
-    if (canUnpack(file, part) && unpackPart(file, part, targets, report))
+    if (canUnpack(file, part) && unpackPart(file, part, targets, report, present))
         return;
-    located("in its last lines", [&] { checkLastChunk(file, part); });
-    PartReader(file, part, targets).read(report);
+    if (!present)
+        located("in its last lines", [&] { checkLastChunk(file, part); });
+    PartReader(file, part, targets, present).read(report);
 }
 
 } // namespace TImageLibrary

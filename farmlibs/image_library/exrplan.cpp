@@ -84,7 +84,8 @@ ExrSpan ExrSpan::common(const ExrSpan &a, const ExrSpan &b)
     return {first, std::max(0, std::min(a.end(), b.end()) - first)};
 }
 
-std::vector<ExrTarget> planPlanes(const ExrFile &file, const std::set<std::string> &names)
+std::vector<ExrTarget> planPlanes(const ExrFile &file, const std::set<std::string> &names,
+                                  bool mayBeIncomplete)
 {
     const std::vector<ExrChannel> channels = chosenChannels(file.channels(), names);
     const Imf::PixelType type = commonType(channels);
@@ -93,7 +94,9 @@ std::vector<ExrTarget> planPlanes(const ExrFile &file, const std::set<std::strin
     std::uint64_t bytes = 0;
     std::uint64_t expansion = 1;
     for (const ExrChannel &channel : channels) {
-        file.checkPart(channel.part);
+        if (!mayBeIncomplete)
+            file.checkComplete(channel.part);
+        file.checkChunks(channel.part);
         shapes.push_back(shapeOf(file, channel, type));
         bytes += shapes.back().format.byteSize();
         // A half that becomes a float doubles.

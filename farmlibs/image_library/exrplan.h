@@ -34,6 +34,7 @@ struct ExrTarget {
 
 /// The planes for the named layers, or for the default layer when the file has none of them, in the file's order.
 /// Throws when there is nothing to read or the file cannot hold what it announces.
-std::vector<ExrTarget> planPlanes(const ExrFile &file, const std::set<std::string> &names);
+std::vector<ExrTarget> planPlanes(const ExrFile &file, const std::set<std::string> &names,
+                                  bool mayBeIncomplete);
 
 } // namespace TImageLibrary

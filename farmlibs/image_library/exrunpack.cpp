@@ -56,6 +56,13 @@ public:
         return {m_isTiled, m_isTiled ? tile(index) : box(index).min};
     }
 
+    /// As in an ExrLayout.
+    std::uint64_t indexInPart(std::size_t index) const
+    {
+        const auto columns = m_isTiled ? (std::int64_t(m_window.max.x) - m_window.min.x) / m_size.x + 1 : 1;
+        return std::uint64_t(std::int64_t(tile(index).y) * columns + tile(index).x);
+    }
+
 private:
     /// The chunks, of so many pixels from `first` to `last` along one axis, that reach into the pixels from `min` to `max`.
     static ExrSpan reached(int min, int max, int first, int last, int size)
@@ -186,7 +193,7 @@ bool canUnpack(const ExrFile &file, int part)
 }
 
 bool unpackPart(const ExrFile &file, int part, const std::vector<ExrTarget *> &targets,
-                const std::function<void(double)> &report)
+                const std::function<void(double)> &report, PresentChunks *present)
 {
     const ExrCore core(file.source());
     if (!core.isOpen())
@@ -200,11 +207,15 @@ bool unpackPart(const ExrFile &file, int part, const std::vector<ExrTarget *> &t
     const auto makeStep = [&]() -> Step {
         // A step is copied.
         const auto worker = std::shared_ptr<Worker>(new Worker{{core, part}, placer});
-        return [&grid, worker](std::size_t index) {
+        return [&grid, present, worker](std::size_t index) {
             const Imath::Box2i box = grid.box(index);
             const auto pixels = std::size_t(box.size().x + 1) * std::size_t(box.size().y + 1);
-            worker->placer.place(
-                box, worker->unpacker.unpack(grid.place(index), pixels * worker->placer.pixelBytes()));
+            const auto read = [&] {
+                worker->placer.place(
+                    box, worker->unpacker.unpack(grid.place(index), pixels * worker->placer.pixelBytes()));
+            };
+            const std::uint64_t inPart = grid.indexInPart(index);
+            present ? static_cast<void>(present->read({inPart, inPart + 1}, read)) : read();
         };
     };
     const std::size_t chunkBytes = grid.pixelsOfOne() * placer.pixelBytes();

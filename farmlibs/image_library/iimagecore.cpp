@@ -198,6 +198,18 @@ CTImage *IImageCore::Load(const char *path, const char *format, const std::set<s
     });
 }
 
+CTImage *IImageCore::LoadPartial(const char *path, const char *format, const std::set<std::string> &names,
+                                 TPartialLoad &load)
+{
+    Progress reported(load.progress, load.user);
+    load = {};
+    return guarded(path, [&]() -> CTImage * {
+        const ImageLoader &loader = loaderOf(format);
+        const SourceFile file = LastSource::take(path);
+        return std::make_unique<CTImage>(loader.loadPartial(file, names, reported, load)).release();
+    });
+}
+
 const TLoadFailure &IImageCore::GetLoadFailure()
 {
     return lastFailure();

@@ -3,14 +3,12 @@
 #include "ctextensionsiterator.h"
 #include "ctimage.h"
 #include "tloadfailure.h"
+#include "tpartialload.h"
 
 #include <set>
 #include <string>
 
 namespace TImageLibrary {
-
-/// Hears how far a load has come, from 0 to 1, with the pointer that was handed to Load().
-using TLoadProgress = void (*)(float fraction, void *user);
 
 /// Reads images: OpenEXR files through OpenEXR, everything else through OpenImageIO. Paths are UTF-8.
 /// Nothing throws; a file that is damaged, cut short, or announces more pixels than its bytes can hold does not load.
@@ -38,6 +36,13 @@ public:
     /// Null when the file cannot be read; the caller ends the image with DestroyImage().
     static CTImage *Load(const char *path, const char *format, const std::set<std::string> &names,
                          TLoadProgress progress, void *user);
+
+    /// Reads what there is of a file that is being written, was cut short or is damaged, and tells how much that is; the
+    /// rest of each plane is 0. Null when there is nothing sound of it, and for formats that are read as a whole. An
+    /// addition to the interface: a farm's own library need not have it.
+    static CTImage *LoadPartial(const char *path, const char *format, const std::set<std::string> &names,
+                                TPartialLoad &load);
+    using PartialLoad = TPartialLoad;
 
     /// Ends an image; null does nothing.
     static void DestroyImage(CTImage *image);

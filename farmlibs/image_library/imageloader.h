@@ -3,6 +3,7 @@
 #include "ctimage.h"
 #include "progress.h"
 #include "sourcefile.h"
+#include "tpartialload.h"
 
 #include <set>
 #include <string>
@@ -27,6 +28,9 @@ public:
     /// The image holds the named layers, or the default one when the file has none of them.
     virtual CTImage load(const SourceFile &file, const std::string &format,
                          const std::set<std::string> &names, Progress &progress) const = 0;
+    /// The same with what there is of a file that may be incomplete, which `load` is told, empty before; throws when that is nothing.
+    virtual CTImage loadPartial(const SourceFile &file, const std::set<std::string> &names,
+                                Progress &progress, TPartialLoad &load) const;
 };
 
 } // namespace TImageLibrary

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <system_error>
+#include <utility>
 
 namespace TImageLibrary {
 
@@ -82,7 +83,22 @@ bool SourceFile::isStill(const char *path) const
 
 std::size_t SourceFile::read(std::uint64_t offset, void *buffer, std::size_t count) const
 {
-    return m_file->read(offset, buffer, count);
+    const std::size_t done = m_file->read(offset, buffer, count);
+    if (!m_patch)
+        return done;
+    const std::uint64_t begin = std::max(offset, m_patch->place);
+    const std::uint64_t end = std::min(offset + done, m_patch->place + m_patch->bytes.size());
+    if (begin < end)
+        m_patch->bytes.copy(static_cast<char *>(buffer) + (begin - offset), end - begin,
+                            begin - m_patch->place);
+    return done;
+}
+
+SourceFile SourceFile::patched(std::uint64_t place, std::string bytes) const
+{
+    SourceFile other = *this;
+    other.m_patch = std::make_shared<const Patch>(Patch{place, std::move(bytes)});
+    return other;
 }
 
 std::string SourceFile::bytes(std::uint64_t offset, std::uint64_t count) const

@@ -35,6 +35,9 @@ public:
     /// Gives how many bytes were read; any thread may ask.
     std::size_t read(std::uint64_t offset, void *buffer, std::size_t count) const;
 
+    /// The same file with other bytes in one place.
+    SourceFile patched(std::uint64_t place, std::string bytes) const;
+
     /// Whether the file's bytes can hold so many bytes of pixels when a byte of the file makes at most `expansion` of
     /// them. A plain picture shrinks to next to nothing in any format, so an everyday size is believed of every file.
     bool canHold(std::uint64_t pixelBytes, std::uint64_t expansion) const;
@@ -43,10 +46,17 @@ private:
     SourceFile() = default;
     std::string bytes(std::uint64_t offset, std::uint64_t count) const;
 
+    /// Bytes that stand in front of the file's own.
+    struct Patch {
+        std::uint64_t place = 0;
+        std::string bytes;
+    };
+
     std::string m_path;
     std::filesystem::path m_nativePath;
     OpenFile::State m_state;
     std::shared_ptr<const OpenFile> m_file;
+    std::shared_ptr<const Patch> m_patch; // may be null
     std::string m_head;
     std::string m_tail;
     std::string m_extension;

@@ -10,6 +10,8 @@ constexpr SettingsRow kRows[] = {
     {"imageViewer/imageViewerMode", &Settings::imageViewerMode},
     {"imageViewer/imageViewer", &Settings::imageViewer},
     {"imageViewer/launchImageViewer", &Settings::launchImageViewer},
+
+    {"viewer/showIncompleteFrames", &Settings::viewerShowIncompleteFrames},
 };
 
 } // namespace

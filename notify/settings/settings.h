@@ -44,6 +44,7 @@ struct Settings {
     int imageViewerMode = 0; ///< 0 integrated viewer, 1 external application
     QString imageViewer;
     bool launchImageViewer = false;
+    bool viewerShowIncompleteFrames = true;
 
     bool operator==(const Settings &) const = default;
 
@@ -66,7 +67,7 @@ struct CommandLineOverrides {
 Settings loadSettings();
 /// False where the program was never configured, neither by the user nor for all users.
 bool anySettingStored();
-/// As loadSettings() for the keys of the group "imageViewer" alone: needs no cipher.
+/// As loadSettings() for the keys of the groups "imageViewer" and "viewer" alone: needs no cipher.
 Settings loadImageViewerSettings();
 
 /// Writes every key. False, with one warning, when the store cannot be written.

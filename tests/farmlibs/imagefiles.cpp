@@ -41,7 +41,7 @@ Imf::Header headerOf(const ExrSpec &spec)
     else
         header.setType(spec.tiled ? Imf::TILEDIMAGE : Imf::SCANLINEIMAGE);
     if (spec.tiled)
-        header.setTileDescription(Imf::TileDescription(16, 16));
+        header.setTileDescription(Imf::TileDescription(16, 16, spec.levels));
     if (!spec.part.empty())
         header.setName(spec.part);
     return header;
@@ -66,7 +66,12 @@ void writePart(Imf::MultiPartOutputFile &file, int part, const ExrSpec &spec)
     if (spec.tiled) {
         Imf::TiledOutputPart output(file, part);
         output.setFrameBuffer(buffer);
-        output.writeTiles(0, output.numXTiles() - 1, 0, output.numYTiles() - 1);
+        for (int y = 0; y < output.numYLevels(); ++y) {
+            for (int x = 0; x < output.numXLevels(); ++x) {
+                if (spec.levels != Imf::MIPMAP_LEVELS || x == y)
+                    output.writeTiles(0, output.numXTiles(x) - 1, 0, output.numYTiles(y) - 1, x, y);
+            }
+        }
     } else {
         Imf::OutputPart output(file, part);
         output.setFrameBuffer(buffer);

@@ -8,6 +8,7 @@
 #include <ImfCompression.h>
 #include <ImfLineOrder.h>
 #include <ImfPixelType.h>
+#include <ImfTileDescription.h>
 #include <OpenImageIO/imageio.h>
 
 #include <QtCore/QByteArray>
@@ -47,6 +48,7 @@ struct ExrSpec {
     std::vector<ExrChannelSpec> channels{{"A"}, {"B"}, {"G"}, {"R"}};
     Imf::Compression compression = Imf::ZIP_COMPRESSION;
     bool tiled = false;
+    Imf::LevelMode levels = Imf::ONE_LEVEL; ///< of tiles
     bool deep = false; ///< no, one or several samples in a pixel, which overlap and may hide the rest
     Imf::LineOrder order = Imf::INCREASING_Y;
     std::string part; ///< its name, in a file of several

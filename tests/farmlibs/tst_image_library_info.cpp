@@ -96,6 +96,11 @@ private Q_SLOTS:
             {"deep.exr", "deep pixels without the channels Z and A, which no picture can be made of"},
             {"locked.exr", geteuid() == 0 ? "" : "permission denied"}};
         QVERIFY(run({file("bad.exr")}).errors.contains(", in its last lines"));
+        ExrSpec lines;
+        lines.compression = Imf::ZIPS_COMPRESSION;
+        lines.rowsWritten = 17;
+        writeExr(m_folder("written.exr"), lines);
+        QVERIFY(run({file("written.exr")}).errors.endsWith(" (17 of 30 chunks are sound)\n"));
         for (const auto &[name, reason] : reasons) {
             const QByteArray line = file(name).toUtf8() + ": cannot be read: " + reason + '\n';
             QCOMPARE(run({file(name)}).errors, reason.isEmpty() ? QByteArray() : line);

@@ -112,6 +112,7 @@ private Q_SLOTS:
             {u"Play sound on items start"_s, &Settings::playStartSound},
             {u"Play sound on service events"_s, &Settings::playServiceSound},
             {u"Launch image viewer automatically"_s, &Settings::launchImageViewer},
+            {u"Show incomplete frames"_s, &Settings::viewerShowIncompleteFrames},
             {u"Skip directory server authentication"_s, &Settings::skipDirectoryAuthentication},
             {u"Show bubble (when supported)"_s, &Settings::showBubble},
             {u"Automatic aknowledge notifications when raising the application"_s, &Settings::autoAckOnRaise},

@@ -117,6 +117,14 @@ for arguments in [[*grab, path("missing.exr")], [*grab, path("broken.exr")], [*g
 
 check("no such file" in view(*grab, path("missing.exr"), code=1), "nothing tells why there is no picture")
 
+# What there is of a frame is no picture, unless it is asked for.
+oiiotool("--pattern", "constant:color=1,1,1", "16x64", "3", "-d", "half", "--compression", "zip", "-o", path("cut.exr"))
+os.truncate(path("cut.exr"), os.path.getsize(path("cut.exr")) - 4)
+view(*grab, path("cut.exr"), code=1)
+check("3 of 4 chunks" in view("--grab", path("cut.png"), "--incomplete", path("cut.exr")), "nothing tells what is missing")
+check(os.path.exists(path("cut.png")), "nothing was written of what there is")
+view("--incomplete", path("cut.exr"), code=2)
+
 # Drivers that draw no pictures, none of this kind, or none so large.
 OLD = {"MESA_GL_VERSION_OVERRIDE": "2.1"}
 for told, file, driver in [

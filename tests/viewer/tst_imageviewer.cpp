@@ -4,6 +4,7 @@
 #include <viewer/calibrationpanel.h>
 
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QMimeData>
 #include <QtCore/QSettings>
 #include <QtCore/QUrl>
@@ -180,6 +181,22 @@ private Q_SLOTS:
         m_viewer->setFramesPath({.path = notes.fileName().toStdString()});
         QCOMPARE(reason->text(), u"File that cannot be shown at path: %1"_s.arg(notes.fileName()));
         QVERIFY(!find<QLabel>("imageWarningLabel")->pixmap().isNull());
+    }
+
+    /// A picture without alpha: what is written of it shows, the checker where nothing is, and the window says how much.
+    void incompleteFrames()
+    {
+        const QString cut = path(u"shot.0001.exr"_s);
+        writeFrame(cut, kFrame, {{"R", 1.0F}, {"G", 1.0F}, {"B", 1.0F}});
+        QVERIFY(QFile::resize(cut, QFileInfo(cut).size() - 10));
+        open(u"shot.0001.exr"_s);
+        const QImage picture = m_viewer->picture().grabPicture();
+        QCOMPARE(picture.pixelColor(5, 31), QColor(Qt::white));
+        for (int y = 32; y < picture.height(); ++y)
+            QVERIFY(picture.pixelColor(5, y) != QColor(Qt::white)
+                    && picture.pixelColor(5, y) != QColor(Qt::black));
+        QVERIFY(find<QLabel>("infoLabel")->text().endsWith(u"66 % written"_s));
+        QVERIFY(find("imageWarningWidget")->isHidden());
     }
 
     void whatIsTypedAndDropped()

@@ -3,10 +3,12 @@
 #include <viewer/frames/framecache.h>
 #include <viewer/widgets/imagesallocationwidget.h>
 #include <viewer/widgets/imagesmarkerwidget.h>
+#include <viewer/widgets/imagetimeline.h>
 
 #include <QtGui/QImage>
 #include <QtTest/QTest>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -54,6 +56,37 @@ private Q_SLOTS:
         strip.setMarkedFrames({2, 7, 12});
         QCOMPARE(columns(strip, 12),
                  u"ORANGE yellow grey grey grey BLACK yellow black black black BLACK BLACK"_qs);
+    }
+
+    /// Whoever sees no colours tells the frames apart by their hatches, on the strips as on the timeline.
+    void states()
+    {
+        FrameStates known;
+        known.set(2, FrameState::InTheMaking);
+        known.set(3, FrameState::Missing);
+        known.set(4, FrameState::Broken);
+        imagesMarkerWidget strip;
+        imageTimeline timeline;
+        const auto look = [&known](auto &widget) {
+            widget.setFrames({1, 2, 3, 4});
+            widget.setRange(1, 4);
+            widget.setStates(known);
+            widget.resize(160, 60);
+            return widget.grab().toImage();
+        };
+        for (const QImage &image : {look(strip), look(timeline)}) {
+            QList<QImage> hatches;
+            for (int frame = 0; frame < 4; ++frame) {
+                // Without the frame's tick and number; black stays black, all else is the same.
+                QImage hatch =
+                    image.copy(frame * 40 + 16, 46, 16, 8).convertToFormat(QImage::Format_Grayscale8);
+                for (int y = 0; y < hatch.height(); ++y)
+                    std::transform(hatch.scanLine(y), hatch.scanLine(y) + hatch.width(), hatch.scanLine(y),
+                                   [](uchar grey) { return grey > 0 ? 255 : 0; });
+                QVERIFY2(!hatches.contains(hatch), qPrintable(QString::number(frame)));
+                hatches += hatch;
+            }
+        }
     }
 
     void cachedFrames()

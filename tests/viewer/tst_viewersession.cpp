@@ -143,6 +143,44 @@ private Q_SLOTS:
         QCOMPARE(m_display.shown->planeSizes.front(), (PlaneSize{32, 16}));
     }
 
+    /// Two of three chunks and the beginning of the third: they show, until the file is whole or the switch is off.
+    void followsFramesInTheMaking()
+    {
+        constexpr QSize kThreeChunks(16, 48);
+        for (const int frame : {4, 5})
+            writeFrame(file(frame), kThreeChunks);
+        QFile whole(file(5));
+        QVERIFY(whole.open(QIODevice::ReadWrite));
+        const QByteArray bytes = whole.readAll();
+        QVERIFY(whole.resize(bytes.size() - 10));
+        open(u"shot.####.exr"_s);
+        const auto comeTo5 = [this] {
+            m_session->setFrame(4);
+            m_session->setFrame(5);
+            return m_session->lastLoad();
+        };
+        const QList<QByteArray> planes = (m_session->setFrame(4), m_display.uploaded);
+        for (int round = 0; round < 2; ++round) {
+            const LoadResult load = comeTo5();
+            QVERIFY(load.shown() && load.partial.sound() == 2 && load.partial.percentWritten() == 66);
+            QCOMPARE(m_session->states().worst(4, 5), FrameState::InTheMaking);
+            const std::vector<FarmHelpers::PartialLoad::Box> unread{{0, 32, 16, 16}};
+            QVERIFY(m_display.shown->partial.unread == unread);
+        }
+        QVERIFY(whole.seek(bytes.size() - 10) && whole.write(bytes.last(10)) == 10 && whole.flush());
+        QTRY_VERIFY(!m_session->lastLoad().partial.isIncomplete());
+        QVERIFY(m_session->lastLoad().shown() && m_display.uploaded == planes);
+        QCOMPARE(m_session->states().worst(4, 5), FrameState::Whole);
+
+        QVERIFY(whole.seek(bytes.size() - 10) && whole.write("\x55") == 1 && whole.flush());
+        const LoadResult load = comeTo5();
+        QVERIFY(load.shown() && load.partial.damaged == 1 && !load.partial.isInTheMaking());
+        QCOMPARE(m_session->states().worst(4, 5), FrameState::Broken);
+        m_session->setShowIncomplete(false);
+        QCOMPARE(m_session->lastLoad().outcome, LoadOutcome::Corrupted);
+        QVERIFY(!m_display.shown);
+    }
+
     void filesThatOthersWriteAreSeenWithoutAWord()
     {
         // The system tells of nothing behind a link, as of nothing that another machine writes.

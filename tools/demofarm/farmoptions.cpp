@@ -37,8 +37,7 @@ constexpr OptionRow kRows[] = {
     {"frames-in", "folder",
      "Make the folder of the run's frames in this one, in place of the user's temporary folder."},
     {"keep-frames", nullptr, "Leave that folder at the end."},
-    {"half-frames", nullptr,
-     "Let the first frame of a chunk lie there half written while the chunk is at work."},
+    {"half-frames", nullptr, "Write the first frame of a chunk bit by bit while the chunk is at work."},
     {"no-frames", nullptr, "Render nothing; a burst never does."},
     {"once", nullptr, "End when the night is played and the clients have taken everything."},
 };

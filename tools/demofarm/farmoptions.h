@@ -27,7 +27,7 @@ struct FarmOptions {
     bool renders = true; ///< writes the frames of the night
     QString framesIn; ///< where the run's folder of frames is made; empty: the user's temporary folder
     bool keepFrames = false;
-    bool halfFrames = false; ///< the first frame of a chunk at work lies there half written
+    bool halfFrames = false; ///< the first frame of a chunk at work grows bit by bit
 };
 
 /// The options, or without them the text to show and the status to end with.

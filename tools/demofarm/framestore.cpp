@@ -8,9 +8,12 @@
 #include <QtCore/QDir>
 
 #include <algorithm>
+#include <chrono>
 #include <string_view>
 
 namespace {
+
+constexpr std::chrono::milliseconds kGrowthTime(200);
 
 std::string fileOf(const RenderOrder &order, std::int64_t frame)
 {
@@ -37,6 +40,7 @@ FrameStore::FrameStore(const QString &parent, bool keep, bool halfFrames)
     , m_halfFrames(halfFrames)
 {
     m_folder.setAutoRemove(!keep);
+    QObject::connect(&m_growth, &QTimer::timeout, &m_growth, [this] { grow(); });
     if (isUsable())
         farmLog(QStringLiteral("frames in %1").arg(folder()));
     else
@@ -52,17 +56,29 @@ void FrameStore::render(const RenderOrder &order)
         order.frames.start + std::int64_t(order.frames.FrameCount() / 2) * order.frames.step;
     for (std::int64_t frame = order.frames.start; frame <= order.frames.end; frame += order.frames.step) {
         const std::string file = fileOf(order, frame);
+        std::erase_if(m_inTheMaking,
+                      [&file](const auto &making) { return making->path() == nativePath(file); });
         if (order.outcome == Outcome::Errors && frame == middle)
             continue;
-        const std::string bytes = encodeExr(paintFrame(order.jobId, frame));
-        const std::string_view firstHalf = std::string_view(bytes).substr(0, bytes.size() / 2);
         if (!order.outcome) {
-            note(writeInPlace(nativePath(file), firstHalf), file);
+            m_inTheMaking.push_back(
+                std::make_unique<FrameInTheMaking>(nativePath(file), paintFrame(order.jobId, frame)));
+            grow();
+            m_growth.start(kGrowthTime);
             return;
         }
+        const std::string bytes = encodeExr(paintFrame(order.jobId, frame));
+        const std::string_view firstHalf = std::string_view(bytes).substr(0, bytes.size() / 2);
         const bool isDamaged = order.outcome == Outcome::Warnings && frame == middle;
         note(writeWhole(nativePath(file), isDamaged ? firstHalf : bytes), file);
     }
+}
+
+void FrameStore::grow()
+{
+    std::erase_if(m_inTheMaking, [](const auto &making) { return !making->writeMore(); });
+    if (m_inTheMaking.empty())
+        m_growth.stop();
 }
 
 void FrameStore::openFolder(const std::string &folder)

@@ -6,8 +6,11 @@
 #include <ImfOutputFile.h>
 #include <ImfStdIO.h>
 
+#include <algorithm>
+#include <exception>
 #include <fstream>
 #include <system_error>
+#include <utility>
 
 namespace {
 
@@ -44,9 +47,7 @@ private:
     std::size_t m_width;
 };
 
-} // namespace
-
-std::string encodeExr(const RenderedFrame &frame)
+Channels channelsOf(const RenderedFrame &frame)
 {
     Channels channels(frame);
     const RenderedPixel &first = frame.pixels.front();
@@ -57,7 +58,22 @@ std::string encodeExr(const RenderedFrame &frame)
     channels.add("Z", first.depth);
     channels.header.compression() = Imf::ZIP_COMPRESSION;
     channels.header.zipCompressionLevel() = 1; // half the time, a fifth more bytes
+    return channels;
+}
 
+bool writeBytes(const std::filesystem::path &path, std::string_view bytes)
+{
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    file.write(bytes.data(), std::streamsize(bytes.size()));
+    file.close();
+    return bool(file);
+}
+
+} // namespace
+
+std::string encodeExr(const RenderedFrame &frame)
+{
+    const Channels channels = channelsOf(frame);
     Imf::StdOSStream stream;
     {
         Imf::OutputFile file(stream, channels.header);
@@ -72,7 +88,7 @@ bool writeWhole(const std::filesystem::path &path, std::string_view bytes)
     std::filesystem::path unfinished = path;
     unfinished += ".tmp";
     std::error_code error;
-    if (writeInPlace(unfinished, bytes))
+    if (writeBytes(unfinished, bytes))
         std::filesystem::rename(unfinished, path, error);
     else
         error = std::make_error_code(std::errc::io_error);
@@ -83,10 +99,45 @@ bool writeWhole(const std::filesystem::path &path, std::string_view bytes)
     return false;
 }
 
-bool writeInPlace(const std::filesystem::path &path, std::string_view bytes)
+struct FrameInTheMaking::File {
+    File(const std::filesystem::path &path, const RenderedFrame &frame)
+        : stream(path, std::ios::binary | std::ios::trunc)
+        , exrStream(stream, path.c_str())
+        , exr(exrStream, channelsOf(frame).header)
+    {
+        exr.setFrameBuffer(channelsOf(frame).pixels);
+    }
+
+    std::ofstream stream;
+    Imf::StdOFStream exrStream;
+    Imf::OutputFile exr;
+};
+
+FrameInTheMaking::FrameInTheMaking(std::filesystem::path path, RenderedFrame frame)
+    : m_path(std::move(path))
+    , m_frame(std::move(frame))
 {
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file.write(bytes.data(), std::streamsize(bytes.size()));
-    file.close();
-    return bool(file);
+    try {
+        m_file = std::make_unique<File>(m_path, m_frame);
+    } catch (const std::exception &) {
+        m_file.reset();
+    }
+}
+
+FrameInTheMaking::~FrameInTheMaking() = default;
+
+bool FrameInTheMaking::writeMore()
+{
+    constexpr int kLines = 16; // that the compression takes together
+    if (!m_file)
+        return false;
+    try {
+        const int left = m_frame.height - m_file->exr.currentScanLine();
+        m_file->exr.writePixels(std::min(kLines, left));
+        m_file->stream.flush();
+        return left > kLines;
+    } catch (const std::exception &) {
+        m_file.reset();
+        return false;
+    }
 }

@@ -13,6 +13,7 @@
 #include <limits>
 #include <set>
 #include <string>
+#include <utility>
 
 using FarmHelpers::ImagePointer;
 using namespace TImageLibrary;
@@ -95,6 +96,18 @@ bool holdsFloats(const CTImage &image)
     return channel->GetChannelBitDepth() == 4 && channel->GetChannelBitType() == 1;
 }
 
+/// Tells how much there is of a file that does not load as a whole; empty where that is nothing.
+QString chunksOf(const Source &source, const Names &names)
+{
+    FarmHelpers::PartialLoad load;
+    const std::pair<TLoadProgress, void *> progress(nullptr, nullptr);
+    const ImagePointer image(
+        FarmHelpers::loadPartial<IImageCore>(source.path.constData(), source.format, names, progress, load));
+    if (!image || !load.isIncomplete())
+        return {};
+    return QStringLiteral(" (%1 of %2 chunks are sound)").arg(load.sound()).arg(load.chunks);
+}
+
 /// Adds the named layers to the report. Among layers that are loaded together a single float makes floats of the halves:
 /// floats are looked for in ever smaller groups, until each stands alone.
 bool inspectLayers(const Source &source, const Names &names, ImageReport &report)
@@ -134,6 +147,7 @@ std::optional<ImageReport> inspectImage(const QString &path, QString &reason)
     bool loads = source.format && IImageCore::LoadLayers(source.path.constData(), source.format, names);
     ImageReport report;
     report.format = QString::fromUtf8(source.format);
+    const Names all = names;
     while (loads && !names.empty()) {
         const auto end = std::next(names.begin(), std::ptrdiff_t(std::min(kBatch, names.size())));
         loads = inspectLayers(source, Names(names.begin(), end), report);
@@ -144,5 +158,7 @@ std::optional<ImageReport> inspectImage(const QString &path, QString &reason)
     reason = QString::fromStdString(FarmHelpers::lastFailure<IImageCore>().reason);
     if (reason.isEmpty())
         reason = QStringLiteral("damaged, cut short, or no image of a known format");
+    if (!all.empty())
+        reason += chunksOf(source, all);
     return std::nullopt;
 }

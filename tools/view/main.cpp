@@ -112,8 +112,11 @@ int run(const ViewOptions &options)
     CacheTotals totals;
     totals.videoMemoryBudget = settings.imageViewerMaxGPUCache;
     totals.mainMemoryBudget = settings.imageViewerMaxRAMCache;
-    auto *viewer =
-        new ImageViewer(totals, {settings.imageViewerExrImportGamma, settings.imageViewerDefaultImportGamma});
+    // What is grabbed is taken for the picture.
+    const bool showIncomplete =
+        options.grab.isEmpty() ? settings.viewerShowIncompleteFrames : options.incomplete;
+    auto *viewer = new ImageViewer(
+        totals, {settings.imageViewerExrImportGamma, settings.imageViewerDefaultImportGamma, showIncomplete});
     if (options.grab.isEmpty()) {
         viewer->show();
         // A fault shows in the window, which can open something else.
@@ -130,6 +133,8 @@ int run(const ViewOptions &options)
         fail(QStringLiteral("Too large for OpenGL: rendered at 1/%1 of its size")
                  .arg(qulonglong(1) << halvings),
              0);
+    if (const auto &partial = viewer->session().lastLoad().partial; partial.isIncomplete())
+        fail(QStringLiteral("Incomplete: %1 of %2 chunks").arg(partial.sound()).arg(partial.chunks), 0);
     // A single channel is a look at the picture; its alpha would say nothing.
     const bool keepsAlpha = !options.composite && options.channelViewMode == 0;
     const float zoom = options.zoom.value_or(1.0F);

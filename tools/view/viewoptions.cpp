@@ -46,6 +46,9 @@ struct Options {
         QStringLiteral("FACTOR")};
     QCommandLineOption grab{QStringLiteral("grab"), QStringLiteral("Write the picture to FILE.png and end."),
                             QStringLiteral("FILE.png")};
+    QCommandLineOption incomplete{
+        QStringLiteral("incomplete"),
+        QStringLiteral("With --grab, write what there is of a frame that is being written or damaged.")};
 };
 
 void parseFrame(const QString &text, ViewOptions &options)
@@ -123,7 +126,8 @@ ViewOptions ViewOptions::parse(const QStringList &arguments)
     parser.setApplicationDescription(QStringLiteral("Shows rendered frames without a farm."));
     const QCommandLineOption help = parser.addHelpOption();
     parser.addOptions({known.frame, known.layer, known.channel, known.set, known.composite, known.checker,
-                       known.background, known.premultiplied, known.zoom, known.grab, known.gl2});
+                       known.background, known.premultiplied, known.zoom, known.grab, known.incomplete,
+                       known.gl2});
     parser.addPositionalArgument(
         QStringLiteral("PATH"),
         QStringLiteral("A file, a mask, a folder's first sequence, or files of a sequence."),
@@ -138,8 +142,11 @@ ViewOptions ViewOptions::parse(const QStringList &arguments)
     options.layer = parser.value(known.layer);
     options.forceGl2 = parser.isSet(known.gl2);
     options.grab = parser.value(known.grab);
+    options.incomplete = parser.isSet(known.incomplete);
     if (parser.isSet(known.grab) && options.grab.isEmpty())
         options.error = QStringLiteral("Cannot write a picture to a file without a name.");
+    if (options.incomplete && !parser.isSet(known.grab))
+        options.error = QStringLiteral("Give --incomplete together with --grab.");
     if (parser.isSet(known.frame))
         parseFrame(parser.value(known.frame), options);
     if (parser.isSet(known.channel))

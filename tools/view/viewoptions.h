@@ -22,6 +22,7 @@ struct ViewOptions {
     QColor background; ///< invalid where none is asked for
     std::optional<float> zoom;
     QString grab; ///< PNG file to write; empty shows the window
+    bool incomplete = false; ///< grabs what there is of a frame, too
 
     bool help = false;
     QString error; ///< what is wrong with the command line; empty when it can be followed

@@ -10,3 +10,10 @@ FileStamp FileStamp::of(const std::string &path)
         return {};
     return {true, file.size(), file.lastModified().toMSecsSinceEpoch()};
 }
+
+bool FileStamp::isFresh() const
+{
+    constexpr std::int64_t kTick = 100; // milliseconds
+    const std::int64_t age = QDateTime::currentMSecsSinceEpoch() - modified;
+    return exists && age >= 0 && age < kTick;
+}

@@ -6,7 +6,6 @@
 #include "viewerlog.h"
 
 #include <framework/filesystem.h>
-#include <helpers/imagepointer.h>
 
 #include <algorithm>
 #include <memory>
@@ -42,6 +41,34 @@ Image downsampled(Image image, std::int32_t halvings)
     return Image(smaller);
 }
 
+/// Brings boxes of the picture to the size that it is shown in, where they may reach into pixels that they share.
+void scale(FarmHelpers::PartialLoad &partial, const PlaneSize &from, const PlaneSize &to)
+{
+    const auto scaled = [](std::int32_t &first, std::int32_t &length, std::int64_t full, std::int64_t shown) {
+        const std::int64_t end = ((std::int64_t(first) + length) * shown + full - 1) / full;
+        first = std::int32_t(first * shown / full);
+        length = std::int32_t(end - first);
+    };
+    for (FarmHelpers::PartialLoad::Box &box : partial.unread) {
+        scaled(box.x, box.width, from.width, to.width);
+        scaled(box.y, box.height, from.height, to.height);
+    }
+}
+
+LoadOutcome outcomeOf(const FarmHelpers::LoadFailure &failure)
+{
+    using FarmHelpers::LoadFailure;
+    switch (failure.kind) {
+    case LoadFailure::Missing:
+        return LoadOutcome::NotFound;
+    case LoadFailure::None:
+    case LoadFailure::Damaged:
+        return LoadOutcome::Corrupted;
+    default:
+        return LoadOutcome::Unreadable;
+    }
+}
+
 std::unique_ptr<ImageFrame> buildFrame(const CTImage &image, const LayerList &layers,
                                        const std::string &entry)
 {
@@ -61,7 +88,8 @@ LoadResult FrameLoader::load(const LoadRequest &request)
     LoadResult result;
     result.stamp = FileStamp::of(request.path);
     ImageFrame *cached = m_cache.find(request.path);
-    const bool isCurrent = cached && (cached->stamp == result.stamp || !result.stamp.exists);
+    const bool isWanted = cached && (request.showIncomplete || !cached->partial.isIncomplete());
+    const bool isCurrent = isWanted && (cached->stamp == result.stamp || !result.stamp.exists);
     if (isCurrent && showCached(*cached, result))
         return result;
     if (cached && !isCurrent)
@@ -103,21 +131,54 @@ bool FrameLoader::showCached(ImageFrame &frame, LoadResult &result)
     result.layers = frame.layers;
     result.layer = frame.layer;
     result.forcedHalvings = frame.forcedHalvings;
+    result.partial = frame.partial;
     return true;
+}
+
+/// A file that was incomplete the last time is so again, most likely: its parts are asked for first.
+Image FrameLoader::loadImage(const LoadRequest &request, const std::string &format, LoadResult &result)
+{
+    using FarmHelpers::LoadFailure;
+    const char *path = request.path.c_str();
+    const std::set<std::string> names = result.layers->members(result.layer);
+    const auto loadPart = [&] {
+        return Image(FarmHelpers::loadPartial<IImageCore>(
+            path, format.c_str(), names, std::pair(request.progress, request.user), result.partial));
+    };
+    const bool isPartFirst = request.showIncomplete && m_incomplete == request.path;
+    m_incomplete.clear();
+    Image image = isPartFirst ? loadPart() : nullptr;
+    if (!image)
+        image.reset(IImageCore::Load(path, format.c_str(), names, request.progress, request.user));
+    if (!image) {
+        noteFailure(request, result);
+        const bool isDamaged =
+            result.failure.kind == LoadFailure::Damaged || result.failure.kind == LoadFailure::None;
+        if (request.showIncomplete && isDamaged)
+            image = loadPart();
+    }
+    if (result.partial.isIncomplete()) {
+        m_incomplete = request.path;
+        // What was written to just now may be written to again without another time or size.
+        if (result.stamp.isFresh())
+            result.stamp.modified = FileStamp::kUnsettled;
+    }
+    return image;
 }
 
 LoadOutcome FrameLoader::loadLayer(const LoadRequest &request, const std::string &format, LoadResult &result)
 {
-    Image image(IImageCore::Load(request.path.c_str(), format.c_str(), result.layers->members(result.layer),
-                                 request.progress, request.user));
+    Image image = loadImage(request, format, result);
     if (!image)
-        return failure(request, result);
+        return outcomeOf(result.failure);
     const std::int32_t wanted = std::clamp(request.downsampling, 0, LoadRequest::kMaxDownsampling);
     result.forcedHalvings = halvingsToFit(*image, wanted, m_display.longestSide());
+    const PlaneSize full{image->GetWidth(), image->GetHeight()};
     image = downsampled(std::move(image), wanted + result.forcedHalvings);
     auto frame = image ? buildFrame(*image, *result.layers, result.layer) : nullptr;
     if (!frame)
         return LoadOutcome::NothingShown;
+    scale(result.partial, full, frame->planeSizes.front());
 
     frame->layers = result.layers;
     frame->layer = result.layer;
@@ -126,6 +187,7 @@ LoadOutcome FrameLoader::loadLayer(const LoadRequest &request, const std::string
     frame->formatName = format;
     frame->premultiplied = frame->premultiplied && request.premultiplied;
     frame->forcedHalvings = result.forcedHalvings;
+    frame->partial = result.partial;
     frame->display = &m_display;
     m_display.uploadTextures(*frame);
     result.refusal = frame->refusal;
@@ -139,19 +201,15 @@ LoadOutcome FrameLoader::loadLayer(const LoadRequest &request, const std::string
 
 LoadOutcome FrameLoader::failure(const LoadRequest &request, LoadResult &result)
 {
-    using FarmHelpers::LoadFailure;
+    noteFailure(request, result);
+    return outcomeOf(result.failure);
+}
+
+void FrameLoader::noteFailure(const LoadRequest &request, LoadResult &result)
+{
     result.failure = FarmHelpers::lastFailure<IImageCore>();
     const std::string line = request.path + ": " + result.failure.reason;
     // A sequence that is played meets its broken frames again and again.
     if (m_logged.insert(line).second)
         qCWarning(lcViewer, "Cannot load %s", line.c_str());
-    switch (result.failure.kind) {
-    case LoadFailure::Missing:
-        return LoadOutcome::NotFound;
-    case LoadFailure::None:
-    case LoadFailure::Damaged:
-        return LoadOutcome::Corrupted;
-    default:
-        return LoadOutcome::Unreadable;
-    }
 }

@@ -5,6 +5,7 @@
 #include "imageframe.h"
 
 #include <helpers/imageextras.h>
+#include <helpers/imagepointer.h>
 #include <image_library/iimagecore.h>
 
 #include <cstdint>
@@ -23,6 +24,7 @@ struct LoadRequest {
     std::int32_t downsampling = 0; ///< halvings of width and height, at most LoadRequest::kMaxDownsampling
     TImageLibrary::TLoadProgress progress = nullptr;
     void *user = nullptr; ///< handed to `progress`
+    bool showIncomplete = false; ///< what there is of a file that is no whole one
 
     static constexpr std::int32_t kMaxDownsampling = 4;
 };
@@ -46,8 +48,11 @@ struct LoadResult {
     FarmHelpers::LoadFailure failure; ///< why the file does not load, where the image library tells
     Refusal refusal = Refusal::None; ///< why, where the outcome is Refused
     std::int32_t forcedHalvings = 0; ///< as in ImageFrame
+    FarmHelpers::PartialLoad partial; ///< as in ImageFrame
 
     bool shown() const { return outcome == LoadOutcome::Shown; }
+    /// Another look at the file may find more of it.
+    bool isToBeWatched() const { return failed() || partial.isIncomplete(); }
     /// The file is missing or broken, which another look at it may find mended.
     bool failed() const
     {
@@ -68,12 +73,16 @@ public:
 
 private:
     bool showCached(ImageFrame &frame, LoadResult &result);
+    FarmHelpers::ImagePointer loadImage(const LoadRequest &request, const std::string &format,
+                                        LoadResult &result);
     LoadOutcome loadLayer(const LoadRequest &request, const std::string &format, LoadResult &result);
     /// Tells why in the result, and once for each reason in the log.
     LoadOutcome failure(const LoadRequest &request, LoadResult &result);
+    void noteFailure(const LoadRequest &request, LoadResult &result);
 
     FrameCache &m_cache;
     FrameDisplay &m_display;
     std::shared_ptr<const LayerList> m_lastLayers; // most frames of a sequence have the same
     std::set<std::string> m_logged;
+    std::string m_incomplete; // the file that was loaded last, where it was no whole one
 };

@@ -2,6 +2,8 @@
 
 #include "filestamp.h"
 
+#include <helpers/imageextras.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -57,6 +59,7 @@ struct ImageFrame {
     bool isYCbCr = false;
     bool isDeep = false; ///< flattened from any number of samples in each pixel
     std::uint64_t byteSize = 0; ///< of all planes
+    FarmHelpers::PartialLoad partial; ///< what of the file was there, where not all was
     std::int32_t forcedHalvings = 0; ///< of width and height, for a display that takes no larger picture
     bool yFlipped = false;
     bool premultiplied = false;

@@ -19,6 +19,15 @@ std::int64_t seconds()
         .count();
 }
 
+FrameState stateOf(const LoadResult &load)
+{
+    if (load.outcome == LoadOutcome::NotFound)
+        return FrameState::Missing;
+    if (load.partial.isInTheMaking())
+        return FrameState::InTheMaking;
+    return load.failed() || load.partial.isIncomplete() ? FrameState::Broken : FrameState::Whole;
+}
+
 } // namespace
 
 ViewerSession::ViewerSession(CacheTotals &totals, FrameDisplay &display, QObject *parent)
@@ -63,6 +72,7 @@ void ViewerSession::show(OpenedFrames found, bool another)
     m_playback.stop();
     m_watch.stop();
     m_cache.clear();
+    m_states.clear();
     const FrameSequence before = std::exchange(m_sequence, std::move(found.sequence));
     m_frame = found.frame;
     m_range = another ? wholeRange(m_sequence) : keptRange(m_range, before, m_sequence);
@@ -165,6 +175,12 @@ void ViewerSession::setPremultiplied(bool on)
     loadAnew();
 }
 
+void ViewerSession::setShowIncomplete(bool on)
+{
+    if (std::exchange(m_showIncomplete, on) != on)
+        loadAnew();
+}
+
 void ViewerSession::setDownsampling(std::int32_t halvings)
 {
     m_downsampling = halvings;
@@ -192,6 +208,7 @@ void ViewerSession::load(bool fresh)
     request.layer = m_chosenLayer;
     request.premultiplied = m_premultiplied;
     request.downsampling = m_downsampling;
+    request.showIncomplete = m_showIncomplete;
     request.progress = &ViewerSession::progressed;
     request.user = this;
     // Which file a mask's first will be nobody knows: its folder tells of any.
@@ -199,6 +216,7 @@ void ViewerSession::load(bool fresh)
     const QString watched = m_sequence.isAwaited ? QFileInfo(path).absolutePath() : path;
     const FileStamp folder = m_sequence.isAwaited ? FileStamp::of(watched.toStdString()) : FileStamp();
     m_lastLoad = m_loader.load(request);
+    m_states.set(m_frame, stateOf(m_lastLoad));
     const bool shown = m_lastLoad.shown();
     if (shown && m_lastLoad.layers) {
         const bool isFirst = fresh || m_layers->entries.empty();
@@ -209,7 +227,7 @@ void ViewerSession::load(bool fresh)
     }
     if (!shown)
         m_display.showFrame(nullptr);
-    if (m_lastLoad.failed())
+    if (m_lastLoad.isToBeWatched())
         m_watch.watch(watched, m_sequence.isAwaited ? folder : m_lastLoad.stamp);
     else
         m_watch.stop();

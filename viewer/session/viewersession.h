@@ -9,6 +9,7 @@
 #include <viewer/frames/framecache.h>
 #include <viewer/frames/frameloader.h>
 #include <viewer/frames/framesequence.h>
+#include <viewer/frames/framestates.h>
 #include <viewer/frames/loadprogress.h>
 
 #include <QtCore/QObject>
@@ -19,8 +20,8 @@
 #include <vector>
 
 /// What one viewer window shows, without the window: the sequence, the frame of it on show, the range that plays, the layer,
-/// the marks. It loads frames onto a display, from its cache or from their files, and again when one that was missing or
-/// broken may have become whole. Nothing of it fails: what a load came to is in lastLoad().
+/// the marks. It loads frames onto a display, from its cache or from their files, and again when one that was missing,
+/// broken or in the making may have become whole. Nothing of it fails: what a load came to is in lastLoad().
 class ViewerSession final : public QObject {
     Q_OBJECT
 
@@ -47,6 +48,8 @@ public:
     const std::string &chosenLayer() const { return m_chosenLayer; }
     const LoadResult &lastLoad() const { return m_lastLoad; }
     const FrameCache &cache() const { return m_cache; }
+    /// What is known of the frames that were looked at.
+    const FrameStates &states() const { return m_states; }
     const Marking &marking() const { return m_marking; }
     Playback &playback() { return m_playback; }
     /// True where the frame on show can be marked: there is a job.
@@ -69,6 +72,8 @@ public:
     bool setLayer(const std::string &entry);
     /// Off: colours count as straight, whatever the file says.
     void setPremultiplied(bool on);
+    /// Shows what there is of frames that are being written or damaged; else they count as broken.
+    void setShowIncomplete(bool on);
     /// Forgets every frame that was loaded, and loads the one on show.
     void loadAnew();
     /// Halvings of width and height.
@@ -122,6 +127,7 @@ private:
     Marking m_marking;
     JobFrames m_job;
     FrameSequence m_sequence;
+    FrameStates m_states;
     std::vector<std::int32_t> m_played;
     PlaybackRange m_range;
     LoadResult m_lastLoad;
@@ -131,6 +137,7 @@ private:
     std::int32_t m_frame = 1;
     std::int32_t m_downsampling = 0;
     bool m_premultiplied = true;
+    bool m_showIncomplete = true;
     bool m_anyShown = false; // of the sequence
     bool m_held = false;
 };

@@ -58,6 +58,9 @@ std::vector<FrameColumn> FrameScale::columns(int width) const
         const auto end = std::upper_bound(frame, m_frames.end(), column.last);
         column.existing = end - frame;
         column.firstExisting = frame != end ? *frame : 0;
+        column.worst = m_states.worst(column.first, column.last);
+        if (column.hasMissing() && column.worst < FrameState::Missing)
+            column.worst = FrameState::Missing;
         frame = end;
     }
     return columns;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <viewer/frames/framestates.h>
+
 #include <cstdint>
 #include <set>
 #include <vector>
@@ -11,6 +13,8 @@ struct FrameColumn {
     std::int32_t last = 0;
     std::int64_t existing = 0; ///< number of frames that the sequence has of these
     std::int32_t firstExisting = 0; ///< where `existing` is above 0
+
+    FrameState worst = FrameState::Whole; ///< of these, as far as is known
 
     bool hasMissing() const { return existing <= std::int64_t{last} - first; }
 };
@@ -35,6 +39,7 @@ public:
     /// Finds the frame under a pixel; pixels outside the ruler count as its ends.
     std::int32_t frameAt(int x, int width) const;
 
+    void setStates(const FrameStates &states) { m_states = states; }
     /// Leaves out numbers beyond 32 bits.
     void setFrames(const std::set<long> &frames);
     void setRange(std::int64_t start, std::int64_t end);
@@ -43,6 +48,7 @@ private:
     float pixelsPerFrame(int width) const;
 
     std::vector<std::int32_t> m_frames;
+    FrameStates m_states;
     std::int32_t m_start = 1;
     std::int32_t m_end = 1;
 };

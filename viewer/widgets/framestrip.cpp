@@ -1,5 +1,7 @@
 #include "framestrip.h"
 
+#include "framepatterns.h"
+
 #include <QtGui/QPainter>
 
 namespace {
@@ -30,16 +32,21 @@ void FrameStrip::setRange(long startFrame, long endFrame)
     m_scale.setRange(startFrame, endFrame);
 }
 
+void FrameStrip::setStates(const FrameStates &states)
+{
+    m_scale.setStates(states);
+}
+
 void FrameStrip::paintEvent(QPaintEvent * /*event*/)
 {
     const QRect inner = rect().adjusted(1, 1, -1, -1);
     const QSize frame(m_scale.columnWidth(width()), inner.height());
-    const QBrush missing(QColor(100, 100, 100), Qt::Dense3Pattern);
     QPainter painter(this);
     painter.fillRect(inner, Qt::black);
     for (const FrameColumn &column : m_scale.columns(width())) {
         drawColumn(painter, column, frame);
-        if (column.hasMissing())
-            painter.fillRect(column.x, inner.height() - kHatchHeight, frame.width(), kHatchHeight, missing);
+        if (column.worst != FrameState::Whole)
+            painter.fillRect(column.x, inner.height() - kHatchHeight, frame.width(), kHatchHeight,
+                             framePattern(column.worst));
     }
 }

@@ -16,6 +16,8 @@ public:
 
     void setFrames(std::set<long> _frames);
     void setRange(long startFrame, long endFrame);
+    /// What is known of the frames; incomplete and broken ones are hatched too.
+    void setStates(const FrameStates &states);
 
 protected:
     explicit FrameStrip(QWidget *parent);

@@ -1,5 +1,7 @@
 #include "imagetimeline.h"
 
+#include "framepatterns.h"
+
 #include <viewer/frames/chunkmap.h>
 #include <viewer/frames/framesteps.h>
 
@@ -61,6 +63,11 @@ void imageTimeline::setFrames(std::set<long> _frames)
 void imageTimeline::setRange(long startFrame, long endFrame)
 {
     m_scale.setRange(startFrame, endFrame);
+}
+
+void imageTimeline::setStates(const FrameStates &states)
+{
+    m_scale.setStates(states);
 }
 
 bool imageTimeline::setByFrame(long step)
@@ -206,15 +213,14 @@ void imageTimeline::drawTicks(QPainter &painter, const std::vector<FrameColumn> 
 
 void imageTimeline::drawFrames(QPainter &painter, const std::vector<FrameColumn> &columns, int bottom) const
 {
-    const QBrush missing(QColor(100, 100, 100), Qt::Dense3Pattern);
     const int columnWidth = m_scale.columnWidth(width());
     painter.setPen(QPen(QColor(150, 150, 150), 2));
     painter.setFont(QFont(QStringLiteral("Lato"), 7));
     const int spacing = painter.fontMetrics().horizontalAdvance(QStringLiteral("999.99"));
     int last = 0;
     for (const FrameColumn &column : columns) {
-        if (column.hasMissing())
-            painter.fillRect(column.x, 0, columnWidth, bottom, missing);
+        if (column.worst != FrameState::Whole)
+            painter.fillRect(column.x, 0, columnWidth, bottom, framePattern(column.worst));
         if (column.existing == 0 || (column.x != 0 && column.x - last < spacing))
             continue;
         painter.drawLine(column.x, kLineTop, column.x, bottom);

@@ -10,8 +10,8 @@
 
 class QPainter;
 
-/// Rules the frames under the picture: ticks and numbers of the existing ones, the missing ones shaded, the current one
-/// in red. The left button scrubs and picks; Shift, Control and Alt make a pick, of the current frame too, a request to
+/// Rules the frames under the picture: ticks and numbers of the existing ones, the current one in red; the missing, the
+/// incomplete and the broken ones hatched, each in its way. The left button scrubs and picks; Shift, Control and Alt make a pick, of the current frame too, a request to
 /// mark or unmark, which the signals carry. Setters do not repaint.
 class imageTimeline : public QWidget {
     Q_OBJECT
@@ -20,6 +20,8 @@ public:
     explicit imageTimeline(QWidget *parent = nullptr);
 
     QSize sizeHint() const override;
+    /// What is known of the frames.
+    void setStates(const FrameStates &states);
     /// Counts the frames from the first to the last, gaps included; at least 1.
     Q_INVOKABLE size_t getLength() const;
 

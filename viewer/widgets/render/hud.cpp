@@ -1,6 +1,7 @@
 #include "hud.h"
 
 #include <viewer/frames/imageframe.h>
+#include <viewer/frames/incompletetext.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtGui/QFontMetrics>
@@ -17,7 +18,7 @@
 namespace {
 
 constexpr int kFontSize = 15;
-constexpr std::array<int, 7> kBaselines = {25, 47, 70, 92, 115, 137, 160};
+constexpr std::array<int, 8> kBaselines = {25, 47, 70, 92, 115, 137, 160, 182};
 // Longer than any path the system opens; names in files are as long as their writers please.
 constexpr std::size_t kLongestValue = 4096;
 
@@ -130,6 +131,8 @@ QStringList hudLines(const ImageFrame &frame, int width)
                          Hud::tr("Layers: %1").arg(value(frame.channelLayout)),
                          Hud::tr("Samples per channel: %1").arg(frame.storedComponents),
                          bitFormatLine(frame.storedComponents)};
+    if (frame.partial.isIncomplete())
+        lines += incompleteText(frame.partial);
     const QFontMetrics metrics(hudFont());
     for (QString &line : lines)
         line = metrics.elidedText(line, Qt::ElideMiddle, width);

@@ -49,14 +49,31 @@ void PictureRenderer::drawPicture(const Scene &scene)
     m_gl.glDisable(GL_BLEND);
     m_gl.glClearColor(scene.look.background.redF(), scene.look.background.greenF(),
                       scene.look.background.blueF(), scene.look.background.alphaF());
-    m_gl.glClear(GL_COLOR_BUFFER_BIT);
 
     const QMatrix4x4 matrix = geometry.projection();
     const QuadVertices quad = quadVertices(geometry.quad());
+    drawBackground(scene, matrix, quad);
+    if (!frame)
+        return;
+    drawFrame({frame, geometry, scene.look}, matrix, quad);
+    // A picture without alpha has no other way to show that nothing is there.
+    const QRect view({0, 0}, geometry.view);
+    m_gl.glEnable(GL_SCISSOR_TEST);
+    for (const FarmHelpers::PartialLoad::Box &box : scene.frame->partial.unread) {
+        const QRect clear = geometry.placeOf({box.x, box.y, box.width, box.height}) & view;
+        if (clear.isEmpty())
+            continue;
+        m_gl.glScissor(clear.x(), view.height() - clear.y() - clear.height(), clear.width(), clear.height());
+        drawBackground(scene, matrix, quad);
+    }
+    m_gl.glDisable(GL_SCISSOR_TEST);
+}
+
+void PictureRenderer::drawBackground(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad)
+{
+    m_gl.glClear(GL_COLOR_BUFFER_BIT);
     if (scene.look.checkerOn)
         drawChecker(scene, matrix, quad);
-    if (frame)
-        drawFrame({frame, geometry, scene.look}, matrix, quad);
 }
 
 void PictureRenderer::drawBorder(const Scene &scene)

@@ -34,7 +34,7 @@ public:
     bool usable() const { return m_usable; }
     Textures &textures() { return m_textures; }
 
-    /// Draws background, checker and frame.
+    /// Draws background, checker and what there is of the frame.
     void drawPicture(const Scene &scene);
     /// True when the last picture was drawn in haste and would look better drawn again.
     bool isHasty() const { return m_hasty; }
@@ -46,6 +46,8 @@ private:
     PictureProgram &programFor(const Scene &scene);
     /// Gives a smaller frame to draw in place of the scene's, or that one.
     const ImageFrame &reduced(const Scene &scene);
+    /// Within the scissor's box, where that is on.
+    void drawBackground(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad);
     void drawChecker(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad);
     void drawFrame(const Scene &scene, const QMatrix4x4 &matrix, const QuadVertices &quad);
     void enableBlending();

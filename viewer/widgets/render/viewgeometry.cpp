@@ -44,6 +44,18 @@ QRect ViewGeometry::quad() const
             displayed};
 }
 
+QRect ViewGeometry::placeOf(const QRect &pixels) const
+{
+    const QRect shown = quad();
+    const auto scaledX = [&](int x) { return int(std::llround(double(x) * shown.width() / frame.width())); };
+    const auto scaledY = [&](int y) {
+        return int(std::llround(double(y) * shown.height() / frame.height()));
+    };
+    const QPoint first(scaledX(pixels.x()), scaledY(pixels.y()));
+    const QPoint end(scaledX(pixels.x() + pixels.width()), scaledY(pixels.y() + pixels.height()));
+    return QRect(first, end - QPoint(1, 1)).translated(shown.topLeft() - pan);
+}
+
 QPoint ViewGeometry::checkerOffset() const
 {
     const QPoint origin = quad().topLeft() - pan;

@@ -22,6 +22,8 @@ struct ViewGeometry {
     QPoint clampedPan(QPoint wanted) const;
     /// Centres a picture smaller than the view, on whole pixels; starts a larger one at 0.
     QRect quad() const;
+    /// Gives where in the view pixels of the frame are shown.
+    QRect placeOf(const QRect &pixels) const;
     /// Gives the quad's top left corner in window coordinates, which count from the bottom.
     QPoint checkerOffset() const;
     QMatrix4x4 projection() const;
