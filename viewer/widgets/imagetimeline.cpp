@@ -16,6 +16,10 @@ constexpr int kTickSpacing = 4;
 constexpr int kTickLength = 10;
 constexpr int kLineTop = 15;
 constexpr int kBaseline = 10;
+constexpr int kFlagPadding = 3;
+// Darker than the line: the white number is to be read.
+constexpr QColor kFlag(208, 0, 0);
+constexpr QColor kCurrentShade(255, 10, 10, 46);
 
 /// What the modifier keys that are down make of a pick.
 MarkRequest currentRequest()
@@ -185,11 +189,28 @@ void imageTimeline::paintEvent(QPaintEvent * /*event*/)
     painter.fillRect(inner, Qt::black);
     drawTicks(painter, columns, inner.bottom());
     drawFrames(painter, columns, inner.bottom());
-    if (m_scale.inRange(m_scrubFrame)) {
-        const int x = m_scale.position(m_scrubFrame, width());
-        painter.setPen(QPen(QColor(255, 10, 10), 2));
-        painter.drawLine(x, kLineTop, x, inner.bottom());
-    }
+    if (m_scale.inRange(m_scrubFrame))
+        drawCurrent(painter, inner.bottom());
+}
+
+void imageTimeline::drawCurrent(QPainter &painter, int bottom) const
+{
+    const QColor red(255, 10, 10);
+    const int x = m_scale.position(m_scrubFrame, width());
+    if (m_scale.columnWidth(width()) >= kTickSpacing)
+        painter.fillRect(x, kLineTop, m_scale.columnWidth(width()), bottom - kLineTop + 1, kCurrentShade);
+    painter.setPen(QPen(red, 2));
+    painter.drawLine(x, kLineTop, x, bottom);
+    // Its number, on a flag that stays within the ruler.
+    QFont font(QStringLiteral("Lato"), 7);
+    font.setBold(true);
+    painter.setFont(font);
+    const QString number = QString::number(m_scrubFrame);
+    const int length = painter.fontMetrics().horizontalAdvance(number) + 2 * kFlagPadding;
+    const QRect flag(std::max(std::min(x - 1, width() - 1 - length), 1), 1, length, kLineTop);
+    painter.fillRect(flag, kFlag);
+    painter.setPen(Qt::white);
+    painter.drawText(flag, Qt::AlignCenter, number);
 }
 
 void imageTimeline::drawTicks(QPainter &painter, const std::vector<FrameColumn> &columns, int bottom) const

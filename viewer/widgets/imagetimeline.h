@@ -11,7 +11,7 @@
 class QPainter;
 
 /// Rules the frames under the picture: ticks and numbers of the existing ones, the missing ones shaded, the current one
-/// in red. The left button scrubs and picks; Shift, Control and Alt make a pick, of the current frame too, a request to
+/// in red, with its number on a flag. The left button scrubs and picks; Shift, Control and Alt make a pick, of the current frame too, a request to
 /// mark or unmark, which the signals carry. Setters do not repaint.
 class imageTimeline : public QWidget {
     Q_OBJECT
@@ -57,6 +57,7 @@ private:
     void dragTo(std::int32_t frame, bool begins);
     void show(std::int32_t frame);
     void drawTicks(QPainter &painter, const std::vector<FrameColumn> &columns, int bottom) const;
+    void drawCurrent(QPainter &painter, int bottom) const;
     void drawFrames(QPainter &painter, const std::vector<FrameColumn> &columns, int bottom) const;
 
     FrameScale m_scale;
