@@ -42,8 +42,8 @@ void Look::installPalette()
 void Look::installStyle(QApplication &application)
 {
     QApplication::setStyle(new QTarrowStyle);
-    const QString sheet =
-        textOf(QStringLiteral(":/Styles/tarrow.qss")) + textOf(QStringLiteral(":/Styles/shared.qss"));
+    const QString sheet = textOf(QStringLiteral(":/Styles/tarrow.qss"))
+        + textOf(QStringLiteral(":/Styles/viewer.qss")) + textOf(QStringLiteral(":/Styles/shared.qss"));
     if (!sheet.isEmpty())
         application.setStyleSheet(sheet);
 }

@@ -27,7 +27,9 @@ private:
     void showSequence();
     void showRange();
     void showFrame(int frame);
-    void showPlaying(bool playing);
+    void showPlaying();
+    void showPlayButton();
+    void fixPlaces();
     void editRange();
     void editFrame();
     void editFramesPerSecond();

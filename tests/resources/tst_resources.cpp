@@ -7,6 +7,9 @@
 
 namespace {
 
+// As they are read.
+constexpr const char *kSheets[] = {":/Styles/tarrow.qss", ":/Styles/viewer.qss", ":/Styles/shared.qss"};
+
 QString text(const QString &resource)
 {
     QFile file(resource);
@@ -23,8 +26,10 @@ private Q_SLOTS:
     void styleSheetsAreRead()
     {
         QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
-        qApp->setStyleSheet(text(QStringLiteral(":/Styles/tarrow.qss"))
-                            + text(QStringLiteral(":/Styles/shared.qss")));
+        QString sheet;
+        for (const char *name : kSheets)
+            sheet += text(QLatin1String(name));
+        qApp->setStyleSheet(sheet);
         QDialog dialog;
         QWidget header(&dialog);
         header.setObjectName(QStringLiteral("skinnedDialogHeaderLabel"));
@@ -39,7 +44,7 @@ private Q_SLOTS:
     {
         const QRegularExpression url(QStringLiteral("url\\(([^)]*)\\)"));
         int count = 0;
-        for (const char *name : {":/Styles/tarrow.qss", ":/Styles/shared.qss"}) {
+        for (const char *name : kSheets) {
             auto matches = url.globalMatch(text(QLatin1String(name)));
             for (; matches.hasNext(); ++count) {
                 const QString path = matches.next().captured(1);
