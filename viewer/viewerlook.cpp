@@ -71,6 +71,8 @@ void giveIcons(const Ui::ImageViewerClass &form)
 void sizeIcons(const QWidget &around)
 {
     const int side = std::max(kSmallestIcon, around.fontMetrics().ascent());
-    for (QAbstractButton *button : around.findChildren<QAbstractButton *>())
+    for (QToolButton *button : around.findChildren<QToolButton *>()) {
         button->setIconSize({side, side});
+        button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred); // as high as its neighbours
+    }
 }
