@@ -19,20 +19,12 @@
         <translation>Ereignisse</translation>
     </message>
     <message>
-        <source>Opens the menu of the tray icon: this desktop has no system tray</source>
-        <translation>Öffnet das Menü des Symbols: Dieser Desktop hat keinen Infobereich</translation>
-    </message>
-    <message>
         <source>&amp;Menu</source>
         <translation>&amp;Menü</translation>
     </message>
     <message>
-        <source>Shows the version, and where the log is</source>
-        <translation>Zeigt die Version und wo das Protokoll liegt</translation>
-    </message>
-    <message>
-        <source>A&amp;bout</source>
-        <translation>Übe&amp;r</translation>
+        <source>Opens the menu of the tray icon and of this window (F10)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -125,6 +117,25 @@ Was die Renderfarm von Ihren Jobs meldet, erscheint hier.</translation>
     </message>
 </context>
 <context>
+    <name>EventColumns</name>
+    <message>
+        <source>Co&amp;lumns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order of arrival</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>EventKind</name>
     <message>
         <source>Success</source>
@@ -192,6 +203,10 @@ Was die Renderfarm von Ihren Jobs meldet, erscheint hier.</translation>
     <message>
         <source>Pending</source>
         <translation>Ausstehend</translation>
+    </message>
+    <message>
+        <source>Acknowledged just now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -664,17 +679,6 @@ Was die Renderfarm von Ihren Jobs meldet, erscheint hier.</translation>
     </message>
 </context>
 <context>
-    <name>LinkStatus</name>
-    <message>
-        <source>Connect &amp;now</source>
-        <translation>Jetzt &amp;verbinden</translation>
-    </message>
-    <message>
-        <source>Tries to connect to the Dispatcher at once</source>
-        <translation>Versucht sofort, sich mit dem Dispatcher zu verbinden</translation>
-    </message>
-</context>
-<context>
     <name>LinkWords</name>
     <message>
         <source>Not a Dispatcher: it sent %1</source>
@@ -879,6 +883,29 @@ Protokoll: %3</translation>
     </message>
 </context>
 <context>
+    <name>PendingCounts</name>
+    <message>
+        <source>%1. Click to see these alone, again to see all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending errors: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending warnings: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending successes: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending service events: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
@@ -994,6 +1021,17 @@ Protokoll: %3</translation>
     </message>
 </context>
 <context>
+    <name>StatusLine</name>
+    <message>
+        <source>Connect &amp;now</source>
+        <translation type="unfinished">Jetzt &amp;verbinden</translation>
+    </message>
+    <message>
+        <source>Tries to connect to the Dispatcher at once</source>
+        <translation type="unfinished">Versucht sofort, sich mit dem Dispatcher zu verbinden</translation>
+    </message>
+</context>
+<context>
     <name>Templates</name>
     <message>
         <source>Loading template %1...</source>
@@ -1080,6 +1118,17 @@ Ein Rechtsklick auf dieses Symbol öffnet das Kontextmenü, ein Doppelklick holt
     <message>
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
         <translation>Ihre Grafikkarte unterstützt OpenGL nicht! Der Bildbetrachter kann nicht verwendet werden!</translation>
+    </message>
+</context>
+<context>
+    <name>WindowMenu</name>
+    <message>
+        <source>A&amp;bout</source>
+        <translation type="unfinished">Übe&amp;r</translation>
+    </message>
+    <message>
+        <source>Shows the version, and where the log is</source>
+        <translation type="unfinished">Zeigt die Version und wo das Protokoll liegt</translation>
     </message>
 </context>
 <context>
@@ -1333,6 +1382,10 @@ Ein Rechtsklick auf dieses Symbol öffnet das Kontextmenü, ein Doppelklick holt
     <message>
         <source>Automatic aknowledge notifications when raising the application</source>
         <translation>Ereignisse beim Öffnen des Fensters automatisch bestätigen</translation>
+    </message>
+    <message>
+        <source>Keep the list above other windows</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -19,20 +19,12 @@
         <translation>Eventos</translation>
     </message>
     <message>
-        <source>Opens the menu of the tray icon: this desktop has no system tray</source>
-        <translation>Abre el menú del icono: este escritorio no tiene bandeja del sistema</translation>
-    </message>
-    <message>
         <source>&amp;Menu</source>
         <translation>&amp;Menú</translation>
     </message>
     <message>
-        <source>Shows the version, and where the log is</source>
-        <translation>Muestra la versión y dónde está el registro</translation>
-    </message>
-    <message>
-        <source>A&amp;bout</source>
-        <translation>&amp;Acerca de</translation>
+        <source>Opens the menu of the tray icon and of this window (F10)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -125,6 +117,25 @@ Lo que la granja de render comunique sobre sus trabajos aparecerá aquí.</trans
     </message>
 </context>
 <context>
+    <name>EventColumns</name>
+    <message>
+        <source>Co&amp;lumns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order of arrival</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>EventKind</name>
     <message>
         <source>Success</source>
@@ -192,6 +203,10 @@ Lo que la granja de render comunique sobre sus trabajos aparecerá aquí.</trans
     <message>
         <source>Pending</source>
         <translation>Pendiente</translation>
+    </message>
+    <message>
+        <source>Acknowledged just now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -664,17 +679,6 @@ Lo que la granja de render comunique sobre sus trabajos aparecerá aquí.</trans
     </message>
 </context>
 <context>
-    <name>LinkStatus</name>
-    <message>
-        <source>Connect &amp;now</source>
-        <translation>Conectar a&amp;hora</translation>
-    </message>
-    <message>
-        <source>Tries to connect to the Dispatcher at once</source>
-        <translation>Intenta conectarse al Dispatcher de inmediato</translation>
-    </message>
-</context>
-<context>
     <name>LinkWords</name>
     <message>
         <source>Not a Dispatcher: it sent %1</source>
@@ -879,6 +883,29 @@ Registro: %3</translation>
     </message>
 </context>
 <context>
+    <name>PendingCounts</name>
+    <message>
+        <source>%1. Click to see these alone, again to see all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending errors: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending warnings: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending successes: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending service events: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
@@ -994,6 +1021,17 @@ Registro: %3</translation>
     </message>
 </context>
 <context>
+    <name>StatusLine</name>
+    <message>
+        <source>Connect &amp;now</source>
+        <translation type="unfinished">Conectar a&amp;hora</translation>
+    </message>
+    <message>
+        <source>Tries to connect to the Dispatcher at once</source>
+        <translation type="unfinished">Intenta conectarse al Dispatcher de inmediato</translation>
+    </message>
+</context>
+<context>
     <name>Templates</name>
     <message>
         <source>Loading template %1...</source>
@@ -1080,6 +1118,17 @@ Haga clic derecho en este icono para abrir el menú o doble clic para mostrar la
     <message>
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
         <translation>¡Su GPU no admite OpenGL! El visor de imágenes no se puede usar.</translation>
+    </message>
+</context>
+<context>
+    <name>WindowMenu</name>
+    <message>
+        <source>A&amp;bout</source>
+        <translation type="unfinished">&amp;Acerca de</translation>
+    </message>
+    <message>
+        <source>Shows the version, and where the log is</source>
+        <translation type="unfinished">Muestra la versión y dónde está el registro</translation>
     </message>
 </context>
 <context>
@@ -1333,6 +1382,10 @@ Haga clic derecho en este icono para abrir el menú o doble clic para mostrar la
     <message>
         <source>Automatic aknowledge notifications when raising the application</source>
         <translation>Confirmar las notificaciones al mostrar la aplicación</translation>
+    </message>
+    <message>
+        <source>Keep the list above other windows</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -19,20 +19,12 @@
         <translation>Événements</translation>
     </message>
     <message>
-        <source>Opens the menu of the tray icon: this desktop has no system tray</source>
-        <translation>Ouvre le menu de l&apos;icône&#xa0;: ce bureau n&apos;a pas de zone de notification</translation>
-    </message>
-    <message>
         <source>&amp;Menu</source>
         <translation>&amp;Menu</translation>
     </message>
     <message>
-        <source>Shows the version, and where the log is</source>
-        <translation>Affiche la version et l&apos;emplacement du journal</translation>
-    </message>
-    <message>
-        <source>A&amp;bout</source>
-        <translation>À &amp;propos</translation>
+        <source>Opens the menu of the tray icon and of this window (F10)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -125,6 +117,25 @@ Ce que la ferme de rendu signale au sujet de vos jobs apparaît ici.</translatio
     </message>
 </context>
 <context>
+    <name>EventColumns</name>
+    <message>
+        <source>Co&amp;lumns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order of arrival</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>EventKind</name>
     <message>
         <source>Success</source>
@@ -192,6 +203,10 @@ Ce que la ferme de rendu signale au sujet de vos jobs apparaît ici.</translatio
     <message>
         <source>Pending</source>
         <translation>En attente</translation>
+    </message>
+    <message>
+        <source>Acknowledged just now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -664,17 +679,6 @@ Ce que la ferme de rendu signale au sujet de vos jobs apparaît ici.</translatio
     </message>
 </context>
 <context>
-    <name>LinkStatus</name>
-    <message>
-        <source>Connect &amp;now</source>
-        <translation>Se co&amp;nnecter maintenant</translation>
-    </message>
-    <message>
-        <source>Tries to connect to the Dispatcher at once</source>
-        <translation>Essaie de se connecter immédiatement au Dispatcher</translation>
-    </message>
-</context>
-<context>
     <name>LinkWords</name>
     <message>
         <source>Not a Dispatcher: it sent %1</source>
@@ -879,6 +883,29 @@ Journal&#xa0;: %3</translation>
     </message>
 </context>
 <context>
+    <name>PendingCounts</name>
+    <message>
+        <source>%1. Click to see these alone, again to see all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending errors: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending warnings: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending successes: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending service events: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
@@ -994,6 +1021,17 @@ Journal&#xa0;: %3</translation>
     </message>
 </context>
 <context>
+    <name>StatusLine</name>
+    <message>
+        <source>Connect &amp;now</source>
+        <translation type="unfinished">Se co&amp;nnecter maintenant</translation>
+    </message>
+    <message>
+        <source>Tries to connect to the Dispatcher at once</source>
+        <translation type="unfinished">Essaie de se connecter immédiatement au Dispatcher</translation>
+    </message>
+</context>
+<context>
     <name>Templates</name>
     <message>
         <source>Loading template %1...</source>
@@ -1080,6 +1118,17 @@ Cliquez avec le bouton droit sur cette icône pour le menu contextuel ou double-
     <message>
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
         <translation>Votre carte graphique ne prend pas en charge OpenGL&#xa0;! La visionneuse d&apos;images ne peut pas être utilisée&#xa0;!</translation>
+    </message>
+</context>
+<context>
+    <name>WindowMenu</name>
+    <message>
+        <source>A&amp;bout</source>
+        <translation type="unfinished">À &amp;propos</translation>
+    </message>
+    <message>
+        <source>Shows the version, and where the log is</source>
+        <translation type="unfinished">Affiche la version et l&apos;emplacement du journal</translation>
     </message>
 </context>
 <context>
@@ -1333,6 +1382,10 @@ Cliquez avec le bouton droit sur cette icône pour le menu contextuel ou double-
     <message>
         <source>Automatic aknowledge notifications when raising the application</source>
         <translation>Acquitter les notifications à l&apos;affichage de l&apos;application</translation>
+    </message>
+    <message>
+        <source>Keep the list above other windows</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -19,20 +19,12 @@
         <translation>Eventi</translation>
     </message>
     <message>
-        <source>Opens the menu of the tray icon: this desktop has no system tray</source>
-        <translation>Apre il menu dell&apos;icona: questo desktop non ha un&apos;area di notifica</translation>
-    </message>
-    <message>
         <source>&amp;Menu</source>
         <translation>&amp;Menu</translation>
     </message>
     <message>
-        <source>Shows the version, and where the log is</source>
-        <translation>Mostra la versione e dove si trova il registro</translation>
-    </message>
-    <message>
-        <source>A&amp;bout</source>
-        <translation>&amp;Informazioni</translation>
+        <source>Opens the menu of the tray icon and of this window (F10)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -125,6 +117,25 @@ Ciò che la render farm comunica sui propri job appare qui.</translation>
     </message>
 </context>
 <context>
+    <name>EventColumns</name>
+    <message>
+        <source>Co&amp;lumns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order of arrival</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>EventKind</name>
     <message>
         <source>Success</source>
@@ -192,6 +203,10 @@ Ciò che la render farm comunica sui propri job appare qui.</translation>
     <message>
         <source>Pending</source>
         <translation>In sospeso</translation>
+    </message>
+    <message>
+        <source>Acknowledged just now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -664,17 +679,6 @@ Ciò che la render farm comunica sui propri job appare qui.</translation>
     </message>
 </context>
 <context>
-    <name>LinkStatus</name>
-    <message>
-        <source>Connect &amp;now</source>
-        <translation>Connetti &amp;ora</translation>
-    </message>
-    <message>
-        <source>Tries to connect to the Dispatcher at once</source>
-        <translation>Prova subito a connettersi al Dispatcher</translation>
-    </message>
-</context>
-<context>
     <name>LinkWords</name>
     <message>
         <source>Not a Dispatcher: it sent %1</source>
@@ -879,6 +883,29 @@ Registro: %3</translation>
     </message>
 </context>
 <context>
+    <name>PendingCounts</name>
+    <message>
+        <source>%1. Click to see these alone, again to see all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending errors: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending warnings: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending successes: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending service events: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
@@ -994,6 +1021,17 @@ Registro: %3</translation>
     </message>
 </context>
 <context>
+    <name>StatusLine</name>
+    <message>
+        <source>Connect &amp;now</source>
+        <translation type="unfinished">Connetti &amp;ora</translation>
+    </message>
+    <message>
+        <source>Tries to connect to the Dispatcher at once</source>
+        <translation type="unfinished">Prova subito a connettersi al Dispatcher</translation>
+    </message>
+</context>
+<context>
     <name>Templates</name>
     <message>
         <source>Loading template %1...</source>
@@ -1080,6 +1118,17 @@ Fare clic destro su questa icona per il menu contestuale o doppio clic per mostr
     <message>
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
         <translation>La GPU non supporta OpenGL! Il visualizzatore immagini non può essere usato!</translation>
+    </message>
+</context>
+<context>
+    <name>WindowMenu</name>
+    <message>
+        <source>A&amp;bout</source>
+        <translation type="unfinished">&amp;Informazioni</translation>
+    </message>
+    <message>
+        <source>Shows the version, and where the log is</source>
+        <translation type="unfinished">Mostra la versione e dove si trova il registro</translation>
     </message>
 </context>
 <context>
@@ -1333,6 +1382,10 @@ Fare clic destro su questa icona per il menu contestuale o doppio clic per mostr
     <message>
         <source>Automatic aknowledge notifications when raising the application</source>
         <translation>Conferma le notifiche quando si mostra l&apos;applicazione</translation>
+    </message>
+    <message>
+        <source>Keep the list above other windows</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

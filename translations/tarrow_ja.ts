@@ -19,20 +19,12 @@
         <translation>イベント</translation>
     </message>
     <message>
-        <source>Opens the menu of the tray icon: this desktop has no system tray</source>
-        <translation>アイコンのメニューを開きます。このデスクトップにはシステムトレイがありません</translation>
-    </message>
-    <message>
         <source>&amp;Menu</source>
         <translation>メニュー(&amp;M)</translation>
     </message>
     <message>
-        <source>Shows the version, and where the log is</source>
-        <translation>バージョンとログの場所を表示します</translation>
-    </message>
-    <message>
-        <source>A&amp;bout</source>
-        <translation>このプログラムについて(&amp;B)</translation>
+        <source>Opens the menu of the tray icon and of this window (F10)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -125,6 +117,25 @@ What the farm tells of your jobs appears here.</source>
     </message>
 </context>
 <context>
+    <name>EventColumns</name>
+    <message>
+        <source>Co&amp;lumns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order of arrival</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>EventKind</name>
     <message>
         <source>Success</source>
@@ -192,6 +203,10 @@ What the farm tells of your jobs appears here.</source>
     <message>
         <source>Pending</source>
         <translation>未確認</translation>
+    </message>
+    <message>
+        <source>Acknowledged just now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -664,17 +679,6 @@ What the farm tells of your jobs appears here.</source>
     </message>
 </context>
 <context>
-    <name>LinkStatus</name>
-    <message>
-        <source>Connect &amp;now</source>
-        <translation>今すぐ接続(&amp;N)</translation>
-    </message>
-    <message>
-        <source>Tries to connect to the Dispatcher at once</source>
-        <translation>すぐに Dispatcher への接続を試みます</translation>
-    </message>
-</context>
-<context>
     <name>LinkWords</name>
     <message>
         <source>Not a Dispatcher: it sent %1</source>
@@ -879,6 +883,29 @@ Log: %3</source>
     </message>
 </context>
 <context>
+    <name>PendingCounts</name>
+    <message>
+        <source>%1. Click to see these alone, again to see all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending errors: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending warnings: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending successes: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending service events: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
@@ -994,6 +1021,17 @@ Log: %3</source>
     </message>
 </context>
 <context>
+    <name>StatusLine</name>
+    <message>
+        <source>Connect &amp;now</source>
+        <translation type="unfinished">今すぐ接続(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Tries to connect to the Dispatcher at once</source>
+        <translation type="unfinished">すぐに Dispatcher への接続を試みます</translation>
+    </message>
+</context>
+<context>
     <name>Templates</name>
     <message>
         <source>Loading template %1...</source>
@@ -1080,6 +1118,17 @@ Right-click on this icon to access the context menu or double click to raise the
     <message>
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
         <translation>お使いの GPU は OpenGL に対応していません。イメージビューアは使用できません。</translation>
+    </message>
+</context>
+<context>
+    <name>WindowMenu</name>
+    <message>
+        <source>A&amp;bout</source>
+        <translation type="unfinished">このプログラムについて(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Shows the version, and where the log is</source>
+        <translation type="unfinished">バージョンとログの場所を表示します</translation>
     </message>
 </context>
 <context>
@@ -1333,6 +1382,10 @@ Right-click on this icon to access the context menu or double click to raise the
     <message>
         <source>Automatic aknowledge notifications when raising the application</source>
         <translation>アプリケーションを前面に出すときに通知を自動で確認済みにする</translation>
+    </message>
+    <message>
+        <source>Keep the list above other windows</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

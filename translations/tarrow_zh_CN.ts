@@ -19,20 +19,12 @@
         <translation>事件</translation>
     </message>
     <message>
-        <source>Shows the version, and where the log is</source>
-        <translation>显示版本以及日志所在位置</translation>
-    </message>
-    <message>
-        <source>A&amp;bout</source>
-        <translation>关于(&amp;B)</translation>
-    </message>
-    <message>
-        <source>Opens the menu of the tray icon: this desktop has no system tray</source>
-        <translation>打开托盘图标的菜单：此桌面没有系统托盘</translation>
-    </message>
-    <message>
         <source>&amp;Menu</source>
         <translation>菜单(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Opens the menu of the tray icon and of this window (F10)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -125,6 +117,25 @@ What the farm tells of your jobs appears here.</source>
     </message>
 </context>
 <context>
+    <name>EventColumns</name>
+    <message>
+        <source>Co&amp;lumns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sort by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order of arrival</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>EventKind</name>
     <message>
         <source>Success</source>
@@ -192,6 +203,10 @@ What the farm tells of your jobs appears here.</source>
     <message>
         <source>Pending</source>
         <translation>待确认</translation>
+    </message>
+    <message>
+        <source>Acknowledged just now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -664,17 +679,6 @@ What the farm tells of your jobs appears here.</source>
     </message>
 </context>
 <context>
-    <name>LinkStatus</name>
-    <message>
-        <source>Connect &amp;now</source>
-        <translation>立即连接(&amp;N)</translation>
-    </message>
-    <message>
-        <source>Tries to connect to the Dispatcher at once</source>
-        <translation>立即尝试连接到 Dispatcher</translation>
-    </message>
-</context>
-<context>
     <name>LinkWords</name>
     <message>
         <source>Not a Dispatcher: it sent %1</source>
@@ -879,6 +883,29 @@ Log: %3</source>
     </message>
 </context>
 <context>
+    <name>PendingCounts</name>
+    <message>
+        <source>%1. Click to see these alone, again to see all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending errors: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending warnings: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending successes: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending service events: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
@@ -994,6 +1021,17 @@ Log: %3</source>
     </message>
 </context>
 <context>
+    <name>StatusLine</name>
+    <message>
+        <source>Connect &amp;now</source>
+        <translation type="unfinished">立即连接(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Tries to connect to the Dispatcher at once</source>
+        <translation type="unfinished">立即尝试连接到 Dispatcher</translation>
+    </message>
+</context>
+<context>
     <name>Templates</name>
     <message>
         <source>Loading template %1...</source>
@@ -1080,6 +1118,17 @@ Right-click on this icon to access the context menu or double click to raise the
     <message>
         <source>OpenGL not supported by your GPU! Image viewer cannot be used!</source>
         <translation>您的 GPU 不支持 OpenGL！无法使用图像查看器！</translation>
+    </message>
+</context>
+<context>
+    <name>WindowMenu</name>
+    <message>
+        <source>A&amp;bout</source>
+        <translation type="unfinished">关于(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Shows the version, and where the log is</source>
+        <translation type="unfinished">显示版本以及日志所在位置</translation>
     </message>
 </context>
 <context>
@@ -1333,6 +1382,10 @@ Right-click on this icon to access the context menu or double click to raise the
     <message>
         <source>Automatic aknowledge notifications when raising the application</source>
         <translation>显示程序窗口时自动确认通知</translation>
+    </message>
+    <message>
+        <source>Keep the list above other windows</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -43,7 +43,7 @@ QSkinnedDialogBorder::QSkinnedDialogBorder(Position position, QSkinnedDialog *di
     , m_dialog(dialog)
 {
     setObjectName(QLatin1String(roleOf(position).objectName));
-    setCursor(roleOf(position).cursor);
+    showCursor();
 }
 
 void QSkinnedDialogBorder::setThickness(int width)
@@ -57,6 +57,21 @@ void QSkinnedDialogBorder::setThickness(int width)
         setFixedWidth(width);
     setSizePolicy(horizontal ? QSizePolicy::Fixed : QSizePolicy::Expanding,
                   vertical ? QSizePolicy::Fixed : QSizePolicy::Expanding);
+}
+
+// A dialog of a fixed size, or a maximised one, has no edge to take hold of.
+void QSkinnedDialogBorder::showCursor()
+{
+    if (m_dialog->isResizable() && !m_dialog->isMaximized())
+        setCursor(roleOf(m_position).cursor);
+    else
+        unsetCursor();
+}
+
+void QSkinnedDialogBorder::enterEvent(QEnterEvent *event)
+{
+    showCursor(); // it may be maximised by now
+    QWidget::enterEvent(event);
 }
 
 void QSkinnedDialogBorder::mousePressEvent(QMouseEvent *event)

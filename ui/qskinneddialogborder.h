@@ -21,12 +21,14 @@ public:
     void setThickness(int width);
 
 protected:
+    void enterEvent(QEnterEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void showCursor();
     void dragTo(QPoint globalPosition, QPoint inside);
 
     const Position m_position;

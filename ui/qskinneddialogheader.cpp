@@ -5,6 +5,7 @@
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWindow>
+#include <QtWidgets/QToolTip>
 
 namespace {
 
@@ -52,6 +53,18 @@ void QSkinnedDialogHeader::mouseReleaseEvent(QMouseEvent *event)
         m_dragging = false;
     else
         event->ignore();
+}
+
+bool QSkinnedDialogHeader::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip && m_dialog->isResizable()) {
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
+                           m_dialog->isMaximized() ? tr("Double click: restore the window")
+                                                   : tr("Drag: move the window. Double click: maximise it"),
+                           this);
+        return true;
+    }
+    return QLabel::event(event);
 }
 
 void QSkinnedDialogHeader::mouseDoubleClickEvent(QMouseEvent *event)

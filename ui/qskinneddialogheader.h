@@ -14,6 +14,7 @@ public:
     explicit QSkinnedDialogHeader(QSkinnedDialog *dialog);
 
 protected:
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;

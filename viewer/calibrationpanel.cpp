@@ -4,7 +4,6 @@
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QGridLayout>
-#include <QtWidgets/QScrollBar>
 
 #include <cmath>
 #include <tuple>
@@ -12,7 +11,6 @@
 namespace {
 
 constexpr int kSpacing = 3;
-constexpr int kMargin = 2;
 
 using Kind = CalibrationRow::Kind;
 
@@ -52,19 +50,13 @@ constexpr std::array<Description, 10> kDescriptions{
 } // namespace
 
 CalibrationPanel::CalibrationPanel(QWidget *parent)
-    : QScrollArea(parent)
+    : QWidget(parent)
 {
     static_assert(std::tuple_size_v<decltype(m_rows)> == kDescriptions.size());
-    setFocusPolicy(Qt::NoFocus);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    setWidgetResizable(true);
-    auto *values = new QWidget;
-    auto *grid = new QGridLayout(values);
+    auto *grid = new QGridLayout(this);
     grid->setSpacing(kSpacing);
-    grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    grid->setContentsMargins(0, 0, 0, 0);
     grid->setColumnStretch(1, 1);
-    setWidget(values);
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         const Description &description = kDescriptions[i];
         m_rows[i] =
@@ -117,16 +109,15 @@ void CalibrationPanel::reset(float inputGamma)
 
 void CalibrationPanel::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::FontChange)
         retranslate();
-    QScrollArea::changeEvent(event);
+    QWidget::changeEvent(event);
 }
 
 void CalibrationPanel::retranslate()
 {
     for (std::size_t i = 0; i < m_rows.size(); ++i)
         m_rows[i]->setTitle(tr(kDescriptions[i].title));
-    setMinimumWidth(widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width());
 }
 
 void CalibrationPanel::announce(std::size_t index)

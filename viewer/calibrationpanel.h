@@ -4,15 +4,15 @@
 
 #include <QtCore/QString>
 #include <QtCore/QStringList>
-#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QWidget>
 
 #include <array>
 #include <cstddef>
 
 class CalibrationRow;
 
-/// The calibration's ten values, a row for each; wide enough to scroll up and down alone.
-class CalibrationPanel final : public QScrollArea {
+/// The calibration's ten values, a row for each.
+class CalibrationPanel final : public QWidget {
     Q_OBJECT
 
 public:

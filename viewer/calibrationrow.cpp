@@ -15,8 +15,8 @@ namespace {
 constexpr int kHundred = 100;
 constexpr double kFieldLimit = 100.0;
 constexpr int kDecimals = 2;
-constexpr int kSliderWidth = 80;
-constexpr int kFieldWidth = 56;
+constexpr int kSliderWidth = 60;
+constexpr int kFieldMargins = 14; // a frame, and room for the cursor
 
 struct Range {
     int lowest;
@@ -65,7 +65,6 @@ CalibrationRow::CalibrationRow(const QString &name, Kind kind, QGridLayout &grid
     m_slider->setMinimumWidth(kSliderWidth);
     m_slider->setRange(sliderRange(kind).lowest, sliderRange(kind).highest);
     m_field->setObjectName(name + QStringLiteral("Field"));
-    m_field->setFixedWidth(kFieldWidth);
     m_field->setValidator(new NumberValidator(-kFieldLimit, kFieldLimit, kDecimals, m_field));
     grid.addWidget(m_label, row, 0);
     grid.addWidget(m_slider, row, 1);
@@ -85,6 +84,8 @@ void CalibrationRow::enter(float value)
 void CalibrationRow::setTitle(const QString &title)
 {
     m_label->setText(tr("%1:").arg(title));
+    m_field->setFixedWidth(m_field->fontMetrics().horizontalAdvance(QStringLiteral("-100.00"))
+                           + kFieldMargins);
     for (QWidget *control : {static_cast<QWidget *>(m_slider), static_cast<QWidget *>(m_field)}) {
         control->setAccessibleName(title);
         control->setToolTip(title);

@@ -1,6 +1,7 @@
 #include "displaycontrols.h"
 
 #include "ui_imageviewer.h"
+#include "viewericons.h"
 #include "waitcursor.h"
 
 #include <ui/plaintext.h>
@@ -23,6 +24,7 @@ DisplayControls::DisplayControls(const Ui::ImageViewerClass &form, ViewerSession
     connectSession();
     m_form.image->setBackgroundColor(m_backgroundColor);
     m_form.image->setHudColor(m_hudColor);
+    showColors();
     showLayers();
     enableChannels();
 }
@@ -77,8 +79,18 @@ void DisplayControls::pickColor(const QString &title, void (imageWidget::*set)(c
     const QColor before = color;
     connect(dialog, &QColorDialog::currentColorChanged, image, set);
     connect(dialog, &QDialog::rejected, image, [image, set, before] { (image->*set)(before); });
-    connect(dialog, &QColorDialog::colorSelected, this, [&color](const QColor &chosen) { color = chosen; });
+    connect(dialog, &QColorDialog::colorSelected, this, [this, &color](const QColor &chosen) {
+        color = chosen;
+        showColors();
+    });
     dialog->open();
+}
+
+void DisplayControls::showColors()
+{
+    m_form.backgroundColorButton->setIcon(
+        swatchIcon(QStringLiteral("background"), m_backgroundColor, {3, 3, 10, 10}));
+    m_form.hudColorButton->setIcon(swatchIcon(QStringLiteral("hudcolor"), m_hudColor, {2, 12, 12, 3}));
 }
 
 // Kept for the button that is there: what a display looks like is not remembered.
@@ -117,6 +129,7 @@ void DisplayControls::setBackground(const QColor &color)
 {
     m_backgroundColor = color;
     m_form.image->setBackgroundColor(color);
+    showColors();
 }
 
 void DisplayControls::showLayers()

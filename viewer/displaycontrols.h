@@ -33,6 +33,7 @@ private:
     void connectPicture();
     void connectSession();
     void pickColor(const QString &title, void (imageWidget::*set)(const QColor &), QColor &color);
+    void showColors();
     void saveAsDefault();
     void showLayers();
     void enableChannels();

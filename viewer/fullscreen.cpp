@@ -7,6 +7,12 @@
 
 #include <utility>
 
+namespace {
+
+constexpr int kWarningPlace = 2; // behind the container of the picture
+
+}
+
 FullScreen::FullScreen(const Ui::ImageViewerClass &form, QWidget &viewer)
     : QObject(&viewer)
     , m_form(form)
@@ -37,7 +43,7 @@ void FullScreen::end()
     if (!window)
         return;
     m_form.imageLayout->addWidget(m_form.image, 0, 0);
-    m_form.pictureRow->insertWidget(1, m_form.imageWarningWidget);
+    m_form.pictureRow->insertWidget(kWarningPlace, m_form.imageWarningWidget);
     settle();
     window->deleteLater(); // its key may be what called
     window->hide();
@@ -55,7 +61,7 @@ void FullScreen::addKeys()
 // A widget that moves to another window is hidden until it is shown again.
 void FullScreen::settle()
 {
-    const bool failed = m_form.imageContainer->isHidden();
+    const bool failed = !m_form.imageWarningReason->text().isEmpty();
     m_form.image->setVisible(!failed);
     m_form.imageWarningWidget->setVisible(failed);
     QWidget *keyboard = failed ? m_form.imageWarningWidget->parentWidget() : m_form.image;

@@ -6,8 +6,10 @@
 #include "fullscreen.h"
 #include "loadstatus.h"
 #include "markingcontrols.h"
+#include "sidepanel.h"
 #include "transportcontrols.h"
 #include "ui_imageviewer.h"
+#include "viewerlook.h"
 #include "waitcursor.h"
 #include "zoomcontrol.h"
 
@@ -58,7 +60,9 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     setShowSetSize(true);
     setPalette(Theme::neutral());
     setStyleSheet(StyleSheets::forViewer());
+    content()->setStyleSheet(textSheet());
     m_ui->setupUi(content());
+    giveIcons(*m_ui);
     m_session = std::make_unique<ViewerSession>(totals, picture());
     m_session->setShowIncomplete(settings.showIncomplete);
     m_zoom = new ZoomControl({m_ui->image, m_ui->horizontalScrollBar, m_ui->verticalScrollBar,
@@ -67,6 +71,7 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     m_display = std::make_unique<DisplayControls>(*m_ui, *m_session);
     m_markings = std::make_unique<MarkingControls>(*m_ui, *m_session);
     m_loadStatus = std::make_unique<LoadStatus>(*m_ui, *m_session);
+    m_sidePanel = std::make_unique<SidePanel>(*m_ui, *m_session);
     m_fullScreen = new FullScreen(*m_ui, *this);
     connectPath();
     connectZoom();
@@ -82,7 +87,7 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
         setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     resize(kInitialSize);
     loadDefaultState();
-    picture().setFocus();
+    content()->setFocus();
 }
 
 ImageViewer::~ImageViewer()
@@ -124,8 +129,6 @@ void ImageViewer::connectZoom()
 void ImageViewer::connectCalibration()
 {
     imageWidget *image = m_ui->image;
-    connect(m_ui->calibrationButton, &QAbstractButton::toggled, m_ui->calibrationHolder,
-            &QWidget::setVisible);
     connect(m_ui->calibrationPanel, &CalibrationPanel::calibrationChanged, image,
             &imageWidget::setCalibration);
     connect(m_ui->calibrationPanel, &CalibrationPanel::inputGammaChanged, image,
@@ -181,8 +184,10 @@ void ImageViewer::retranslate()
         button->setToolTip(
             QStringLiteral("%1 (%2)").arg(button->toolTip(), keys.toString(QKeySequence::NativeText)));
     }
+    sizeIcons(*content());
     m_transport->retranslate();
     m_markings->retranslate();
+    m_sidePanel->retranslate();
     m_ui->infoLabel->setText(m_totals.statusText() + m_loadStatus->shownText());
     showTitle();
 }
@@ -341,12 +346,15 @@ void ImageViewer::closeEvent(QCloseEvent *event)
     showGlNormal();
     if (!isMaximized() && !isFullScreen())
         setDefaultState(false);
+    m_sidePanel->keep();
     QSkinnedDialog::closeEvent(event);
 }
 
 bool ImageViewer::event(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::ApplicationFontChange)
+        content()->setStyleSheet(textSheet());
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::ApplicationFontChange)
         retranslate();
     return QSkinnedDialog::event(event);
 }

@@ -12,6 +12,7 @@ class DisplayControls;
 class FullScreen;
 class LoadStatus;
 class MarkingControls;
+class SidePanel;
 class TransportControls;
 class ViewerSession;
 class ZoomControl;
@@ -91,4 +92,5 @@ private:
     std::unique_ptr<DisplayControls> m_display;
     std::unique_ptr<MarkingControls> m_markings;
     std::unique_ptr<LoadStatus> m_loadStatus;
+    std::unique_ptr<SidePanel> m_sidePanel;
 };

@@ -37,6 +37,7 @@ void LoadStatus::showOutcome()
     const QString fault = faultText();
     m_form.imageWarningReason->setText(fault);
     m_form.imageWarningDetails->setText(detailsText());
+    m_form.imageWarningDetails->setHidden(m_form.imageWarningDetails->text().isEmpty());
     if (!fault.isEmpty()) {
         const bool missing = m_session.lastLoad().outcome == LoadOutcome::NotFound;
         m_form.imageWarningLabel->setPixmap(missing ? m_pictures.missing : m_pictures.broken);
@@ -45,9 +46,16 @@ void LoadStatus::showOutcome()
         if (m_form.image->window()->focusWidget() == m_form.image)
             m_form.imageWarningWidget->parentWidget()->setFocus();
     }
-    m_form.imageContainer->setVisible(fault.isEmpty());
+    const bool nothingOpen = m_session.file().empty();
+    const bool firstPicture = m_form.imageContainer->isHidden() && m_form.imageWarningWidget->isHidden();
+    m_form.imageContainer->setVisible(fault.isEmpty() && !nothingOpen);
     m_form.image->setVisible(fault.isEmpty()); // it may stand alone
     m_form.imageWarningWidget->setVisible(!fault.isEmpty());
+    m_form.invitation->setVisible(nothingOpen && fault.isEmpty());
+    m_form.fullScreen->setEnabled(!nothingOpen);
+    // Nothing could take the keys of the frames while there were none.
+    if (firstPicture && fault.isEmpty() && !nothingOpen)
+        m_form.image->setFocus();
 }
 
 QString LoadStatus::faultText() const

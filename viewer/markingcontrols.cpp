@@ -57,6 +57,7 @@ void MarkingControls::refresh()
     const auto frames = marking.markedFrames().size();
     const auto chunks = marking.markedChunks().size();
     m_form.markings->setEnabled(m_session.canPlay() || m_session.canMark());
+    m_form.markings->setVisible(m_session.job().isSet());
     m_form.jobInfoContainer->hide();
     m_form.downloadChunksButton->setEnabled(false);
     enableMarking();

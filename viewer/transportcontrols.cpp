@@ -1,19 +1,33 @@
 #include "transportcontrols.h"
 
 #include "ui_imageviewer.h"
+#include "viewericons.h"
 
 #include <ui/numbertext.h>
 #include <viewer/session/viewersession.h>
 
 #include <QtCore/QSignalBlocker>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
-QIcon playerIcon(const char *name)
+constexpr int kFieldMargins = 14; // a frame, and room for the cursor
+constexpr int kLabelMargins = 2; // what a label adds
+constexpr int kFewestDigits = 4;
+
+void widen(QLineEdit &field, int digits)
 {
-    return QIcon(QStringLiteral(":/player/%1.png").arg(QLatin1String(name)));
+    field.setFixedWidth(field.fontMetrics().horizontalAdvance(QString(digits, QLatin1Char('0')))
+                        + kFieldMargins);
+}
+
+/// To what it takes for a text with that many digits.
+void widen(QLabel &label, const QString &text, int digits)
+{
+    const QString widest = text.arg(QString(digits, QLatin1Char('0')));
+    label.setFixedWidth(label.fontMetrics().horizontalAdvance(widest) + kLabelMargins);
 }
 
 } // namespace
@@ -22,11 +36,6 @@ TransportControls::TransportControls(const Ui::ImageViewerClass &form, ViewerSes
     : m_form(form)
     , m_session(session)
 {
-    m_form.goBegin->setIcon(playerIcon("first"));
-    m_form.stepBackward->setIcon(playerIcon("previous"));
-    m_form.playAndStop->setIcon(playerIcon("play"));
-    m_form.stepForward->setIcon(playerIcon("next"));
-    m_form.goEnd->setIcon(playerIcon("last"));
     m_form.imageAllocation->setCache(&m_session.cache());
     connectTimeline();
     connectFields();
@@ -86,10 +95,25 @@ void TransportControls::retranslate()
     const FrameSequence &sequence = m_session.sequence();
     m_form.startFrameLabel->setText(tr("S:(%1)").arg(sequence.first()));
     m_form.endFrameLabel->setText(tr("E:(%1)").arg(sequence.last()));
-    // As wide as any rate: playing would widen the window.
-    const QFontMetrics metrics(m_form.playbackRate->font());
-    m_form.playbackRate->setFixedWidth(metrics.horizontalAdvance(tr("%1 fps").arg(9999.9, 0, 'f', 1)));
     m_form.totalFramesLabel->setText(tr("%1 frame(s)").arg(sequence.frames.size()));
+    fixPlaces();
+    showPlayButton();
+}
+
+// As wide as any number of the sequence, and any rate: nothing moves while it plays.
+void TransportControls::fixPlaces()
+{
+    const FrameSequence &sequence = m_session.sequence();
+    const auto digits = int(std::max({qsizetype(kFewestDigits), QString::number(sequence.first()).size(),
+                                      QString::number(sequence.last()).size()}));
+    widen(*m_form.startFrameLabel, tr("S:(%1)"), digits);
+    widen(*m_form.endFrameLabel, tr("E:(%1)"), digits);
+    for (QLineEdit *field : {m_form.startFrame, m_form.endFrame, m_form.currentFrame})
+        widen(*field, digits);
+    widen(*m_form.byFrame, 2);
+    widen(*m_form.fps, kFewestDigits);
+    const QFontMetrics metrics(m_form.playbackRate->font());
+    m_form.playbackRate->setFixedWidth(metrics.horizontalAdvance(tr("%1 fps").arg(999.9, 0, 'f', 1)));
 }
 
 void TransportControls::showSequence()
@@ -103,6 +127,10 @@ void TransportControls::showSequence()
     for (QWidget *control : std::initializer_list<QWidget *>{m_form.timeline, m_form.imageAllocation,
                                                              m_form.imageMarker, m_form.transport})
         control->setEnabled(m_session.canPlay());
+    // A single picture has nothing to step through.
+    for (QWidget *row : std::initializer_list<QWidget *>{m_form.frameBlock, m_form.transport,
+                                                         m_form.totalFramesLabel, m_form.liveScrubbing})
+        row->setVisible(m_session.canPlay());
     showRange();
 }
 
@@ -150,15 +178,22 @@ void TransportControls::showFrame(int frame)
     m_form.timeline->update();
 }
 
-void TransportControls::showPlaying(bool playing)
+void TransportControls::showPlaying()
 {
-    m_form.playAndStop->setIcon(playerIcon(playing ? "stop" : "play"));
-    m_form.playAndStop->setAccessibleName(playing ? tr("Stop") : tr("Play"));
+    showPlayButton();
     m_form.playbackRate->clear();
     // A field that is disabled may open what was typed, which ends the playback again.
     for (QWidget *control :
          std::initializer_list<QWidget *>{m_form.framesPath, m_form.pickFramesPath, m_form.reloadButton})
         control->setEnabled(!m_session.playback().isPlaying());
+}
+
+void TransportControls::showPlayButton()
+{
+    const bool playing = m_session.playback().isPlaying();
+    m_form.playAndStop->setIcon(playerIcon(playing ? QStringLiteral("stop") : QStringLiteral("play")));
+    m_form.playAndStop->setAccessibleName(playing ? tr("Stop") : tr("Play"));
+    m_form.playAndStop->setToolTip(playing ? tr("Stop (Space)") : tr("Play (Space)"));
 }
 
 void TransportControls::editRange()

@@ -30,7 +30,9 @@ private:
     void showRange();
     void showStates();
     void showFrame(int frame);
-    void showPlaying(bool playing);
+    void showPlaying();
+    void showPlayButton();
+    void fixPlaces();
     void editRange();
     void editFrame();
     void editFramesPerSecond();

@@ -4,6 +4,7 @@
 #include <viewer/widgets/imagewidget.h>
 
 #include <QtCore/QSignalBlocker>
+#include <QtWidgets/QLayout>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QToolButton>
@@ -107,10 +108,38 @@ void ZoomControl::zoomTo(float zoom)
     place(zoom, middle());
 }
 
+// Of the view without bars: their coming and going moves nothing.
 QPointF ZoomControl::middle() const
 {
-    const QSize view = m_controls.image->viewSize();
+    const QSize view = room();
     return {view.width() / 2.0, view.height() / 2.0};
+}
+
+QSize ZoomControl::room() const
+{
+    const imageWidget &image = *m_controls.image;
+    const QWidget *around = m_controls.horizontal->parentWidget();
+    const bool alone = image.parentWidget() != around || !image.isVisible();
+    return alone ? image.viewSize() : around->size() * image.devicePixelRatio();
+}
+
+// By the room alone: bars that came by what they leave of it would come and go for ever.
+void ZoomControl::showBars()
+{
+    const QSize shown = m_controls.image->displayedSize();
+    const QSize all = room();
+    const qreal ratio = m_controls.image->devicePixelRatio();
+    const auto beyond = [](int length, int view, qreal bar) { return length > view - bar; };
+    const qreal width = m_controls.vertical->sizeHint().width() * ratio;
+    const qreal height = m_controls.horizontal->sizeHint().height() * ratio;
+    bool across = m_lock != Lock::Fit && beyond(shown.width(), all.width(), 0);
+    const bool down = m_lock != Lock::Fit && beyond(shown.height(), all.height(), across ? height : 0);
+    across = across || (down && beyond(shown.width(), all.width(), width));
+    if (across != m_controls.horizontal->isHidden() && down != m_controls.vertical->isHidden())
+        return;
+    m_controls.horizontal->setVisible(across);
+    m_controls.vertical->setVisible(down);
+    m_controls.horizontal->parentWidget()->layout()->activate();
 }
 
 void ZoomControl::place(float zoom, QPointF at)
@@ -133,7 +162,7 @@ float ZoomControl::fittingZoom() const
 {
     const imageWidget &image = *m_controls.image;
     const ImageFrame *frame = image.frame();
-    const QSize view = image.viewSize();
+    const QSize view = room();
     if (!frame || frame->planeSizes.empty() || view.isEmpty())
         return image.zoomFactor();
     const PlaneSize size = frame->planeSizes.front();
@@ -168,6 +197,7 @@ void ZoomControl::refresh()
         return;
     m_refreshing = true;
     apply(m_lock);
+    showBars();
     const QSize shown = m_controls.image->displayedSize();
     const QSize view = m_controls.image->viewSize();
     const QPoint pan = m_controls.image->setPan(m_controls.image->pan());
@@ -188,7 +218,6 @@ void ZoomControl::refreshScrollBar(QScrollBar &bar, int displayed, int visible, 
     bar.setPageStep(visible);
     bar.setSingleStep(kScrollStep);
     bar.setValue(value);
-    // It keeps its place: a bar that came and went would change the view that it depends on.
     bar.setEnabled(displayed > visible);
 }
 

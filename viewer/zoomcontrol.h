@@ -8,7 +8,7 @@ class QScrollBar;
 class QToolButton;
 class imageWidget;
 
-/// Places the picture in its view: zooms within limits, moves the scroll bars, and keeps the fit or the pixel size,
+/// Places the picture in its view: zooms within limits, moves the scroll bars, which show where there is something to scroll, and keeps the fit or the pixel size,
 /// whichever is locked, for other frames and other sizes of the view. One lock at most is on, and its button is checked:
 /// the fit's at first; a zoom takes it off.
 class ZoomControl final : public QObject {
@@ -54,6 +54,9 @@ private:
     void zoomBy(float steps, QPointF at);
     void place(float zoom, QPointF at);
     QPointF middle() const;
+    /// The view, in device pixels, with no bar beside it.
+    QSize room() const;
+    void showBars();
     float fittingZoom() const;
     void refreshScrollBar(QScrollBar &bar, int displayed, int visible, int value);
     void scrolled();

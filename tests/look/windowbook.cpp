@@ -131,8 +131,8 @@ void WindowBook::visitViewers()
                           .force = true,
                           .maskIsSequence = true});
     show(QStringLiteral("viewer-sequence"), viewer);
-    viewer.setFramesPath({.path = folder.filePath(QStringLiteral("shot.0001.png")).toStdString(),
-                          .force = true,
-                          .maskIsSequence = false});
+    QFile::copy(folder.filePath(QStringLiteral("shot.0001.png")),
+                folder.filePath(QStringLiteral("still.png")));
+    viewer.setFramesPath({.path = folder.filePath(QStringLiteral("still.png")).toStdString(), .force = true});
     show(QStringLiteral("viewer-picture"), viewer);
 }

@@ -1,19 +1,11 @@
-#include <QtCore/QFile>
+#include <ui/stylesheets.h>
+#include <ui/theme.h>
+
 #include <QtCore/QRegularExpression>
 #include <QtGui/QImageReader>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
-
-namespace {
-
-QString text(const QString &resource)
-{
-    QFile file(resource);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-} // namespace
 
 class TestResources : public QObject {
     Q_OBJECT
@@ -23,14 +15,16 @@ private Q_SLOTS:
     void styleSheetsAreRead()
     {
         QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
-        qApp->setStyleSheet(text(QStringLiteral(":/Styles/tarrow.qss"))
-                            + text(QStringLiteral(":/Styles/shared.qss")));
+        qApp->setStyleSheet(StyleSheets::forProgram(Theme::plain(true, false)));
         QDialog dialog;
         QWidget header(&dialog);
         header.setObjectName(QStringLiteral("skinnedDialogHeaderLabel"));
         dialog.ensurePolished();
         header.ensurePolished();
-        QCOMPARE(header.palette().color(QPalette::Window), dialog.palette().color(QPalette::Button));
+        QCOMPARE(header.palette().color(QPalette::Window), Theme::plain(true, false).color(QPalette::Button));
+        dialog.setStyleSheet(StyleSheets::forViewer());
+        dialog.ensurePolished();
+        QCOMPARE(dialog.palette().color(QPalette::Window), Theme::neutral().color(QPalette::Window));
         qApp->setStyleSheet({});
     }
 
@@ -38,13 +32,11 @@ private Q_SLOTS:
     {
         const QRegularExpression url(QStringLiteral("url\\(([^)]*)\\)"));
         int count = 0;
-        for (const char *name : {":/Styles/tarrow.qss", ":/Styles/shared.qss"}) {
-            auto matches = url.globalMatch(text(QLatin1String(name)));
-            for (; matches.hasNext(); ++count) {
-                QString path = matches.next().captured(1);
-                path.replace(QRegularExpression(QStringLiteral("/(ink|mark)/")), QStringLiteral("/dark/"));
-                QVERIFY2(QImageReader(path).canRead(), qPrintable(path));
-                path.replace(QStringLiteral("/dark/"), QStringLiteral("/light/"));
+        for (const bool isDark : {true, false}) {
+            const QString sheet =
+                StyleSheets::forProgram(Theme::plain(isDark, false)) + StyleSheets::forViewer();
+            for (auto matches = url.globalMatch(sheet); matches.hasNext(); ++count) {
+                const QString path = matches.next().captured(1);
                 QVERIFY2(QImageReader(path).canRead(), qPrintable(path));
             }
         }

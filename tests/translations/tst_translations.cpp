@@ -1,3 +1,4 @@
+#include "jobframes.h"
 #include "table.h"
 
 #include <notify/menus.h>
@@ -6,6 +7,7 @@
 #include <ui/look.h>
 #include <viewer/frames/cachetotals.h>
 #include <viewer/imageviewer.h>
+#include <viewer/session/viewersession.h>
 
 #include <QtCore/QTranslator>
 #include <QtGui/QScreen>
@@ -22,7 +24,11 @@ private Q_SLOTS:
     {
         m_look = std::make_unique<Look>(*qApp);
     }
-    void cleanup() { qDeleteAll(qApp->findChildren<QTranslator *>()); }
+    void cleanup()
+    {
+        qDeleteAll(qApp->findChildren<QTranslator *>());
+        QApplication::setFont(QFont(QStringLiteral("Lato")));
+    }
 
     void languageIsChosen_data()
     {
@@ -63,11 +69,22 @@ private Q_SLOTS:
         preferences dialog(nullptr);
         showsTextsWhole(dialog);
 
-        CacheTotals totals;
-        ImageViewer viewer(totals, {});
-        viewer.findChild<QAbstractButton *>(QStringLiteral("calibrationButton"))->click();
-        showsTextsWhole(viewer);
-        QVERIFY(viewer.width() <= viewer.screen()->availableSize().width());
+        // At its first size, with all rows, on the desktop's text size and a larger one.
+        const QFont font = QApplication::font();
+        for (const double scale : {1.0, 1.5}) {
+            QFont scaled = font;
+            scaled.setPointSizeF(font.pointSizeF() * scale);
+            QApplication::setFont(scaled);
+            CacheTotals totals;
+            ImageViewer viewer(totals, {});
+            viewer.setJob({jobOf(1001, 1009), {}, {chunkOf(1, 1001, 1004)}});
+            viewer.setFramesPath({.path = "/no/shot.####.exr", .maskIsSequence = true});
+            showsTextsWhole(viewer);
+            QCOMPARE(viewer.size(), QSize(640, 480));
+            viewer.findChild<QAbstractButton *>(QStringLiteral("calibrationButton"))->click();
+            showsTextsWhole(viewer);
+            QCOMPARE(viewer.size(), QSize(640, 480));
+        }
     }
 
 private:
@@ -75,11 +92,23 @@ private:
     {
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QCoreApplication::processEvents();
         for (const QWidget *widget : window.findChildren<QWidget *>()) {
+            const auto *label = qobject_cast<const QLabel *>(widget);
             const bool hasText =
-                qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QLabel *>(widget);
-            QVERIFY2(!hasText || !widget->isVisible() || widget->width() >= widget->minimumSizeHint().width(),
+                label ? !label->text().isEmpty() : bool(qobject_cast<const QAbstractButton *>(widget));
+            if (!widget->isVisible() || !hasText)
+                continue;
+            const int height = label && label->wordWrap() ? label->heightForWidth(widget->width())
+                                                          : widget->minimumSizeHint().height();
+            QVERIFY2(widget->width() >= widget->minimumSizeHint().width() && widget->height() >= height,
                      qPrintable(widget->objectName()));
+            const QWidget *around = widget->parentWidget();
+            QVERIFY2(around->rect().contains(widget->geometry()), qPrintable(widget->objectName()));
+            for (const QWidget *other : around->findChildren<QWidget *>(Qt::FindDirectChildrenOnly))
+                QVERIFY2(other == widget || other->isHidden() || other->isWindow()
+                             || !other->geometry().intersects(widget->geometry()),
+                         qPrintable(widget->objectName() + u' ' + other->objectName()));
         }
         for (const QScrollArea *area : window.findChildren<QScrollArea *>())
             QVERIFY2(area->widget()->width() <= area->viewport()->width(), qPrintable(area->objectName()));

@@ -1,6 +1,7 @@
 #include "modals.h"
 #include "viewertest.h"
 
+#include <ui/look.h>
 #include <viewer/calibrationpanel.h>
 
 #include <QtCore/QFile>
@@ -13,6 +14,7 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -57,6 +59,64 @@ private Q_SLOTS:
         QCOMPARE(m_viewer->windowTitle(), u"Images viewer on job shot (42)"_s);
         QCOMPARE(frame(), 2);
         QVERIFY(!find("imageMarker")->isHidden());
+    }
+
+    void thePictureHasTheRoom()
+    {
+        const QFont font = QApplication::font();
+        const auto bare = qScopeGuard([font] {
+            qApp->setStyleSheet({});
+            QApplication::setFont(font);
+        });
+        const Look look(*qApp);
+        m_viewer = new ImageViewer(m_totals, {});
+        m_viewer->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_viewer));
+        QCOMPARE(m_viewer->size(), QSize(640, 480));
+        const auto visible = [this] {
+            QStringList names;
+            for (const char *name :
+                 {"invitation", "image", "horizontalScrollBar", "verticalScrollBar", "timeline",
+                  "imageAllocation", "imageMarker", "goBegin", "liveScrubbing", "markFrameButton"})
+                names += find(name)->isVisible() ? QStringList(QLatin1String(name)) : QStringList();
+            return names.join(u' ');
+        };
+        QCOMPARE(visible(), u"invitation"_s);
+        const auto share = [this] {
+            const QSize size = m_viewer->picture().size();
+            return size.width() * size.height() * 100 / (640 * 480);
+        };
+        writeFrame(path(u"still.exr"_s), {640, 480});
+        type("framesPath", path(u"still.exr"_s));
+        QTRY_VERIFY(share() >= 75);
+        QCOMPARE(visible(), u"image"_s);
+        click("setPixelSize");
+        QCOMPARE(visible(), u"image horizontalScrollBar verticalScrollBar"_s);
+        const QPoint corner(find<QScrollBar>("horizontalScrollBar")->maximum(),
+                            find<QScrollBar>("verticalScrollBar")->maximum());
+        QCOMPARE(m_viewer->picture().setPan({999, 999}), corner); // they lead to all of it
+        click("fitPixelSize");
+        type("framesPath", path(u"shot.####.exr"_s));
+        QTRY_VERIFY(share() >= 60);
+        QCOMPARE(visible(), u"image timeline imageAllocation goBegin liveScrubbing"_s);
+
+        const auto places = [this] {
+            QList<QRect> rects;
+            for (const QWidget *control : find("transport")->findChildren<QWidget *>())
+                rects += control->geometry();
+            return rects;
+        };
+        const QList<QRect> before = places();
+        type("fps", u"500"_s);
+        click("playAndStop");
+        QTRY_VERIFY(!find<QLabel>("playbackRate")->text().isEmpty());
+        QCOMPARE(places(), before);
+        click("playAndStop");
+        delete m_viewer;
+
+        open(u"shot.####.exr"_s, {jobOf(1, 5), {}, {}});
+        QCOMPARE(visible(),
+                 u"image timeline imageAllocation imageMarker goBegin liveScrubbing markFrameButton"_s);
     }
 
     void keysMoveThroughTheFrames()
@@ -354,9 +414,11 @@ private Q_SLOTS:
         click("pickFramesPath");
         QCOMPARE(frame(), 2);
         QVERIFY(!QSettings().value(u"fileSelectorsCaches/ImageViewer"_s).toByteArray().isEmpty());
+        click("calibrationButton");
         m_viewer->close();
         QTRY_VERIFY(!m_viewer);
         ImageViewer again(m_totals, {});
+        QVERIFY(!again.findChild<QWidget *>(u"sidePanel"_s)->isHidden());
         QCOMPARE(again.geometry(), QRect(120, 90, 800, 600));
         QSettings().clear();
     }

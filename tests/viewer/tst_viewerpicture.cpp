@@ -127,7 +127,7 @@ private Q_SLOTS:
 
     void zoomAndLocks()
     {
-        writeFrame(path(u"large.exr"_s), {2000, 500});
+        writeFrame(path(u"large.exr"_s), {2000, 800});
         open(u"large.exr"_s);
         imageWidget &picture = m_viewer->picture();
         auto *fit = find<QToolButton>("fitPixelSize");
@@ -138,14 +138,14 @@ private Q_SLOTS:
         QTRY_VERIFY(isWhole());
         QVERIFY(fit->isChecked());
         click("setPixelSize");
-        QCOMPARE(picture.displayedSize(), QSize(2000, 500));
+        QCOMPARE(picture.displayedSize(), QSize(2000, 800));
         QVERIFY(pixels->isChecked() && !fit->isChecked());
         auto *bar = find<QScrollBar>("horizontalScrollBar");
         QCOMPARE(bar->maximum(), 2000 - picture.viewSize().width());
         bar->setValue(100);
         QCOMPARE(picture.pan().x(), 100);
         click("zoomIn");
-        QCOMPARE(picture.displayedSize(), QSize(2400, 600));
+        QCOMPARE(picture.displayedSize(), QSize(2400, 960));
         QVERIFY(!pixels->isChecked());
         click("zoomOut");
         QCOMPARE(picture.pan().x(), 100);

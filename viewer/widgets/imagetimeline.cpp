@@ -18,6 +18,11 @@ constexpr int kTickSpacing = 4;
 constexpr int kTickLength = 10;
 constexpr int kLineTop = 15;
 constexpr int kBaseline = 10;
+constexpr int kPoints = 7; // of the numbers
+constexpr int kFlagPadding = 3;
+// Darker than the line: the white number is to be read.
+constexpr QColor kFlag(208, 0, 0);
+constexpr QColor kCurrentShade(255, 10, 10, 46);
 
 /// What the modifier keys that are down make of a pick.
 MarkRequest currentRequest()
@@ -39,6 +44,8 @@ std::int32_t clamped(std::int64_t value, std::int64_t lowest = std::numeric_limi
 
 imageTimeline::imageTimeline(QWidget *parent)
     : QWidget(parent)
+    , m_font(QStringLiteral("Lato"), kPoints)
+    , m_flagFont(QStringLiteral("Lato"), kPoints, QFont::Bold)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
@@ -58,11 +65,13 @@ size_t imageTimeline::getLength() const
 void imageTimeline::setFrames(std::set<long> _frames)
 {
     m_scale.setFrames(_frames);
+    m_ruler = {};
 }
 
 void imageTimeline::setRange(long startFrame, long endFrame)
 {
     m_scale.setRange(startFrame, endFrame);
+    m_ruler = {};
 }
 
 void imageTimeline::setStates(const FrameStates &states)
@@ -186,17 +195,52 @@ void imageTimeline::show(std::int32_t frame)
 
 void imageTimeline::paintEvent(QPaintEvent * /*event*/)
 {
-    const QRect inner = rect().adjusted(1, 1, -1, -1);
-    const std::vector<FrameColumn> columns = m_scale.columns(width());
-    QPainter painter(this);
-    painter.fillRect(inner, Qt::black);
-    drawTicks(painter, columns, inner.bottom());
-    drawFrames(painter, columns, inner.bottom());
-    if (m_scale.inRange(m_scrubFrame)) {
-        const int x = m_scale.position(m_scrubFrame, width());
-        painter.setPen(QPen(QColor(255, 10, 10), 2));
-        painter.drawLine(x, kLineTop, x, inner.bottom());
+    // A step of playback changes the line and its flag alone.
+    const QSize pixels = size() * devicePixelRatio();
+    if (m_ruler.size() != pixels) {
+        m_ruler = QPixmap(pixels);
+        m_ruler.setDevicePixelRatio(devicePixelRatio());
+        m_ruler.fill(Qt::transparent);
+        drawRuler();
     }
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, m_ruler);
+    if (m_scale.inRange(m_scrubFrame))
+        drawCurrent(painter, lastRow());
+}
+
+int imageTimeline::lastRow() const
+{
+    return height() - 2; // within a line that is left free all round
+}
+
+void imageTimeline::drawRuler()
+{
+    if (m_ruler.isNull())
+        return;
+    const std::vector<FrameColumn> columns = m_scale.columns(width());
+    QPainter painter(&m_ruler);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), Qt::black);
+    drawTicks(painter, columns, lastRow());
+    drawFrames(painter, columns, lastRow());
+}
+
+void imageTimeline::drawCurrent(QPainter &painter, int bottom) const
+{
+    const QColor red(255, 10, 10);
+    const int x = m_scale.position(m_scrubFrame, width());
+    if (m_scale.columnWidth(width()) >= kTickSpacing)
+        painter.fillRect(x, kLineTop, m_scale.columnWidth(width()), bottom - kLineTop + 1, kCurrentShade);
+    painter.setPen(QPen(red, 2));
+    painter.drawLine(x, kLineTop, x, bottom);
+    // Its number, on a flag that stays within the ruler.
+    painter.setFont(m_flagFont);
+    const QString number = QString::number(m_scrubFrame);
+    const int length = painter.fontMetrics().horizontalAdvance(number) + 2 * kFlagPadding;
+    const QRect flag(std::max(std::min(x - 1, width() - 1 - length), 1), 1, length, kLineTop);
+    painter.fillRect(flag, kFlag);
+    painter.setPen(Qt::white);
+    painter.drawText(flag, Qt::AlignCenter, number);
 }
 
 void imageTimeline::drawTicks(QPainter &painter, const std::vector<FrameColumn> &columns, int bottom) const
@@ -215,7 +259,7 @@ void imageTimeline::drawFrames(QPainter &painter, const std::vector<FrameColumn>
 {
     const int columnWidth = m_scale.columnWidth(width());
     painter.setPen(QPen(QColor(150, 150, 150), 2));
-    painter.setFont(QFont(QStringLiteral("Lato"), 7));
+    painter.setFont(m_font);
     const int spacing = painter.fontMetrics().horizontalAdvance(QStringLiteral("999.99"));
     int last = 0;
     for (const FrameColumn &column : columns) {

@@ -2,6 +2,8 @@
 
 #include "framescale.h"
 
+#include <QtGui/QFont>
+#include <QtGui/QPixmap>
 #include <QtWidgets/QWidget>
 
 #include <cstdint>
@@ -10,8 +12,8 @@
 
 class QPainter;
 
-/// Rules the frames under the picture: ticks and numbers of the existing ones, the current one in red; the missing, the
-/// incomplete and the broken ones hatched, each in its way. The left button scrubs and picks; Shift, Control and Alt make a pick, of the current frame too, a request to
+/// Rules the frames under the picture: ticks and numbers of the existing ones, the current one in red with its number on a
+/// flag; the missing, the incomplete and the broken ones hatched, each in its way. The left button scrubs and picks; Shift, Control and Alt make a pick, of the current frame too, a request to
 /// mark or unmark, which the signals carry. Setters do not repaint.
 class imageTimeline : public QWidget {
     Q_OBJECT
@@ -59,9 +61,15 @@ private:
     void dragTo(std::int32_t frame, bool begins);
     void show(std::int32_t frame);
     void drawTicks(QPainter &painter, const std::vector<FrameColumn> &columns, int bottom) const;
+    int lastRow() const;
+    void drawRuler();
+    void drawCurrent(QPainter &painter, int bottom) const;
     void drawFrames(QPainter &painter, const std::vector<FrameColumn> &columns, int bottom) const;
 
+    const QFont m_font;
+    const QFont m_flagFont;
     FrameScale m_scale;
+    QPixmap m_ruler; ///< all but the current frame; null or of another size until it is drawn anew
     std::int32_t m_byFrame = 1;
     std::int32_t m_position = 1;
     std::int32_t m_scrubFrame = 1;
