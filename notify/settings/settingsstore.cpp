@@ -44,13 +44,15 @@ struct Reader {
         const quint64 value = stored.toULongLong(&ok);
         return assign(member, value, ok);
     }
+    // An unquoted comma in a file edited by hand makes a list of a text; here it stands before decimals.
     bool operator()(float Settings::*member) const
     {
         bool ok = false;
-        const float value = stored.toFloat(&ok);
+        const bool isList = stored.typeId() == QMetaType::QStringList;
+        QString text = isList ? stored.toStringList().join(u'.') : stored.toString();
+        const float value = text.replace(u',', u'.').toFloat(&ok);
         return assign(member, value, ok && std::isfinite(value));
     }
-    // An unquoted comma in a file edited by hand makes a list of a text.
     bool operator()(QString Settings::*member) const { return assign(member, stored.toString(), isText()); }
     bool operator()(const SecretText &secret) const
     {
@@ -148,15 +150,23 @@ bool anyRowStored(std::initializer_list<SettingsRows> tables)
 
 bool saveRows(std::initializer_list<SettingsRows> tables, const Settings &settings)
 {
+    QVariantMap values;
+    for (const SettingsRows &table : tables) {
+        for (const SettingsRow &row : table)
+            values.insert(keyOf(row), std::visit(Writer{settings}, row.member));
+    }
+    return saveValues(values);
+}
+
+bool saveValues(const QVariantMap &values)
+{
     QSettings store;
     // Writing over a file that could not be read would lose what it holds.
     bool saved = store.status() != QSettings::AccessError && hasRoom(store);
     if (saved) {
         keepToOwner(store);
-        for (const SettingsRows &table : tables) {
-            for (const SettingsRow &row : table)
-                store.setValue(keyOf(row), std::visit(Writer{settings}, row.member));
-        }
+        for (const auto &[key, value] : values.asKeyValueRange())
+            store.setValue(key, value);
         store.sync();
         // A store that found its file damaged goes on saying so: one opened anew tells whether the write mended it.
         saved = store.status() == QSettings::NoError
