@@ -150,23 +150,15 @@ bool anyRowStored(std::initializer_list<SettingsRows> tables)
 
 bool saveRows(std::initializer_list<SettingsRows> tables, const Settings &settings)
 {
-    QVariantMap values;
-    for (const SettingsRows &table : tables) {
-        for (const SettingsRow &row : table)
-            values.insert(keyOf(row), std::visit(Writer{settings}, row.member));
-    }
-    return saveValues(values);
-}
-
-bool saveValues(const QVariantMap &values)
-{
     QSettings store;
     // Writing over a file that could not be read would lose what it holds.
     bool saved = store.status() != QSettings::AccessError && hasRoom(store);
     if (saved) {
         keepToOwner(store);
-        for (const auto &[key, value] : values.asKeyValueRange())
-            store.setValue(key, value);
+        for (const SettingsRows &table : tables) {
+            for (const SettingsRow &row : table)
+                store.setValue(keyOf(row), std::visit(Writer{settings}, row.member));
+        }
         store.sync();
         // A store that found its file damaged goes on saying so: one opened anew tells whether the write mended it.
         saved = store.status() == QSettings::NoError
