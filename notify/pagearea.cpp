@@ -11,6 +11,14 @@ PageArea::PageArea(QWidget *parent)
     setWidgetResizable(true);
 }
 
+void PageArea::settleSizes(QWidget &window)
+{
+    for (QWidget *widget : window.findChildren<QWidget *>())
+        widget->ensurePolished();
+    for (PageArea *area : window.findChildren<PageArea *>())
+        area->updateGeometry();
+}
+
 QSize PageArea::sizeHint() const
 {
     return widget() ? withBar(widget()->sizeHint()) : QScrollArea::sizeHint();

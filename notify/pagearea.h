@@ -10,6 +10,9 @@ class PageArea final : public QScrollArea {
 public:
     explicit PageArea(QWidget *parent = nullptr);
 
+    /// Brings the size hints of a window that was not on screen yet in line with the style, which may want larger fonts.
+    static void settleSizes(QWidget &window);
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -369,6 +369,7 @@ bool preferences::eventFilter(QObject *object, QEvent *event)
 
 void preferences::takePlace()
 {
+    PageArea::settleSizes(*this);
     const QScreen *where = parentWidget() ? parentWidget()->screen() : screen();
     const QSize remembered = Remembered::preferencesSize();
     const QSize wanted = remembered.isEmpty() ? sizeHint().expandedTo({width(), 0}) : remembered;
