@@ -6,6 +6,7 @@
 
 #include <ui/numbertext.h>
 #include <ui/svgicon.h>
+#include <ui/windowplacement.h>
 
 #include <QtGui/QAccessible>
 #include <QtGui/QScreen>
@@ -15,8 +16,6 @@
 
 namespace {
 
-/// Room for the frame that the desktop puts around the window.
-constexpr QSize kWindowFrame(10, 40);
 /// Characters in a line that reads well.
 constexpr int kLineLength = 72;
 
@@ -133,7 +132,7 @@ void FirstRun::takePlace()
     const int extra = width - least.width();
     const int height =
         least.height() - contents.height() + m_ui->setupContents->heightForWidth(contents.width() + extra);
-    resize(QSize(width, height).boundedTo(available.size() - kWindowFrame));
+    resize(QSize(width, height).boundedTo(available.size().shrunkBy(frameOf(*this))));
     // The main window mostly hides in the tray: then there is nothing to come up over.
     if (!parentWidget() || !parentWidget()->isVisible())
         move(available.center() - rect().center());
