@@ -5,6 +5,7 @@
 
 #include <framework/tframework.h>
 #include <notify/alertor.h>
+#include <notify/setup.h>
 #include <system/tdesktop.h>
 #include <ui/glprobe.h>
 #include <ui/language.h>
@@ -61,6 +62,7 @@ int run(QtSingleApplication &application, const CommandLine &line, Templates &te
     splash.finish(nullptr);
     alertor.minimize();
     QTimer::singleShot(0, &look, &Look::askDesktop);
+    Setup::offer(alertor);
     const int code = isEnding ? 0 : QCoreApplication::exec();
 
     templates.shutdown();

@@ -8,6 +8,7 @@
 #include "notifylog.h"
 #include "pendingcounts.h"
 #include "preferences.h"
+#include "setup.h"
 #include "ui_alertor.h"
 
 #include <net/protocol/packets.h>
@@ -87,7 +88,7 @@ void Alertor::buildMenus()
     connect(m_trayMenu->quit, &QAction::triggered, this, &Alertor::onQuit);
     auto *windowMenu = new WindowMenu(*m_trayMenu, m_ui->treeWidget->columns().menu(), this);
     connect(windowMenu, &QMenu::aboutToShow, this, &Alertor::updateTrayMenu);
-    connect(windowMenu->about, &QAction::triggered, this, [this] { Messages::showAbout(this); });
+    connect(windowMenu->about, &QAction::triggered, this, [this] { Setup::openAbout(*this); });
     m_ui->menuButton->setMenu(windowMenu);
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, m_ui->menuButton,
             &QPushButton::showMenu);

@@ -43,6 +43,8 @@ public:
     const EventsList &events() const { return m_events; }
     const Settings &settings() const { return m_settings; }
     const Tray &tray() const { return m_tray; }
+    /// False where nothing was ever stored and the command line says nothing.
+    bool isConfigured() const { return m_isConfigured; }
     /// For the templates; valid as long as the window.
     TFramework::TSendEntry *sendEntry() { return &m_sendEntry; }
 
@@ -57,6 +59,8 @@ public:
     /// Reads the stored settings and puts the command line's values over them.
     void loadSettings();
     void saveSettings();
+    /// Takes the settings over and saves them; connects anew where that changes the link.
+    void applySettings(const Settings &edited);
     /// Keeps and announces the event, or drops it where its filter is off.
     void handleNewEvent(std::unique_ptr<NotifyEvent> event);
     /// Brings the tray in line with what is pending in the list.
@@ -108,7 +112,6 @@ private:
     void buildMenus();
     void connectSession();
     void processCustomMessage(const QByteArray &payload);
-    void applySettings(const Settings &edited);
     void updateTrayMenu();
     void standInForTray();
 

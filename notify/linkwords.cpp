@@ -25,12 +25,6 @@ QString brief(const QString &typed)
     return line.size() <= kLongest ? line : line.first(kLongest) + u'\u2026';
 }
 
-QString server(const LinkReport &report)
-{
-    const QString form = report.address.contains(u':') ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2");
-    return form.arg(brief(report.address), QString::number(report.port));
-}
-
 QString reason(const LinkReport &report)
 {
     switch (report.reason) {
@@ -47,6 +41,12 @@ QString reason(const LinkReport &report)
 }
 
 } // namespace
+
+QString LinkWords::server(const LinkReport &report)
+{
+    const QString form = report.address.contains(u':') ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2");
+    return form.arg(brief(report.address), QString::number(report.port));
+}
 
 QString LinkWords::state(const LinkReport &report, const QDateTime &nextAttempt)
 {

@@ -8,6 +8,8 @@ class QDateTime;
 /// The words in which the user hears of the link; plain text, one line each.
 namespace LinkWords {
 
+/// Names the Dispatcher: address and port.
+QString server(const LinkReport &report);
 /// Says how the link stands: to whom and as whom, why it does not, and when the next attempt comes.
 QString state(const LinkReport &report, const QDateTime &nextAttempt);
 /// Says when the link was down.

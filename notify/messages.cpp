@@ -7,6 +7,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 
 namespace {
 
@@ -28,14 +29,18 @@ void Messages::showError(QWidget *parent, const QString &text)
     PlainBox(QMessageBox::Critical, text, parent).exec();
 }
 
-void Messages::showAbout(QWidget *parent)
+bool Messages::showAbout(QWidget *parent)
 {
     const QString text =
         QCoreApplication::translate("Messages", "Tarrow Alertor %1 (build %2)\n\nLog: %3")
             .arg(product::kVersion, product::kBuildNumber, QDir::toNativeSeparators(LogFile::path()));
     PlainBox box(QMessageBox::Information, text, parent);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    const auto *setUp = box.addButton(QCoreApplication::translate("Messages", "&Set up the connection…"),
+                                      QMessageBox::ActionRole);
+    box.setEscapeButton(QMessageBox::Ok);
     box.exec();
+    return box.clickedButton() == setUp;
 }
 
 bool Messages::askToQuit(QWidget *parent)

@@ -10,8 +10,8 @@ namespace Messages {
 /// Shows an error, as plain text, and waits for the user.
 void showError(QWidget *parent, const QString &text);
 
-/// Shows the program's version and where its log is, and waits for the user.
-void showAbout(QWidget *parent);
+/// Shows the program's version and where its log is, and waits for the user. True when asked for setting up the connection.
+bool showAbout(QWidget *parent);
 
 /// Asks whether to end the program, and waits for the answer.
 bool askToQuit(QWidget *parent);

@@ -1,19 +1,27 @@
 #include "preferences.h"
 
+#include "fieldchecks.h"
+#include "soundplayer.h"
 #include "ui_preferences.h"
 
+#include <notify/settings/remembered.h>
 #include <notify/settings/settings.h>
-#include <ui/fieldmark.h>
+#include <system/machine.h>
 #include <ui/numbertext.h>
+#include <ui/plaintext.h>
 #include <ui/windowplacement.h>
 
+#include <QtCore/QLocale>
 #include <QtCore/QPointer>
+#include <QtGui/QAccessible>
 #include <QtGui/QScreen>
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QFileDialog>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <limits>
 
 namespace {
 
@@ -37,6 +45,11 @@ struct CacheField {
 struct GammaField {
     QLineEdit *Form::*widget;
     float Settings::*member;
+};
+
+struct SoundField {
+    QLineEdit *Form::*path;
+    QToolButton *Form::*hear;
 };
 
 constexpr CheckBox kCheckBoxes[] = {
@@ -84,6 +97,16 @@ constexpr GammaField kGammaFields[] = {
     {&Form::defaultImportGamma, &Settings::imageViewerDefaultImportGamma},
 };
 
+constexpr SoundField kSoundFields[] = {
+    {&Form::errorSoundPath, &Form::hearErrorSound},     {&Form::warningSoundPath, &Form::hearWarningSound},
+    {&Form::successSoundPath, &Form::hearSuccessSound}, {&Form::startSoundPath, &Form::hearStartSound},
+    {&Form::serviceSoundPath, &Form::hearServiceSound},
+};
+
+constexpr int kNetworkPage = 3;
+/// Shown when the preferences opened last; for as long as the program runs.
+int lastPage = 0;
+
 /// The fewest digits that read back as the same number.
 QString shortest(float number)
 {
@@ -96,6 +119,42 @@ QString shortest(float number)
 float gamma(const QString &text)
 {
     return readNumber(text).value_or(0.0F);
+}
+
+/// As a label on a disk would have it: "1.5 GB".
+QString sizeInWords(quint64 bytes)
+{
+    const auto most = quint64(std::numeric_limits<qint64>::max());
+    const QLocale locale = QLocale::system();
+    QString words = locale.formattedDataSize(qint64(std::min(bytes, most)), 1, QLocale::DataSizeSIFormat);
+    return words.remove(locale.decimalPoint() + locale.zeroDigit());
+}
+
+/// What a budget means, of a memory of so many bytes where that is known; nothing for what is no number.
+QString budgetInWords(const QString &text, quint64 memory)
+{
+    bool isNumber = false;
+    const quint64 budget = plainNumber(text).toULongLong(&isNumber);
+    if (!isNumber)
+        return {};
+    return memory == 0 ? sizeInWords(budget)
+                       : preferences::tr("%1 of %2", "budget, and what the machine has")
+                             .arg(sizeInWords(budget), sizeInWords(memory));
+}
+
+QString whySilent(SoundFault fault)
+{
+    switch (fault) {
+    case SoundFault::NoFile:
+        return preferences::tr("there is no such file");
+    case SoundFault::NotPlayable:
+        return preferences::tr("it is no WAV file that can be played");
+    case SoundFault::NoDevice:
+        return preferences::tr("there is no sound device");
+    case SoundFault::NoModule:
+        return preferences::tr("a part of the program is missing; install it again");
+    }
+    return {};
 }
 
 void pickFile(QLineEdit *field, const QString &filter)
@@ -120,10 +179,21 @@ void pickSound(QLineEdit *field)
 preferences::preferences(QWidget *parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Form>())
+    , m_checks(new FieldChecks(this))
+    , m_sounds(new SoundPlayer(this))
 {
     m_ui->setupUi(this);
     m_ui->imageViewerMode->installEventFilter(this);
-    connect(m_ui->dispatcherPort, &QLineEdit::textChanged, this, &preferences::checkPort);
+    connectPickers();
+    connectSounds();
+    connectNumbers();
+    m_ui->pageList->setCurrentRow(anySettingStored() ? lastPage : kNetworkPage);
+}
+
+preferences::~preferences() = default;
+
+void preferences::connectPickers()
+{
     connect(m_ui->pickImageViewer, &QToolButton::clicked, this, &preferences::selectViewer);
     connect(m_ui->pickErrorSound, &QToolButton::clicked, this, &preferences::selectErrorSound);
     connect(m_ui->pickWarningSound, &QToolButton::clicked, this, &preferences::selectWarningSound);
@@ -132,7 +202,36 @@ preferences::preferences(QWidget *parent)
     connect(m_ui->pickServiceSound, &QToolButton::clicked, this, &preferences::selectServiceSound);
 }
 
-preferences::~preferences() = default;
+void preferences::connectSounds()
+{
+    const QIcon icon(QStringLiteral(":/player/play.png"));
+    for (const SoundField &field : kSoundFields) {
+        const QLineEdit *path = *m_ui.*field.path;
+        QToolButton *button = *m_ui.*field.hear;
+        button->setIcon(icon);
+        button->setEnabled(false);
+        connect(path, &QLineEdit::textChanged, button,
+                [button](const QString &text) { button->setEnabled(!text.isEmpty()); });
+        connect(button, &QToolButton::clicked, this, [this, path] { hear(path->text()); });
+    }
+    connect(m_sounds, &SoundPlayer::failed, this, &preferences::tellWhySilent);
+}
+
+void preferences::connectNumbers()
+{
+    m_checks->watch(m_ui->gpuCacheLimit, &FieldChecks::checkBytes);
+    m_checks->watch(m_ui->ramCacheLimit, &FieldChecks::checkBytes);
+    m_checks->watch(m_ui->exrImportGamma, &FieldChecks::checkGamma);
+    m_checks->watch(m_ui->defaultImportGamma, &FieldChecks::checkGamma);
+    m_checks->watch(m_ui->dispatcherPort, &FieldChecks::checkPort);
+    const auto explain = [](const QLineEdit *budget, QLabel *meaning, quint64 memory) {
+        connect(budget, &QLineEdit::textChanged, meaning,
+                [=](const QString &text) { meaning->setText(budgetInWords(text, memory)); });
+    };
+    // How much video memory there is, no driver tells in a way that all share.
+    explain(m_ui->gpuCacheLimit, m_ui->gpuCacheMeaning, 0);
+    explain(m_ui->ramCacheLimit, m_ui->ramCacheMeaning, Machine::memorySize());
+}
 
 std::optional<Settings> preferences::edit(const Settings &current, QWidget *parent)
 {
@@ -154,10 +253,10 @@ Settings preferences::values(const Settings &current) const
     for (const TextField &field : kTextFields)
         settings.*field.member = (*m_ui.*field.widget)->text();
     for (const CacheField &field : kCacheFields)
-        settings.*field.member = (*m_ui.*field.widget)->text().toULongLong();
+        settings.*field.member = plainNumber((*m_ui.*field.widget)->text()).toULongLong();
     for (const GammaField &field : kGammaFields)
         settings.*field.member = gamma((*m_ui.*field.widget)->text());
-    settings.dispatcherPort = m_ui->dispatcherPort->text().toInt();
+    settings.dispatcherPort = plainNumber(m_ui->dispatcherPort->text()).toInt();
     settings.imageViewerMode = m_ui->imageViewerMode->currentIndex();
     return settings;
 }
@@ -177,12 +276,47 @@ void preferences::setValues(const Settings &settings)
     m_ui->imageViewerMode->setCurrentIndex(settings.imageViewerMode == 1 ? 1 : 0);
 }
 
-void preferences::checkPort(const QString &text)
+void preferences::accept()
 {
-    constexpr int kLastPort = 65'535;
-    const int port = text.toInt();
-    const bool isPort = port > 0 && port <= kLastPort;
-    markField(m_ui->dispatcherPort, isPort ? QString() : tr("A port is a number from 1 to 65535"));
+    QLineEdit *marked = m_checks->firstMarked();
+    if (!marked)
+        return QDialog::accept();
+    showField(marked);
+    FieldChecks::pointOut(marked);
+}
+
+void preferences::done(int result)
+{
+    lastPage = m_ui->pageList->currentRow();
+    if (isVisible() && size() != m_initialSize)
+        Remembered::setPreferencesSize(size());
+    QDialog::done(result);
+}
+
+void preferences::hear(const QString &path)
+{
+    m_ui->soundTrouble->hide();
+    m_sounds->clear();
+    m_sounds->play(path);
+}
+
+void preferences::tellWhySilent(const QString &path, SoundFault fault)
+{
+    m_ui->soundTrouble->setText(tr("Cannot play %1: %2").arg(shortened(path), whySilent(fault)));
+    m_ui->soundTrouble->show();
+    QAccessibleEvent told(m_ui->soundTrouble, QAccessible::Alert);
+    QAccessible::updateAccessibility(&told);
+}
+
+void preferences::showField(QLineEdit *field)
+{
+    for (int page = 0; page < m_ui->pages->count(); ++page) {
+        auto *area = qobject_cast<PageArea *>(m_ui->pages->widget(page));
+        if (!area || !area->isAncestorOf(field))
+            continue;
+        m_ui->pageList->setCurrentRow(page);
+        area->ensureWidgetVisible(field);
+    }
 }
 
 void preferences::selectViewer()
@@ -219,7 +353,7 @@ void preferences::selectServiceSound()
 void preferences::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous())
-        fitToScreen();
+        takePlace();
     QDialog::showEvent(event);
 }
 
@@ -233,8 +367,18 @@ bool preferences::eventFilter(QObject *object, QEvent *event)
     return QDialog::eventFilter(object, event);
 }
 
-void preferences::fitToScreen()
+void preferences::takePlace()
 {
+    PageArea::settleSizes(*this);
     const QScreen *where = parentWidget() ? parentWidget()->screen() : screen();
-    resize(size().boundedTo(where->availableSize().shrunkBy(frameOf(*this))));
+    const QSize remembered = Remembered::preferencesSize();
+    const QSize wanted = remembered.isEmpty() ? sizeHint().expandedTo({width(), 0}) : remembered;
+    const QSize room = where->availableSize().shrunkBy(frameOf(*this));
+    // Where a page needs more than the screen has, it scrolls sideways rather than that the window ends beyond the edge.
+    if (minimumSizeHint().width() > room.width()) {
+        layout()->setSizeConstraint(QLayout::SetNoConstraint);
+        setMinimumSize(0, 0);
+    }
+    resize(wanted.boundedTo(room));
+    m_initialSize = size();
 }

@@ -1,7 +1,5 @@
 #include "soundplayer.h"
 
-#include "soundeffects.h"
-
 #include <system/module.h>
 
 #include <utility>
@@ -29,10 +27,15 @@ void SoundPlayer::startWaiting()
         using Entry = SoundEffects *();
         const Module::Function entry = Module::function("tarrowsound", "tarrowSoundEffects");
         m_effects.reset(entry ? reinterpret_cast<Entry *>(entry)() : nullptr);
+        if (m_effects)
+            m_effects->setFaultHandler(
+                [this](const QString &path, SoundFault fault) { Q_EMIT failed(path, fault); });
     }
     for (const QString &path : waiting) {
         if (m_effects)
             m_effects->play(path);
+        else
+            Q_EMIT failed(path, SoundFault::NoModule);
     }
 }
 

@@ -1,14 +1,14 @@
 #pragma once
 
+#include "soundeffects.h"
+
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
 
 #include <memory>
 
-class SoundEffects;
-
-/// Plays sound files, fire and forget; one that cannot be played is silently left out. A sound that is asked for again
-/// while it plays starts anew. What it takes to play is loaded with the first sound.
+/// Plays sound files, fire and forget; one that cannot be played is left out, and told by a signal. A sound that is asked
+/// for again while it plays starts anew. What it takes to play is loaded with the first sound.
 class SoundPlayer final : public QObject {
     Q_OBJECT
 
@@ -20,6 +20,9 @@ public:
     void play(const QString &path);
     /// Forgets the files played so far, so that changed ones are read again.
     void clear();
+
+Q_SIGNALS:
+    void failed(const QString &path, SoundFault fault);
 
 private:
     void startWaiting();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -18,6 +19,8 @@ std::filesystem::path executable();
 std::filesystem::path userStateFolder();
 /// Gives the machine's name in the network, in UTF-8.
 std::string hostName();
+/// Gives the bytes of main memory that the machine has.
+std::uint64_t memorySize();
 /// Names the system as folders of compiled packages have it: "linux", "windows".
 std::string platformName();
 

@@ -4,17 +4,39 @@
 
 namespace {
 
-QString withPoint(QString text)
+QChar plainSign(QChar sign)
 {
-    return text.replace(u',', u'.');
+    if (sign.category() == QChar::Number_DecimalDigit)
+        return QChar(u'0' + sign.digitValue());
+    switch (sign.unicode()) {
+    case u',':
+    case u'\u066B': // Arabic
+    case u'\uFF0C': // the wide forms that Japanese input writes, down to its full stop
+    case u'\uFF0E':
+    case u'\u3002':
+        return u'.';
+    case u'\u2212':
+    case u'\uFF0D':
+        return u'-';
+    default:
+        return sign;
+    }
 }
 
 } // namespace
 
+QString plainNumber(const QString &text)
+{
+    QString plain = text;
+    for (QChar &sign : plain)
+        sign = plainSign(sign);
+    return plain;
+}
+
 std::optional<float> readNumber(const QString &text)
 {
     bool isNumber = false;
-    const float number = withPoint(text.trimmed()).toFloat(&isNumber);
+    const float number = plainNumber(text.trimmed()).toFloat(&isNumber);
     return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
@@ -29,6 +51,6 @@ NumberValidator::NumberValidator(double bottom, double top, int decimals, QObjec
 
 QValidator::State NumberValidator::validate(QString &text, int &position) const
 {
-    QString read = withPoint(text);
+    QString read = plainNumber(text);
     return QDoubleValidator::validate(read, position);
 }

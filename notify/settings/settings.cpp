@@ -65,6 +65,15 @@ LinkSettings Settings::link() const
             skipDirectoryAuthentication};
 }
 
+void Settings::setLink(const LinkSettings &link)
+{
+    dispatcherAddress = link.address;
+    dispatcherPort = link.port;
+    authenticationUser = link.user;
+    authenticationPassword = link.password;
+    skipDirectoryAuthentication = link.skipDirectoryAuthentication;
+}
+
 void CommandLineOverrides::applyTo(Settings &settings) const
 {
     settings.dispatcherAddress = server.value_or(settings.dispatcherAddress);

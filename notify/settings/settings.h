@@ -49,6 +49,7 @@ struct Settings {
     bool operator==(const Settings &) const = default;
 
     LinkSettings link() const;
+    void setLink(const LinkSettings &link);
 };
 
 /// Values given on the command line; they stand in for the stored ones until the program ends.

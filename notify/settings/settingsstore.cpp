@@ -44,13 +44,15 @@ struct Reader {
         const quint64 value = stored.toULongLong(&ok);
         return assign(member, value, ok);
     }
+    // An unquoted comma in a file edited by hand makes a list of a text; here it stands before decimals.
     bool operator()(float Settings::*member) const
     {
         bool ok = false;
-        const float value = stored.toFloat(&ok);
+        const bool isList = stored.typeId() == QMetaType::QStringList;
+        QString text = isList ? stored.toStringList().join(u'.') : stored.toString();
+        const float value = text.replace(u',', u'.').toFloat(&ok);
         return assign(member, value, ok && std::isfinite(value));
     }
-    // An unquoted comma in a file edited by hand makes a list of a text.
     bool operator()(QString Settings::*member) const { return assign(member, stored.toString(), isText()); }
     bool operator()(const SecretText &secret) const
     {

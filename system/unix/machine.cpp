@@ -47,6 +47,13 @@ std::string Machine::hostName()
     return buffer.data();
 }
 
+std::uint64_t Machine::memorySize()
+{
+    const long pages = sysconf(_SC_PHYS_PAGES);
+    const long size = sysconf(_SC_PAGESIZE);
+    return pages > 0 && size > 0 ? std::uint64_t(pages) * std::uint64_t(size) : 0;
+}
+
 std::chrono::milliseconds Machine::timeAsleep()
 {
 #ifdef CLOCK_BOOTTIME

@@ -57,6 +57,13 @@ std::string Machine::hostName()
     return utf8({buffer.data(), length});
 }
 
+std::uint64_t Machine::memorySize()
+{
+    MEMORYSTATUSEX status{};
+    status.dwLength = sizeof status;
+    return GlobalMemoryStatusEx(&status) ? status.ullTotalPhys : 0;
+}
+
 std::chrono::milliseconds Machine::timeAsleep()
 {
     ULONGLONG awake = 0; // in 100 ns

@@ -4,6 +4,7 @@
 #include <modals.h>
 #include <table.h>
 
+#include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QScreen>
 #include <QtGui/QWheelEvent>
@@ -16,6 +17,7 @@
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollArea>
 
@@ -58,7 +60,7 @@ private Q_SLOTS:
         QVERIFY(m_folder.isValid());
         for (const QString &name : {u"ping.wav"_s, u"viewer"_s}) {
             QFile file(m_folder.filePath(name));
-            QVERIFY(file.open(QIODevice::WriteOnly));
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray(1000, 'x')) == 1000);
         }
     }
 
@@ -178,6 +180,81 @@ private Q_SLOTS:
         }
     }
 
+    void numbersAreReadInAnyScript()
+    {
+        const std::pair<QString, QString> typed[] = {{u"exrImportGamma"_s, u"２。４"_s},
+                                                     {u"defaultImportGamma"_s, u"٠٫٥"_s},
+                                                     {u"dispatcherPort"_s, u"８０"_s},
+                                                     {u"ramCacheLimit"_s, u"１５００００００００"_s}};
+        for (const auto &[name, text] : typed)
+            child<QLineEdit>(name)->setText(text);
+        Settings expected;
+        expected.imageViewerExrImportGamma = 2.4F;
+        expected.imageViewerDefaultImportGamma = 0.5F;
+        expected.dispatcherPort = 80;
+        expected.imageViewerMaxRAMCache = 1'500'000'000;
+        QCOMPARE(m_dialog->values({}), expected);
+        const QString meaning = child<QLabel>(u"ramCacheMeaning"_s)->text();
+        QVERIFY2(meaning.startsWith(u"1.5 GB of "_s), qPrintable(meaning));
+        QCOMPARE(child<QLabel>(u"gpuCacheMeaning"_s)->text(), u"1 GB"_s);
+    }
+
+    void okGoesToTheFirstFieldThatCannotBeTaken()
+    {
+        const QSignalSpy accepted(m_dialog.get(), &QDialog::accepted);
+        auto *gamma = child<QLineEdit>(u"exrImportGamma"_s);
+        for (const QString &wrong : {u"2.2.2"_s, u"0"_s}) {
+            type(child<QLineEdit>(u"dispatcherPort"_s), u"65536"_s);
+            type(gamma, wrong);
+            click(child<QWidget>(u"errorSoundPath"_s));
+            QTest::keyClick(m_dialog.get(), Qt::Key_Return);
+            QVERIFY(m_dialog->isVisible() && gamma->isVisible());
+            QVERIFY(gamma->hasFocus() && !gamma->accessibleDescription().isEmpty());
+        }
+        QTest::keyClicks(gamma, u"2,4"_s); // what is wrong is selected
+        QTest::keyClick(m_dialog.get(), Qt::Key_Return);
+        QVERIFY(child<QLineEdit>(u"dispatcherPort"_s)->hasFocus());
+        QTest::keyClicks(m_dialog->focusWidget(), u"80"_s);
+        QCOMPARE(accepted.size(), 0);
+        QTest::keyClick(m_dialog.get(), Qt::Key_Return);
+        QCOMPARE(accepted.size(), 1);
+        QCOMPARE(m_dialog->values({}).imageViewerExrImportGamma, 2.4F);
+    }
+
+    void tellsWhySoundsAreNotHeard()
+    {
+        const QString noSound = m_folder.filePath(u"ping.wav"_s);
+        auto *path = child<QLineEdit>(u"warningSoundPath"_s);
+        auto *hear = child<QAbstractButton>(u"hearWarningSound"_s);
+        const auto *trouble = child<QLabel>(u"soundTrouble"_s);
+        click(hear);
+        QVERIFY(!hear->isEnabled());
+        for (const auto &[file, why] :
+             {std::pair(noSound, u"no WAV file"_s), {u"/gone.wav"_s, u"no such"_s}}) {
+            type(path, file);
+            click(hear);
+            QTRY_VERIFY2(trouble->isVisible() && trouble->text().contains(file)
+                             && trouble->text().contains(why),
+                         qPrintable(trouble->text()));
+        }
+    }
+
+    void comesUpAsItWasLeft()
+    {
+        const auto *pages = child<QListWidget>(u"pageList"_s);
+        QCOMPARE(pages->currentItem()->text(), u"Network"_s); // nothing is stored
+        QVERIFY(saveSettings(Settings()));
+        click(child<QWidget>(u"errorSoundPath"_s));
+        const QSize size = m_dialog->size() - QSize(0, 20);
+        m_dialog->resize(size);
+        QTRY_COMPARE(m_dialog->size(), size);
+        QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
+        init();
+        QCOMPARE(child<QListWidget>(u"pageList"_s)->currentItem()->text(), u"Sounds"_s);
+        QCOMPARE(m_dialog->size(), size);
+        QSettings().clear();
+    }
+
     void choosesTheViewerMode()
     {
         auto *mode = child<QComboBox>(u"imageViewerMode"_s);
@@ -252,10 +329,17 @@ private:
         return nullptr;
     }
 
-    /// Scrolls to the widget and clicks on its left end, where a check box has its mark.
+    /// Opens the widget's page, scrolls to it and clicks on its left end, where a check box has its mark.
     void click(QWidget *widget) const
     {
-        child<QScrollArea>(u"scrollArea"_s)->ensureWidgetVisible(widget);
+        const auto *pages = child<QListWidget>(u"pageList"_s);
+        for (int row = 0; row < pages->count() && !widget->isVisible(); ++row)
+            QTest::mouseClick(pages->viewport(), Qt::LeftButton, {},
+                              pages->visualItemRect(pages->item(row)).center());
+        for (QScrollArea *page : m_dialog->findChildren<QScrollArea *>()) {
+            if (page->isAncestorOf(widget))
+                page->ensureWidgetVisible(widget);
+        }
         QTest::mouseClick(widget, Qt::LeftButton, {}, {8, widget->height() / 2});
     }
 
@@ -275,6 +359,7 @@ int main(int argc, char **argv)
 {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
+    QCoreApplication::setOrganizationName(u"test"_s);
     TestPreferences test;
     return QTest::qExec(&test, argc, argv);
 }

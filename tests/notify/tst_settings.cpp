@@ -204,7 +204,8 @@ private Q_SLOTS:
         writeFile("stray line\n[network]\nauthenticationUser=bob\ndispatcherPort=98x3\nother=7\n"
                   "[behaviours]\nerrorSound=/a, b.wav\nshowBubble=maybe\nfilterJobStart=false\n"
                   "warningSound=@Rect(1 2 3 4)\n[imageViewer]\nimageViewerMaxGPUCache=-1\n"
-                  "imageViewerMaxRAMCache=5\nimageViewerExrImportGamma=nan\n[else\nwhere=1\n");
+                  "imageViewerMaxRAMCache=5\nimageViewerExrImportGamma=nan\n"
+                  "imageViewerDefaultImportGamma=1,8\n[else\nwhere=1\n");
         QTest::ignoreMessage(
             QtWarningMsg,
             QRegularExpression(
@@ -215,6 +216,7 @@ private Q_SLOTS:
         expected.authenticationUser = u"bob"_s;
         expected.filterJobStart = false;
         expected.imageViewerMaxRAMCache = 5;
+        expected.imageViewerDefaultImportGamma = 1.8F; // an editor's comma
         QCOMPARE(loadSettings(), expected);
 
         QVERIFY(saveSettings(expected));

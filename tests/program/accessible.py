@@ -11,12 +11,13 @@ ENVIRONMENT = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 NAMELESS = {
     pyatspi.ROLE_FILLER,
     pyatspi.ROLE_PANEL,
+    pyatspi.ROLE_LAYERED_PANE,
     pyatspi.ROLE_SCROLL_BAR,
     pyatspi.ROLE_DIALOG,
     pyatspi.ROLE_LABEL,
 }
 # What stands in a control of its own and is reached with the arrows there.
-PARTS = {pyatspi.ROLE_LIST, pyatspi.ROLE_LIST_ITEM, pyatspi.ROLE_TABLE_CELL, pyatspi.ROLE_MENU, pyatspi.ROLE_MENU_ITEM}
+PARTS = {pyatspi.ROLE_LIST_ITEM, pyatspi.ROLE_TABLE_CELL, pyatspi.ROLE_MENU, pyatspi.ROLE_MENU_ITEM}
 
 
 def window(title):
@@ -47,7 +48,7 @@ def shown_controls(top):
     for child in top:
         if child and showing(child):
             yield child
-            if child.getRole() not in PARTS | {pyatspi.ROLE_COMBO_BOX, pyatspi.ROLE_TREE}:
+            if child.getRole() not in PARTS | {pyatspi.ROLE_COMBO_BOX, pyatspi.ROLE_LIST, pyatspi.ROLE_TREE}:
                 yield from shown_controls(child)
 
 

@@ -5,7 +5,10 @@ import sys
 
 import accessible
 from desktop import WINDOW, alertor, choose_in_menu, xdotool
-from farmtest import EVENT, Program, check, equal, farm, run, wait_for, windows, write_settings
+from farmtest import EVENT, PRODUCT, Program, check, equal, farm, run, wait_for, windows, write_settings
+
+
+PAGES = 4
 
 
 def walk(title):
@@ -39,8 +42,17 @@ def test():
     program.expect(EVENT, int(night.expect(r"^sent (\d+) events$").group(1)))
     walk(WINDOW)
     choose_in_menu("c")
-    walk("Alertor Preferences")
+    xdotool("key", "Home")
+    for _page in range(PAGES):
+        walk("Alertor Preferences")  # and back to the list of pages
+        xdotool("key", "Down")
     xdotool("key", "Escape")
+    wait_for(lambda: not windows("Alertor Preferences"), "the preferences to close")
+    xdotool("windowactivate", "--sync", windows(WINDOW)[-1], "key", "alt+b")
+    wait_for(lambda: windows(PRODUCT), "the box about the program")
+    xdotool("windowactivate", "--sync", windows(PRODUCT)[-1], "key", "alt+s")
+    wait_for(lambda: windows("Set up the connection"), "the window that sets up the connection")
+    walk("Set up the connection")
     program.quit()
     viewer_is_walked()
 

@@ -9,7 +9,7 @@ import subprocess
 import wave
 
 from desktop import click_icon, client_windows, xdotool
-from farmtest import EVENT, PATIENCE, Failure, Program, check, client, run, wait_for, write_settings
+from farmtest import EVENT, PATIENCE, Failure, Program, check, client, run, wait_for, windows, write_settings
 
 RATE = 44100
 WINDOW = RATE // 20
@@ -86,6 +86,15 @@ def choose_silent():
     wait_for(lambda: len(client_windows()) == 1, "the menu to go")
 
 
+def play_in_the_preferences(page, tabs):
+    """From the list of pages, where the keys go first, to a button that plays a sound."""
+    click_icon(3, 1, lambda: len(client_windows()) == 2, "the tray menu")
+    xdotool("key", "c")
+    wait_for(lambda: windows("Alertor Preferences"), "the preferences")
+    xdotool("windowactivate", "--sync", *windows("Alertor Preferences"))
+    xdotool("key", "Home", *["Down"] * page, *["Tab"] * tabs, "space")
+
+
 def test():
     sounds = {f"{kind}Sound": write_sound(kind) for kind in LEVELS}
     write_settings({"behaviours": {**sounds, "filterJobStart": "false", "showBubble": "false"}})
@@ -106,6 +115,9 @@ def test():
             choose_silent()
             link.sendall(event("warning"))
             server.listen_for("warning")
+            play_in_the_preferences(1, 4)
+            server.listen_for("error")
+            xdotool("key", "Escape")
             alertor.quit()
     finally:
         server.stop()
