@@ -85,6 +85,49 @@
     </message>
 </context>
 <context>
+    <name>ConnectionTest</name>
+    <message>
+        <source>Connecting to %1…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connected to %1. Waiting whether it refuses the log-in of %2…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connected to %1 and logged in as %2: it did not refuse within 2 seconds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connected to %1, but it refused the log-in of %2. Check login and password.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name %1 is not known. Check the address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody listens at %1. Check the port, and whether the Dispatcher runs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No answer from %1 within 10 seconds. Check the address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What answers at %1 is no Dispatcher. Check the port.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connected to %1, but it hung up after the log-in of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot connect to %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DisplayControls</name>
     <message>
         <source>Background</source>
@@ -206,6 +249,119 @@ What the farm tells of your jobs appears here.</source>
     </message>
     <message>
         <source>Acknowledged just now</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FieldChecks</name>
+    <message>
+        <source>A port is a number from 1 to 65535</source>
+        <translation type="unfinished">ポート番号は 1～65535 の範囲で指定してください</translation>
+    </message>
+    <message>
+        <source>Enter a number of bytes, as digits alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A gamma is a number above 0, as 2.2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the name or the address of a machine</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FirstRun</name>
+    <message>
+        <source>&amp;Connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>completed with errors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>completed with warnings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>completed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>service activity or alert</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FirstRunClass</name>
+    <message>
+        <source>Set up the connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where is the farm&apos;s Dispatcher, and who are you? Ask whoever runs the farm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lo&amp;gin:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation type="unfinished">ログイン名</translation>
+    </message>
+    <message>
+        <source>Pass&amp;word:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation type="unfinished">パスワード</translation>
+    </message>
+    <message>
+        <source>&amp;Test the connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is stored by a test.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The icon in the system tray tells how the link stands and, in turn with that, the worst event that you have not looked at yet:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -454,10 +610,6 @@ What the farm tells of your jobs appears here.</source>
         <translation>キャリブレーション</translation>
     </message>
     <message>
-        <source>Show or hide the calibration</source>
-        <translation>キャリブレーションの表示/非表示</translation>
-    </message>
-    <message>
         <source>Picture</source>
         <translation>画像</translation>
     </message>
@@ -677,6 +829,49 @@ What the farm tells of your jobs appears here.</source>
         <source>Marked chunks; the right button copies them</source>
         <translation>マークしたチャンク。右クリックでコピーできます</translation>
     </message>
+    <message>
+        <source>Side panel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show or hide the calibration and what is known of the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drop images or a folder here, or open them with Ctrl+O</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frames per second that are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How much of the memory for frames is in use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frames of the sequence</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>IncompleteFrame</name>
+    <message>
+        <source>%1 of %2 chunks are damaged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 % written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation type="unfinished">%1: %2 {1,?}</translation>
+    </message>
 </context>
 <context>
     <name>LinkWords</name>
@@ -881,6 +1076,10 @@ Log: %3</source>
 
 ログ: %3</translation>
     </message>
+    <message>
+        <source>&amp;Set up the connection…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PendingCounts</name>
@@ -953,6 +1152,17 @@ Log: %3</source>
     <message>
         <source>Are you sure you want to set the default size and position for this dialog ?</source>
         <translation>現在のサイズと位置をこのダイアログの既定にしますか?</translation>
+    </message>
+</context>
+<context>
+    <name>QSkinnedDialogHeader</name>
+    <message>
+        <source>Double click: restore the window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag: move the window. Double click: maximise it</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1064,6 +1274,14 @@ Log: %3</source>
         <source>Play</source>
         <translation>再生</translation>
     </message>
+    <message>
+        <source>Stop (Space)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation type="unfinished">再生 (スペース)</translation>
+    </message>
 </context>
 <context>
     <name>Tray</name>
@@ -1165,8 +1383,29 @@ Right-click on this icon to access the context menu or double click to raise the
         <translation>すべてのファイル (*)</translation>
     </message>
     <message>
-        <source>A port is a number from 1 to 65535</source>
-        <translation>ポート番号は 1～65535 の範囲で指定してください</translation>
+        <source>%1 of %2</source>
+        <comment>budget, and what the machine has</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is no WAV file that can be played</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no sound device</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a part of the program is missing; install it again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot play %1: %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1385,6 +1624,46 @@ Right-click on this icon to access the context menu or double click to raise the
     </message>
     <message>
         <source>Keep the list above other windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notifications</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Viewer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the sound file for errors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the sound file for warnings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the sound file for successes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the sound file for starts of items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the sound file for service events</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show incomplete frames</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -1,7 +1,8 @@
 #include "headerbutton.h"
 
+#include "tintedicon.h"
+
 #include <QtCore/QEvent>
-#include <QtGui/QPainter>
 
 namespace {
 
@@ -35,15 +36,5 @@ void HeaderButton::changeEvent(QEvent *event)
 
 void HeaderButton::tint()
 {
-    QIcon icon;
-    for (const qreal ratio : {1.0, 2.0}) {
-        QPixmap drawn = m_drawing.pixmap(iconSize(), ratio);
-        QPainter painter(&drawn);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(QRect(QPoint(), iconSize()),
-                         palette().color(QPalette::Active, QPalette::ButtonText));
-        painter.end();
-        icon.addPixmap(drawn);
-    }
-    setIcon(icon);
+    setIcon(tintedIcon(m_drawing, iconSize(), palette().color(QPalette::Active, QPalette::ButtonText)));
 }
