@@ -104,6 +104,20 @@ private Q_SLOTS:
         QTRY_VERIFY(xuser::isManagedAndActive(parent));
     }
 
+    void enterSaysNoWhereThereIsMuchToLose()
+    {
+        whenModalOpens([](QWidget *box) {
+            QTRY_VERIFY(xuser::isManagedAndActive(*box));
+            xuser::key(QStringLiteral("Return"));
+        });
+        QVERIFY(!Box::confirm(nullptr, product::kProductTitle, QStringLiteral("Clear?")));
+        whenModalOpens([](QWidget *box) {
+            QTRY_VERIFY(xuser::isManagedAndActive(*box));
+            xuser::key(QStringLiteral("alt+y"));
+        });
+        QVERIFY(Box::confirm(nullptr, product::kProductTitle, QStringLiteral("Clear?")));
+    }
+
     void eachFunctionHasItsIcon()
     {
         const std::pair<decltype(&Box::question), QStyle::StandardPixmap> kinds[] = {
