@@ -59,12 +59,13 @@ EventColumns::EventColumns(QTreeView *view)
     , m_sortMenu(new QMenu(tr("&Sort by"), m_menu))
 {
     m_menu->setObjectName(QStringLiteral("columnsMenu"));
+    // While there are no columns: the last one would be measured.
+    view->header()->setStretchLastSection(false);
 }
 
 void EventColumns::setUp()
 {
     QHeaderView *header = m_view->header();
-    header->setStretchLastSection(false);
     header->setFirstSectionMovable(true);
     header->setTextElideMode(Qt::ElideRight);
     header->setMinimumSectionSize(kAcknowledgedWidth);
