@@ -204,11 +204,9 @@ void preferences::connectPickers()
 
 void preferences::connectSounds()
 {
-    const QIcon icon(QStringLiteral(":/player/play.png"));
     for (const SoundField &field : kSoundFields) {
         const QLineEdit *path = *m_ui.*field.path;
         QToolButton *button = *m_ui.*field.hear;
-        button->setIcon(icon);
         button->setEnabled(false);
         connect(path, &QLineEdit::textChanged, button,
                 [button](const QString &text) { button->setEnabled(!text.isEmpty()); });

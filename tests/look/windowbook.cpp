@@ -7,6 +7,7 @@
 #include <notify/alertor.h>
 #include <notify/events/eventbuilder.h>
 #include <notify/events/notifyevent.h>
+#include <notify/firstrun.h>
 #include <notify/messages.h>
 #include <notify/preferences.h>
 #include <notify/settings/settings.h>
@@ -93,6 +94,8 @@ void WindowBook::visitPreferences()
     preferences dialog;
     dialog.setValues(Settings());
     visitPages(QStringLiteral("preferences"), dialog);
+    FirstRun setup{LinkSettings()};
+    show(QStringLiteral("setup"), setup);
 }
 
 void WindowBook::visitBoxes()

@@ -48,7 +48,7 @@ def test():
         xdotool("key", "Down")
     xdotool("key", "Escape")
     wait_for(lambda: not windows("Alertor Preferences"), "the preferences to close")
-    xdotool("windowactivate", "--sync", windows(WINDOW)[-1], "key", "alt+b")
+    choose_in_menu("b")
     wait_for(lambda: windows(PRODUCT), "the box about the program")
     xdotool("windowactivate", "--sync", windows(PRODUCT)[-1], "key", "alt+s")
     wait_for(lambda: windows("Set up the connection"), "the window that sets up the connection")
