@@ -10,6 +10,7 @@
 #include <ui/numbertext.h>
 #include <ui/plaintext.h>
 #include <ui/windowplacement.h>
+#include <ui/tintedicon.h>
 
 #include <QtCore/QLocale>
 #include <QtCore/QPointer>
