@@ -24,7 +24,7 @@
     </message>
     <message>
         <source>Opens the menu of the tray icon and of this window (F10)</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet das Menü des Symbols im Infobereich und dieses Fensters (F10)</translation>
     </message>
 </context>
 <context>
@@ -88,43 +88,43 @@
     <name>ConnectionTest</name>
     <message>
         <source>Connecting to %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung zu %1 wird hergestellt …</translation>
     </message>
     <message>
         <source>Connected to %1. Waiting whether it refuses the log-in of %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbunden mit %1. Es wird gewartet, ob die Anmeldung von %2 abgelehnt wird …</translation>
     </message>
     <message>
         <source>Connected to %1 and logged in as %2: it did not refuse within 2 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbunden mit %1 und angemeldet als %2: keine Ablehnung innerhalb von 2 Sekunden.</translation>
     </message>
     <message>
         <source>Connected to %1, but it refused the log-in of %2. Check login and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbunden mit %1, aber die Anmeldung von %2 wurde abgelehnt. Prüfen Sie Anmeldename und Passwort.</translation>
     </message>
     <message>
         <source>The name %1 is not known. Check the address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name %1 ist nicht bekannt. Prüfen Sie die Adresse.</translation>
     </message>
     <message>
         <source>Nobody listens at %1. Check the port, and whether the Dispatcher runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter %1 nimmt niemand Verbindungen an. Prüfen Sie den Port und ob der Dispatcher läuft.</translation>
     </message>
     <message>
         <source>No answer from %1 within 10 seconds. Check the address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Antwort von %1 innerhalb von 10 Sekunden. Prüfen Sie die Adresse.</translation>
     </message>
     <message>
         <source>What answers at %1 is no Dispatcher. Check the port.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was unter %1 antwortet, ist kein Dispatcher. Prüfen Sie den Port.</translation>
     </message>
     <message>
         <source>Connected to %1, but it hung up after the log-in of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbunden mit %1, aber die Verbindung wurde nach der Anmeldung von %2 getrennt.</translation>
     </message>
     <message>
         <source>Cannot connect to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Verbindung zu %1: %2</translation>
     </message>
 </context>
 <context>
@@ -163,19 +163,19 @@ Was die Renderfarm von Ihren Jobs meldet, erscheint hier.</translation>
     <name>EventColumns</name>
     <message>
         <source>Co&amp;lumns</source>
-        <translation type="unfinished"></translation>
+        <translation>Spa&amp;lten</translation>
     </message>
     <message>
         <source>&amp;Sort by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sortieren nach</translation>
     </message>
     <message>
         <source>Order of arrival</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingangsreihenfolge</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zurücksetzen</translation>
     </message>
 </context>
 <context>
@@ -249,120 +249,120 @@ Was die Renderfarm von Ihren Jobs meldet, erscheint hier.</translation>
     </message>
     <message>
         <source>Acknowledged just now</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerade bestätigt</translation>
     </message>
 </context>
 <context>
     <name>FieldChecks</name>
     <message>
         <source>A port is a number from 1 to 65535</source>
-        <translation type="unfinished">Ein Port ist eine Zahl von 1 bis 65535</translation>
+        <translation>Ein Port ist eine Zahl von 1 bis 65535</translation>
     </message>
     <message>
         <source>Enter a number of bytes, as digits alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie eine Anzahl Bytes ein, nur mit Ziffern</translation>
     </message>
     <message>
         <source>A gamma is a number above 0, as 2.2</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma ist eine Zahl über 0, etwa 2.2</translation>
     </message>
     <message>
         <source>Enter the name or the address of a machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie den Namen oder die Adresse eines Rechners ein</translation>
     </message>
 </context>
 <context>
     <name>FirstRun</name>
     <message>
         <source>&amp;Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verbinden</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Späte&amp;r</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation>verbunden</translation>
     </message>
     <message>
         <source>connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung wird hergestellt</translation>
     </message>
     <message>
         <source>not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht verbunden</translation>
     </message>
     <message>
         <source>completed with errors</source>
-        <translation type="unfinished"></translation>
+        <translation>fertig mit Fehlern</translation>
     </message>
     <message>
         <source>completed with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>fertig mit Warnungen</translation>
     </message>
     <message>
         <source>completed</source>
-        <translation type="unfinished"></translation>
+        <translation>fertig</translation>
     </message>
     <message>
         <source>service activity or alert</source>
-        <translation type="unfinished"></translation>
+        <translation>Dienstaktivität oder Alarm</translation>
     </message>
 </context>
 <context>
     <name>FirstRunClass</name>
     <message>
         <source>Set up the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung einrichten</translation>
     </message>
     <message>
         <source>Where is the farm&apos;s Dispatcher, and who are you? Ask whoever runs the farm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo ist der Dispatcher der Renderfarm, und wer sind Sie? Fragen Sie, wer die Renderfarm betreibt.</translation>
     </message>
     <message>
         <source>&amp;Server:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Server:</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Server</translation>
     </message>
     <message>
         <source>&amp;Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Port:</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>Port</translation>
     </message>
     <message>
         <source>Lo&amp;gin:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anmeldename:</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished">Anmeldename</translation>
+        <translation>Anmeldename</translation>
     </message>
     <message>
         <source>Pass&amp;word:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pass&amp;wort:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished">Passwort</translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>&amp;Test the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung &amp;testen</translation>
     </message>
     <message>
         <source>Nothing is stored by a test.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Test speichert nichts.</translation>
     </message>
     <message>
         <source>The icon in the system tray tells how the link stands and, in turn with that, the worst event that you have not looked at yet:</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Symbol im Infobereich zeigt den Stand der Verbindung und im Wechsel damit das schwerwiegendste Ereignis, das Sie noch nicht angesehen haben:</translation>
     </message>
 </context>
 <context>
@@ -831,46 +831,46 @@ Was die Renderfarm von Ihren Jobs meldet, erscheint hier.</translation>
     </message>
     <message>
         <source>Side panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenleiste</translation>
     </message>
     <message>
         <source>Show or hide the calibration and what is known of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalibrierung und Angaben zur Datei zeigen oder verbergen</translation>
     </message>
     <message>
         <source>Drop images or a folder here, or open them with Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder oder einen Ordner hier ablegen oder mit Strg+O öffnen</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Frames per second that are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Angezeigte Frames pro Sekunde</translation>
     </message>
     <message>
         <source>How much of the memory for frames is in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Belegter Anteil des Speichers für Frames</translation>
     </message>
     <message>
         <source>Frames of the sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>Frames der Sequenz</translation>
     </message>
 </context>
 <context>
     <name>IncompleteFrame</name>
     <message>
         <source>%1 of %2 chunks are damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Chunks sind beschädigt</translation>
     </message>
     <message>
         <source>%1 % written</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;% geschrieben</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -1078,30 +1078,30 @@ Protokoll: %3</translation>
     </message>
     <message>
         <source>&amp;Set up the connection…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung &amp;einrichten …</translation>
     </message>
 </context>
 <context>
     <name>PendingCounts</name>
     <message>
         <source>%1. Click to see these alone, again to see all</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Ein Klick zeigt nur diese, ein weiterer wieder alle</translation>
     </message>
     <message>
         <source>Pending errors: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausstehende Fehler: %1</translation>
     </message>
     <message>
         <source>Pending warnings: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausstehende Warnungen: %1</translation>
     </message>
     <message>
         <source>Pending successes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausstehende Erfolge: %1</translation>
     </message>
     <message>
         <source>Pending service events: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausstehende Dienstereignisse: %1</translation>
     </message>
 </context>
 <context>
@@ -1158,11 +1158,11 @@ Protokoll: %3</translation>
     <name>QSkinnedDialogHeader</name>
     <message>
         <source>Double click: restore the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppelklick: Fenster wiederherstellen</translation>
     </message>
     <message>
         <source>Drag: move the window. Double click: maximise it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen: Fenster verschieben. Doppelklick: maximieren</translation>
     </message>
 </context>
 <context>
@@ -1234,11 +1234,11 @@ Protokoll: %3</translation>
     <name>StatusLine</name>
     <message>
         <source>Connect &amp;now</source>
-        <translation type="unfinished">Jetzt &amp;verbinden</translation>
+        <translation>Jetzt &amp;verbinden</translation>
     </message>
     <message>
         <source>Tries to connect to the Dispatcher at once</source>
-        <translation type="unfinished">Versucht sofort, sich mit dem Dispatcher zu verbinden</translation>
+        <translation>Versucht sofort, sich mit dem Dispatcher zu verbinden</translation>
     </message>
 </context>
 <context>
@@ -1276,11 +1276,11 @@ Protokoll: %3</translation>
     </message>
     <message>
         <source>Stop (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Anhalten (Leertaste)</translation>
     </message>
     <message>
         <source>Play (Space)</source>
-        <translation type="unfinished">Abspielen (Leertaste)</translation>
+        <translation>Abspielen (Leertaste)</translation>
     </message>
 </context>
 <context>
@@ -1342,11 +1342,11 @@ Ein Rechtsklick auf dieses Symbol öffnet das Kontextmenü, ein Doppelklick holt
     <name>WindowMenu</name>
     <message>
         <source>A&amp;bout</source>
-        <translation type="unfinished">Übe&amp;r</translation>
+        <translation>Übe&amp;r</translation>
     </message>
     <message>
         <source>Shows the version, and where the log is</source>
-        <translation type="unfinished">Zeigt die Version und wo das Protokoll liegt</translation>
+        <translation>Zeigt die Version und wo das Protokoll liegt</translation>
     </message>
 </context>
 <context>
@@ -1385,27 +1385,27 @@ Ein Rechtsklick auf dieses Symbol öffnet das Kontextmenü, ein Doppelklick holt
     <message>
         <source>%1 of %2</source>
         <comment>budget, and what the machine has</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei gibt es nicht</translation>
     </message>
     <message>
         <source>it is no WAV file that can be played</source>
-        <translation type="unfinished"></translation>
+        <translation>sie ist keine abspielbare WAV-Datei</translation>
     </message>
     <message>
         <source>there is no sound device</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt kein Audiogerät</translation>
     </message>
     <message>
         <source>a part of the program is missing; install it again</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Teil des Programms fehlt; installieren Sie es neu</translation>
     </message>
     <message>
         <source>Cannot play %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lässt sich nicht abspielen: %2</translation>
     </message>
 </context>
 <context>
@@ -1624,47 +1624,47 @@ Ein Rechtsklick auf dieses Symbol öffnet das Kontextmenü, ein Doppelklick holt
     </message>
     <message>
         <source>Keep the list above other windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste über anderen Fenstern halten</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten</translation>
     </message>
     <message>
         <source>Notifications</source>
-        <translation type="unfinished"></translation>
+        <translation>Benachrichtigungen</translation>
     </message>
     <message>
         <source>Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Betrachter</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk</translation>
     </message>
     <message>
         <source>Play the sound file for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Klangdatei für Fehler abspielen</translation>
     </message>
     <message>
         <source>Play the sound file for warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Klangdatei für Warnungen abspielen</translation>
     </message>
     <message>
         <source>Play the sound file for successes</source>
-        <translation type="unfinished"></translation>
+        <translation>Klangdatei für Erfolge abspielen</translation>
     </message>
     <message>
         <source>Play the sound file for starts of items</source>
-        <translation type="unfinished"></translation>
+        <translation>Klangdatei für den Start von Jobs und Chunks abspielen</translation>
     </message>
     <message>
         <source>Play the sound file for service events</source>
-        <translation type="unfinished"></translation>
+        <translation>Klangdatei für Dienstereignisse abspielen</translation>
     </message>
     <message>
         <source>Show incomplete frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Unvollständige Frames zeigen</translation>
     </message>
 </context>
 </TS>

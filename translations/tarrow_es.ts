@@ -24,7 +24,7 @@
     </message>
     <message>
         <source>Opens the menu of the tray icon and of this window (F10)</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre el menú del icono de la bandeja y de esta ventana (F10)</translation>
     </message>
 </context>
 <context>
@@ -88,43 +88,43 @@
     <name>ConnectionTest</name>
     <message>
         <source>Connecting to %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectando con %1…</translation>
     </message>
     <message>
         <source>Connected to %1. Waiting whether it refuses the log-in of %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectado con %1. Esperando por si rechaza el inicio de sesión de %2…</translation>
     </message>
     <message>
         <source>Connected to %1 and logged in as %2: it did not refuse within 2 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectado con %1 y sesión iniciada como %2: no hubo rechazo en 2 segundos.</translation>
     </message>
     <message>
         <source>Connected to %1, but it refused the log-in of %2. Check login and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectado con %1, pero rechazó el inicio de sesión de %2. Compruebe el usuario y la contraseña.</translation>
     </message>
     <message>
         <source>The name %1 is not known. Check the address.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se conoce el nombre %1. Compruebe la dirección.</translation>
     </message>
     <message>
         <source>Nobody listens at %1. Check the port, and whether the Dispatcher runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nadie escucha en %1. Compruebe el puerto y que el Dispatcher esté en marcha.</translation>
     </message>
     <message>
         <source>No answer from %1 within 10 seconds. Check the address.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no respondió en 10 segundos. Compruebe la dirección.</translation>
     </message>
     <message>
         <source>What answers at %1 is no Dispatcher. Check the port.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que responde en %1 no es un Dispatcher. Compruebe el puerto.</translation>
     </message>
     <message>
         <source>Connected to %1, but it hung up after the log-in of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectado con %1, pero cortó la conexión tras el inicio de sesión de %2.</translation>
     </message>
     <message>
         <source>Cannot connect to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede conectar con %1: %2</translation>
     </message>
 </context>
 <context>
@@ -163,19 +163,19 @@ Lo que la granja de render comunique sobre sus trabajos aparecerá aquí.</trans
     <name>EventColumns</name>
     <message>
         <source>Co&amp;lumns</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;lumnas</translation>
     </message>
     <message>
         <source>&amp;Sort by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordenar por</translation>
     </message>
     <message>
         <source>Order of arrival</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de llegada</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restablecer</translation>
     </message>
 </context>
 <context>
@@ -249,120 +249,120 @@ Lo que la granja de render comunique sobre sus trabajos aparecerá aquí.</trans
     </message>
     <message>
         <source>Acknowledged just now</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmado ahora mismo</translation>
     </message>
 </context>
 <context>
     <name>FieldChecks</name>
     <message>
         <source>A port is a number from 1 to 65535</source>
-        <translation type="unfinished">Un puerto es un número de 1 a 65535</translation>
+        <translation>Un puerto es un número de 1 a 65535</translation>
     </message>
     <message>
         <source>Enter a number of bytes, as digits alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca un número de bytes, solo con cifras</translation>
     </message>
     <message>
         <source>A gamma is a number above 0, as 2.2</source>
-        <translation type="unfinished"></translation>
+        <translation>El gamma es un número mayor que 0, como 2.2</translation>
     </message>
     <message>
         <source>Enter the name or the address of a machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca el nombre o la dirección de un equipo</translation>
     </message>
 </context>
 <context>
     <name>FirstRun</name>
     <message>
         <source>&amp;Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Conectar</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Más tarde</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation>conectado</translation>
     </message>
     <message>
         <source>connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>conectando</translation>
     </message>
     <message>
         <source>not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>no conectado</translation>
     </message>
     <message>
         <source>completed with errors</source>
-        <translation type="unfinished"></translation>
+        <translation>terminado con errores</translation>
     </message>
     <message>
         <source>completed with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>terminado con avisos</translation>
     </message>
     <message>
         <source>completed</source>
-        <translation type="unfinished"></translation>
+        <translation>terminado</translation>
     </message>
     <message>
         <source>service activity or alert</source>
-        <translation type="unfinished"></translation>
+        <translation>actividad de servicio o alerta</translation>
     </message>
 </context>
 <context>
     <name>FirstRunClass</name>
     <message>
         <source>Set up the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurar la conexión</translation>
     </message>
     <message>
         <source>Where is the farm&apos;s Dispatcher, and who are you? Ask whoever runs the farm.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Dónde está el Dispatcher de la granja de render y quién es usted? Pregunte a quien administra la granja.</translation>
     </message>
     <message>
         <source>&amp;Server:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Servidor:</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Servidor</translation>
     </message>
     <message>
         <source>&amp;Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Puerto:</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerto</translation>
     </message>
     <message>
         <source>Lo&amp;gin:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usuario:</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished">Usuario</translation>
+        <translation>Usuario</translation>
     </message>
     <message>
         <source>Pass&amp;word:</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;ntraseña:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished">Contraseña</translation>
+        <translation>Contraseña</translation>
     </message>
     <message>
         <source>&amp;Test the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;robar la conexión</translation>
     </message>
     <message>
         <source>Nothing is stored by a test.</source>
-        <translation type="unfinished"></translation>
+        <translation>La prueba no guarda nada.</translation>
     </message>
     <message>
         <source>The icon in the system tray tells how the link stands and, in turn with that, the worst event that you have not looked at yet:</source>
-        <translation type="unfinished"></translation>
+        <translation>El icono de la bandeja del sistema muestra el estado de la conexión y, alternando con él, el evento más grave que aún no ha visto:</translation>
     </message>
 </context>
 <context>
@@ -831,46 +831,46 @@ Lo que la granja de render comunique sobre sus trabajos aparecerá aquí.</trans
     </message>
     <message>
         <source>Side panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Panel lateral</translation>
     </message>
     <message>
         <source>Show or hide the calibration and what is known of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar u ocultar la calibración y los datos del archivo</translation>
     </message>
     <message>
         <source>Drop images or a folder here, or open them with Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Suelte aquí imágenes o una carpeta, o ábralas con Ctrl+O</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Frames per second that are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogramas por segundo que se muestran</translation>
     </message>
     <message>
         <source>How much of the memory for frames is in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte en uso de la memoria para fotogramas</translation>
     </message>
     <message>
         <source>Frames of the sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogramas de la secuencia</translation>
     </message>
 </context>
 <context>
     <name>IncompleteFrame</name>
     <message>
         <source>%1 of %2 chunks are damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 chunks están dañados</translation>
     </message>
     <message>
         <source>%1 % written</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;% escrito</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -1078,30 +1078,30 @@ Registro: %3</translation>
     </message>
     <message>
         <source>&amp;Set up the connection…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Configurar la conexión…</translation>
     </message>
 </context>
 <context>
     <name>PendingCounts</name>
     <message>
         <source>%1. Click to see these alone, again to see all</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Haga clic para ver solo estos y otra vez para verlos todos</translation>
     </message>
     <message>
         <source>Pending errors: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Errores pendientes: %1</translation>
     </message>
     <message>
         <source>Pending warnings: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Avisos pendientes: %1</translation>
     </message>
     <message>
         <source>Pending successes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Éxitos pendientes: %1</translation>
     </message>
     <message>
         <source>Pending service events: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eventos de servicio pendientes: %1</translation>
     </message>
 </context>
 <context>
@@ -1158,11 +1158,11 @@ Registro: %3</translation>
     <name>QSkinnedDialogHeader</name>
     <message>
         <source>Double click: restore the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Doble clic: restaurar la ventana</translation>
     </message>
     <message>
         <source>Drag: move the window. Double click: maximise it</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastrar: mover la ventana. Doble clic: maximizarla</translation>
     </message>
 </context>
 <context>
@@ -1234,11 +1234,11 @@ Registro: %3</translation>
     <name>StatusLine</name>
     <message>
         <source>Connect &amp;now</source>
-        <translation type="unfinished">Conectar a&amp;hora</translation>
+        <translation>Conectar a&amp;hora</translation>
     </message>
     <message>
         <source>Tries to connect to the Dispatcher at once</source>
-        <translation type="unfinished">Intenta conectarse al Dispatcher de inmediato</translation>
+        <translation>Intenta conectarse al Dispatcher de inmediato</translation>
     </message>
 </context>
 <context>
@@ -1276,11 +1276,11 @@ Registro: %3</translation>
     </message>
     <message>
         <source>Stop (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener (Espacio)</translation>
     </message>
     <message>
         <source>Play (Space)</source>
-        <translation type="unfinished">Reproducir (Espacio)</translation>
+        <translation>Reproducir (Espacio)</translation>
     </message>
 </context>
 <context>
@@ -1342,11 +1342,11 @@ Haga clic derecho en este icono para abrir el menú o doble clic para mostrar la
     <name>WindowMenu</name>
     <message>
         <source>A&amp;bout</source>
-        <translation type="unfinished">&amp;Acerca de</translation>
+        <translation>Ac&amp;erca de</translation>
     </message>
     <message>
         <source>Shows the version, and where the log is</source>
-        <translation type="unfinished">Muestra la versión y dónde está el registro</translation>
+        <translation>Muestra la versión y dónde está el registro</translation>
     </message>
 </context>
 <context>
@@ -1385,27 +1385,27 @@ Haga clic derecho en este icono para abrir el menú o doble clic para mostrar la
     <message>
         <source>%1 of %2</source>
         <comment>budget, and what the machine has</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo no existe</translation>
     </message>
     <message>
         <source>it is no WAV file that can be played</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo WAV que se pueda reproducir</translation>
     </message>
     <message>
         <source>there is no sound device</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ningún dispositivo de sonido</translation>
     </message>
     <message>
         <source>a part of the program is missing; install it again</source>
-        <translation type="unfinished"></translation>
+        <translation>falta una parte del programa; vuelva a instalarlo</translation>
     </message>
     <message>
         <source>Cannot play %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede reproducir %1: %2</translation>
     </message>
 </context>
 <context>
@@ -1624,47 +1624,47 @@ Haga clic derecho en este icono para abrir el menú o doble clic para mostrar la
     </message>
     <message>
         <source>Keep the list above other windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantener la lista sobre las demás ventanas</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas</translation>
     </message>
     <message>
         <source>Notifications</source>
-        <translation type="unfinished"></translation>
+        <translation>Notificaciones</translation>
     </message>
     <message>
         <source>Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Visor</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Red</translation>
     </message>
     <message>
         <source>Play the sound file for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir el archivo de sonido para errores</translation>
     </message>
     <message>
         <source>Play the sound file for warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir el archivo de sonido para avisos</translation>
     </message>
     <message>
         <source>Play the sound file for successes</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir el archivo de sonido para éxitos</translation>
     </message>
     <message>
         <source>Play the sound file for starts of items</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir el archivo de sonido para inicios</translation>
     </message>
     <message>
         <source>Play the sound file for service events</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir el archivo de sonido para eventos de servicio</translation>
     </message>
     <message>
         <source>Show incomplete frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar fotogramas incompletos</translation>
     </message>
 </context>
 </TS>

@@ -24,7 +24,7 @@
     </message>
     <message>
         <source>Opens the menu of the tray icon and of this window (F10)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre le menu de l&apos;icône de notification et de cette fenêtre (F10)</translation>
     </message>
 </context>
 <context>
@@ -88,43 +88,43 @@
     <name>ConnectionTest</name>
     <message>
         <source>Connecting to %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion à %1…</translation>
     </message>
     <message>
         <source>Connected to %1. Waiting whether it refuses the log-in of %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecté à %1. Attente d&apos;un éventuel refus de l&apos;authentification de %2…</translation>
     </message>
     <message>
         <source>Connected to %1 and logged in as %2: it did not refuse within 2 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecté à %1 et authentifié en tant que %2&#xa0;: aucun refus en 2 secondes.</translation>
     </message>
     <message>
         <source>Connected to %1, but it refused the log-in of %2. Check login and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecté à %1, mais l&apos;authentification de %2 a été refusée. Vérifiez l&apos;identifiant et le mot de passe.</translation>
     </message>
     <message>
         <source>The name %1 is not known. Check the address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom %1 est inconnu. Vérifiez l&apos;adresse.</translation>
     </message>
     <message>
         <source>Nobody listens at %1. Check the port, and whether the Dispatcher runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Personne n&apos;écoute à l&apos;adresse %1. Vérifiez le port et que le Dispatcher fonctionne.</translation>
     </message>
     <message>
         <source>No answer from %1 within 10 seconds. Check the address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune réponse de %1 en 10 secondes. Vérifiez l&apos;adresse.</translation>
     </message>
     <message>
         <source>What answers at %1 is no Dispatcher. Check the port.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui répond à l&apos;adresse %1 n&apos;est pas un Dispatcher. Vérifiez le port.</translation>
     </message>
     <message>
         <source>Connected to %1, but it hung up after the log-in of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecté à %1, mais la connexion a été coupée après l&apos;authentification de %2.</translation>
     </message>
     <message>
         <source>Cannot connect to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de se connecter à %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -163,19 +163,19 @@ Ce que la ferme de rendu signale au sujet de vos jobs apparaît ici.</translatio
     <name>EventColumns</name>
     <message>
         <source>Co&amp;lumns</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;lonnes</translation>
     </message>
     <message>
         <source>&amp;Sort by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trier par</translation>
     </message>
     <message>
         <source>Order of arrival</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre d&apos;arrivée</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Réinitialiser</translation>
     </message>
 </context>
 <context>
@@ -249,120 +249,120 @@ Ce que la ferme de rendu signale au sujet de vos jobs apparaît ici.</translatio
     </message>
     <message>
         <source>Acknowledged just now</source>
-        <translation type="unfinished"></translation>
+        <translation>Acquitté à l&apos;instant</translation>
     </message>
 </context>
 <context>
     <name>FieldChecks</name>
     <message>
         <source>A port is a number from 1 to 65535</source>
-        <translation type="unfinished">Un port est un nombre de 1 à 65535</translation>
+        <translation>Un port est un nombre de 1 à 65535</translation>
     </message>
     <message>
         <source>Enter a number of bytes, as digits alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez un nombre d&apos;octets, en chiffres uniquement</translation>
     </message>
     <message>
         <source>A gamma is a number above 0, as 2.2</source>
-        <translation type="unfinished"></translation>
+        <translation>Le gamma est un nombre supérieur à 0, par exemple 2.2</translation>
     </message>
     <message>
         <source>Enter the name or the address of a machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez le nom ou l&apos;adresse d&apos;un ordinateur</translation>
     </message>
 </context>
 <context>
     <name>FirstRun</name>
     <message>
         <source>&amp;Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Se &amp;connecter</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus &amp;tard</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation>connecté</translation>
     </message>
     <message>
         <source>connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>connexion en cours</translation>
     </message>
     <message>
         <source>not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>non connecté</translation>
     </message>
     <message>
         <source>completed with errors</source>
-        <translation type="unfinished"></translation>
+        <translation>terminé avec erreurs</translation>
     </message>
     <message>
         <source>completed with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>terminé avec avertissements</translation>
     </message>
     <message>
         <source>completed</source>
-        <translation type="unfinished"></translation>
+        <translation>terminé</translation>
     </message>
     <message>
         <source>service activity or alert</source>
-        <translation type="unfinished"></translation>
+        <translation>activité de service ou alerte</translation>
     </message>
 </context>
 <context>
     <name>FirstRunClass</name>
     <message>
         <source>Set up the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurer la connexion</translation>
     </message>
     <message>
         <source>Where is the farm&apos;s Dispatcher, and who are you? Ask whoever runs the farm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où se trouve le Dispatcher de la ferme de rendu, et qui êtes-vous&#xa0;? Demandez à qui gère la ferme.</translation>
     </message>
     <message>
         <source>&amp;Server:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Serveur&#xa0;:</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveur</translation>
     </message>
     <message>
         <source>&amp;Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Port&#xa0;:</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>Port</translation>
     </message>
     <message>
         <source>Lo&amp;gin:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Identifiant&#xa0;:</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished">Identifiant</translation>
+        <translation>Identifiant</translation>
     </message>
     <message>
         <source>Pass&amp;word:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mot de passe&#xa0;:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished">Mot de passe</translation>
+        <translation>Mot de passe</translation>
     </message>
     <message>
         <source>&amp;Test the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;ester la connexion</translation>
     </message>
     <message>
         <source>Nothing is stored by a test.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un test n&apos;enregistre rien.</translation>
     </message>
     <message>
         <source>The icon in the system tray tells how the link stands and, in turn with that, the worst event that you have not looked at yet:</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;icône de la zone de notification indique l&apos;état de la connexion et, en alternance, l&apos;événement le plus grave que vous n&apos;avez pas encore consulté&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -831,46 +831,46 @@ Ce que la ferme de rendu signale au sujet de vos jobs apparaît ici.</translatio
     </message>
     <message>
         <source>Side panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Panneau latéral</translation>
     </message>
     <message>
         <source>Show or hide the calibration and what is known of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher ou masquer l&apos;étalonnage et les informations du fichier</translation>
     </message>
     <message>
         <source>Drop images or a folder here, or open them with Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposez ici des images ou un dossier, ou ouvrez-les avec Ctrl+O</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier</translation>
     </message>
     <message>
         <source>Frames per second that are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Images affichées par seconde</translation>
     </message>
     <message>
         <source>How much of the memory for frames is in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Part utilisée de la mémoire destinée aux images</translation>
     </message>
     <message>
         <source>Frames of the sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>Images de la séquence</translation>
     </message>
 </context>
 <context>
     <name>IncompleteFrame</name>
     <message>
         <source>%1 of %2 chunks are damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 chunks sur %2 sont endommagés</translation>
     </message>
     <message>
         <source>%1 % written</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;% écrit</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1&#xa0;: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -1078,30 +1078,30 @@ Journal&#xa0;: %3</translation>
     </message>
     <message>
         <source>&amp;Set up the connection…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Configurer la connexion…</translation>
     </message>
 </context>
 <context>
     <name>PendingCounts</name>
     <message>
         <source>%1. Click to see these alone, again to see all</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Cliquez pour n&apos;afficher que cette catégorie, de nouveau pour tout afficher</translation>
     </message>
     <message>
         <source>Pending errors: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreurs en attente&#xa0;: %1</translation>
     </message>
     <message>
         <source>Pending warnings: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissements en attente&#xa0;: %1</translation>
     </message>
     <message>
         <source>Pending successes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Succès en attente&#xa0;: %1</translation>
     </message>
     <message>
         <source>Pending service events: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Événements de service en attente&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1158,11 +1158,11 @@ Journal&#xa0;: %3</translation>
     <name>QSkinnedDialogHeader</name>
     <message>
         <source>Double click: restore the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Double-clic&#xa0;: restaurer la fenêtre</translation>
     </message>
     <message>
         <source>Drag: move the window. Double click: maximise it</source>
-        <translation type="unfinished"></translation>
+        <translation>Glisser&#xa0;: déplacer la fenêtre. Double-clic&#xa0;: l&apos;agrandir</translation>
     </message>
 </context>
 <context>
@@ -1234,11 +1234,11 @@ Journal&#xa0;: %3</translation>
     <name>StatusLine</name>
     <message>
         <source>Connect &amp;now</source>
-        <translation type="unfinished">Se co&amp;nnecter maintenant</translation>
+        <translation>Se co&amp;nnecter maintenant</translation>
     </message>
     <message>
         <source>Tries to connect to the Dispatcher at once</source>
-        <translation type="unfinished">Essaie de se connecter immédiatement au Dispatcher</translation>
+        <translation>Essaie de se connecter immédiatement au Dispatcher</translation>
     </message>
 </context>
 <context>
@@ -1276,11 +1276,11 @@ Journal&#xa0;: %3</translation>
     </message>
     <message>
         <source>Stop (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter (Espace)</translation>
     </message>
     <message>
         <source>Play (Space)</source>
-        <translation type="unfinished">Lire (Espace)</translation>
+        <translation>Lire (Espace)</translation>
     </message>
 </context>
 <context>
@@ -1342,11 +1342,11 @@ Cliquez avec le bouton droit sur cette icône pour le menu contextuel ou double-
     <name>WindowMenu</name>
     <message>
         <source>A&amp;bout</source>
-        <translation type="unfinished">À &amp;propos</translation>
+        <translation>À &amp;propos</translation>
     </message>
     <message>
         <source>Shows the version, and where the log is</source>
-        <translation type="unfinished">Affiche la version et l&apos;emplacement du journal</translation>
+        <translation>Affiche la version et l&apos;emplacement du journal</translation>
     </message>
 </context>
 <context>
@@ -1385,27 +1385,27 @@ Cliquez avec le bouton droit sur cette icône pour le menu contextuel ou double-
     <message>
         <source>%1 of %2</source>
         <comment>budget, and what the machine has</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier n&apos;existe pas</translation>
     </message>
     <message>
         <source>it is no WAV file that can be played</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n&apos;est pas un fichier WAV lisible</translation>
     </message>
     <message>
         <source>there is no sound device</source>
-        <translation type="unfinished"></translation>
+        <translation>il n&apos;y a pas de périphérique audio</translation>
     </message>
     <message>
         <source>a part of the program is missing; install it again</source>
-        <translation type="unfinished"></translation>
+        <translation>une partie du programme manque&#xa0;; réinstallez-le</translation>
     </message>
     <message>
         <source>Cannot play %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1624,47 +1624,47 @@ Cliquez avec le bouton droit sur cette icône pour le menu contextuel ou double-
     </message>
     <message>
         <source>Keep the list above other windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder la liste au-dessus des autres fenêtres</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages</translation>
     </message>
     <message>
         <source>Notifications</source>
-        <translation type="unfinished"></translation>
+        <translation>Notifications</translation>
     </message>
     <message>
         <source>Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Visionneuse</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau</translation>
     </message>
     <message>
         <source>Play the sound file for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire le fichier son pour les erreurs</translation>
     </message>
     <message>
         <source>Play the sound file for warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire le fichier son pour les avertissements</translation>
     </message>
     <message>
         <source>Play the sound file for successes</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire le fichier son pour les succès</translation>
     </message>
     <message>
         <source>Play the sound file for starts of items</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire le fichier son pour les débuts</translation>
     </message>
     <message>
         <source>Play the sound file for service events</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire le fichier son pour les événements de service</translation>
     </message>
     <message>
         <source>Show incomplete frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les images incomplètes</translation>
     </message>
 </context>
 </TS>

@@ -24,7 +24,7 @@
     </message>
     <message>
         <source>Opens the menu of the tray icon and of this window (F10)</source>
-        <translation type="unfinished"></translation>
+        <translation>Apre il menu dell&apos;icona di notifica e di questa finestra (F10)</translation>
     </message>
 </context>
 <context>
@@ -88,43 +88,43 @@
     <name>ConnectionTest</name>
     <message>
         <source>Connecting to %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Connessione a %1…</translation>
     </message>
     <message>
         <source>Connected to %1. Waiting whether it refuses the log-in of %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>Connesso a %1. Attesa di un eventuale rifiuto dell&apos;accesso di %2…</translation>
     </message>
     <message>
         <source>Connected to %1 and logged in as %2: it did not refuse within 2 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Connesso a %1 con accesso come %2: nessun rifiuto entro 2 secondi.</translation>
     </message>
     <message>
         <source>Connected to %1, but it refused the log-in of %2. Check login and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Connesso a %1, ma l&apos;accesso di %2 è stato rifiutato. Controllare nome utente e password.</translation>
     </message>
     <message>
         <source>The name %1 is not known. Check the address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il nome %1 è sconosciuto. Controllare l&apos;indirizzo.</translation>
     </message>
     <message>
         <source>Nobody listens at %1. Check the port, and whether the Dispatcher runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno è in ascolto su %1. Controllare la porta e che il Dispatcher sia in esecuzione.</translation>
     </message>
     <message>
         <source>No answer from %1 within 10 seconds. Check the address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna risposta da %1 entro 10 secondi. Controllare l&apos;indirizzo.</translation>
     </message>
     <message>
         <source>What answers at %1 is no Dispatcher. Check the port.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciò che risponde su %1 non è un Dispatcher. Controllare la porta.</translation>
     </message>
     <message>
         <source>Connected to %1, but it hung up after the log-in of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Connesso a %1, ma la connessione è stata chiusa dopo l&apos;accesso di %2.</translation>
     </message>
     <message>
         <source>Cannot connect to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile connettersi a %1: %2</translation>
     </message>
 </context>
 <context>
@@ -163,19 +163,19 @@ Ciò che la render farm comunica sui propri job appare qui.</translation>
     <name>EventColumns</name>
     <message>
         <source>Co&amp;lumns</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;lonne</translation>
     </message>
     <message>
         <source>&amp;Sort by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordina per</translation>
     </message>
     <message>
         <source>Order of arrival</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordine di arrivo</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reimposta</translation>
     </message>
 </context>
 <context>
@@ -249,120 +249,120 @@ Ciò che la render farm comunica sui propri job appare qui.</translation>
     </message>
     <message>
         <source>Acknowledged just now</source>
-        <translation type="unfinished"></translation>
+        <translation>Confermato adesso</translation>
     </message>
 </context>
 <context>
     <name>FieldChecks</name>
     <message>
         <source>A port is a number from 1 to 65535</source>
-        <translation type="unfinished">Una porta è un numero da 1 a 65535</translation>
+        <translation>Una porta è un numero da 1 a 65535</translation>
     </message>
     <message>
         <source>Enter a number of bytes, as digits alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserire un numero di byte, solo in cifre</translation>
     </message>
     <message>
         <source>A gamma is a number above 0, as 2.2</source>
-        <translation type="unfinished"></translation>
+        <translation>Il gamma è un numero maggiore di 0, ad esempio 2.2</translation>
     </message>
     <message>
         <source>Enter the name or the address of a machine</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserire il nome o l&apos;indirizzo di un computer</translation>
     </message>
 </context>
 <context>
     <name>FirstRun</name>
     <message>
         <source>&amp;Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Connetti</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Più &amp;tardi</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation>connesso</translation>
     </message>
     <message>
         <source>connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>connessione in corso</translation>
     </message>
     <message>
         <source>not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>non connesso</translation>
     </message>
     <message>
         <source>completed with errors</source>
-        <translation type="unfinished"></translation>
+        <translation>completato con errori</translation>
     </message>
     <message>
         <source>completed with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>completato con avvisi</translation>
     </message>
     <message>
         <source>completed</source>
-        <translation type="unfinished"></translation>
+        <translation>completato</translation>
     </message>
     <message>
         <source>service activity or alert</source>
-        <translation type="unfinished"></translation>
+        <translation>attività di servizio o allarme</translation>
     </message>
 </context>
 <context>
     <name>FirstRunClass</name>
     <message>
         <source>Set up the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Configura la connessione</translation>
     </message>
     <message>
         <source>Where is the farm&apos;s Dispatcher, and who are you? Ask whoever runs the farm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dove si trova il Dispatcher della render farm, e con quale nome utente si accede? Chiedere a chi gestisce la render farm.</translation>
     </message>
     <message>
         <source>&amp;Server:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Server:</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Server</translation>
     </message>
     <message>
         <source>&amp;Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Porta:</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>Porta</translation>
     </message>
     <message>
         <source>Lo&amp;gin:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nome utente:</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished">Nome utente</translation>
+        <translation>Nome utente</translation>
     </message>
     <message>
         <source>Pass&amp;word:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pass&amp;word:</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished">Password</translation>
+        <translation>Password</translation>
     </message>
     <message>
         <source>&amp;Test the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro&amp;va la connessione</translation>
     </message>
     <message>
         <source>Nothing is stored by a test.</source>
-        <translation type="unfinished"></translation>
+        <translation>La prova non salva nulla.</translation>
     </message>
     <message>
         <source>The icon in the system tray tells how the link stands and, in turn with that, the worst event that you have not looked at yet:</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;icona nell&apos;area di notifica mostra lo stato della connessione e, in alternanza, l&apos;evento più grave non ancora visto:</translation>
     </message>
 </context>
 <context>
@@ -831,46 +831,46 @@ Ciò che la render farm comunica sui propri job appare qui.</translation>
     </message>
     <message>
         <source>Side panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Pannello laterale</translation>
     </message>
     <message>
         <source>Show or hide the calibration and what is known of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra o nasconde la calibrazione e i dati del file</translation>
     </message>
     <message>
         <source>Drop images or a folder here, or open them with Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascinare qui immagini o una cartella, oppure aprirle con Ctrl+O</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>Frames per second that are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogrammi al secondo mostrati</translation>
     </message>
     <message>
         <source>How much of the memory for frames is in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte in uso della memoria per i fotogrammi</translation>
     </message>
     <message>
         <source>Frames of the sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogrammi della sequenza</translation>
     </message>
 </context>
 <context>
     <name>IncompleteFrame</name>
     <message>
         <source>%1 of %2 chunks are damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 chunk su %2 sono danneggiati</translation>
     </message>
     <message>
         <source>%1 % written</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% scritto</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -1078,30 +1078,30 @@ Registro: %3</translation>
     </message>
     <message>
         <source>&amp;Set up the connection…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Configura la connessione…</translation>
     </message>
 </context>
 <context>
     <name>PendingCounts</name>
     <message>
         <source>%1. Click to see these alone, again to see all</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Fare clic per vedere solo questi, di nuovo per vederli tutti</translation>
     </message>
     <message>
         <source>Pending errors: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Errori in sospeso: %1</translation>
     </message>
     <message>
         <source>Pending warnings: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvisi in sospeso: %1</translation>
     </message>
     <message>
         <source>Pending successes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Successi in sospeso: %1</translation>
     </message>
     <message>
         <source>Pending service events: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eventi di servizio in sospeso: %1</translation>
     </message>
 </context>
 <context>
@@ -1158,11 +1158,11 @@ Registro: %3</translation>
     <name>QSkinnedDialogHeader</name>
     <message>
         <source>Double click: restore the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppio clic: ripristina la finestra</translation>
     </message>
     <message>
         <source>Drag: move the window. Double click: maximise it</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascinamento: sposta la finestra. Doppio clic: la ingrandisce</translation>
     </message>
 </context>
 <context>
@@ -1234,11 +1234,11 @@ Registro: %3</translation>
     <name>StatusLine</name>
     <message>
         <source>Connect &amp;now</source>
-        <translation type="unfinished">Connetti &amp;ora</translation>
+        <translation>Connetti &amp;ora</translation>
     </message>
     <message>
         <source>Tries to connect to the Dispatcher at once</source>
-        <translation type="unfinished">Prova subito a connettersi al Dispatcher</translation>
+        <translation>Prova subito a connettersi al Dispatcher</translation>
     </message>
 </context>
 <context>
@@ -1276,11 +1276,11 @@ Registro: %3</translation>
     </message>
     <message>
         <source>Stop (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma (Spazio)</translation>
     </message>
     <message>
         <source>Play (Space)</source>
-        <translation type="unfinished">Riproduci (Spazio)</translation>
+        <translation>Riproduci (Spazio)</translation>
     </message>
 </context>
 <context>
@@ -1342,11 +1342,11 @@ Fare clic destro su questa icona per il menu contestuale o doppio clic per mostr
     <name>WindowMenu</name>
     <message>
         <source>A&amp;bout</source>
-        <translation type="unfinished">&amp;Informazioni</translation>
+        <translation>&amp;Informazioni</translation>
     </message>
     <message>
         <source>Shows the version, and where the log is</source>
-        <translation type="unfinished">Mostra la versione e dove si trova il registro</translation>
+        <translation>Mostra la versione e dove si trova il registro</translation>
     </message>
 </context>
 <context>
@@ -1385,27 +1385,27 @@ Fare clic destro su questa icona per il menu contestuale o doppio clic per mostr
     <message>
         <source>%1 of %2</source>
         <comment>budget, and what the machine has</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 di %2</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>il file non esiste</translation>
     </message>
     <message>
         <source>it is no WAV file that can be played</source>
-        <translation type="unfinished"></translation>
+        <translation>non è un file WAV riproducibile</translation>
     </message>
     <message>
         <source>there is no sound device</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è alcun dispositivo audio</translation>
     </message>
     <message>
         <source>a part of the program is missing; install it again</source>
-        <translation type="unfinished"></translation>
+        <translation>manca una parte del programma; reinstallarlo</translation>
     </message>
     <message>
         <source>Cannot play %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile riprodurre %1: %2</translation>
     </message>
 </context>
 <context>
@@ -1624,47 +1624,47 @@ Fare clic destro su questa icona per il menu contestuale o doppio clic per mostr
     </message>
     <message>
         <source>Keep the list above other windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantieni l&apos;elenco sopra le altre finestre</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine</translation>
     </message>
     <message>
         <source>Notifications</source>
-        <translation type="unfinished"></translation>
+        <translation>Notifiche</translation>
     </message>
     <message>
         <source>Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualizzatore</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Rete</translation>
     </message>
     <message>
         <source>Play the sound file for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduci il file audio per gli errori</translation>
     </message>
     <message>
         <source>Play the sound file for warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduci il file audio per gli avvisi</translation>
     </message>
     <message>
         <source>Play the sound file for successes</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduci il file audio per i successi</translation>
     </message>
     <message>
         <source>Play the sound file for starts of items</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduci il file audio per gli inizi</translation>
     </message>
     <message>
         <source>Play the sound file for service events</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduci il file audio per gli eventi di servizio</translation>
     </message>
     <message>
         <source>Show incomplete frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra fotogrammi incompleti</translation>
     </message>
 </context>
 </TS>

@@ -24,7 +24,7 @@
     </message>
     <message>
         <source>Opens the menu of the tray icon and of this window (F10)</source>
-        <translation type="unfinished"></translation>
+        <translation>トレイアイコンとこのウィンドウのメニューを開きます (F10)</translation>
     </message>
 </context>
 <context>
@@ -88,43 +88,43 @@
     <name>ConnectionTest</name>
     <message>
         <source>Connecting to %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 に接続しています…</translation>
     </message>
     <message>
         <source>Connected to %1. Waiting whether it refuses the log-in of %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 に接続しました。%2 のログインが拒否されないか確認しています…</translation>
     </message>
     <message>
         <source>Connected to %1 and logged in as %2: it did not refuse within 2 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 に接続し、%2 としてログインしました。2 秒以内に拒否されませんでした。</translation>
     </message>
     <message>
         <source>Connected to %1, but it refused the log-in of %2. Check login and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 に接続しましたが、%2 のログインが拒否されました。ログイン名とパスワードを確認してください。</translation>
     </message>
     <message>
         <source>The name %1 is not known. Check the address.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 という名前が見つかりません。アドレスを確認してください。</translation>
     </message>
     <message>
         <source>Nobody listens at %1. Check the port, and whether the Dispatcher runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 で待ち受けているものがありません。ポートと、Dispatcher が動作しているかを確認してください。</translation>
     </message>
     <message>
         <source>No answer from %1 within 10 seconds. Check the address.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 から 10 秒以内に応答がありませんでした。アドレスを確認してください。</translation>
     </message>
     <message>
         <source>What answers at %1 is no Dispatcher. Check the port.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 で応答しているのは Dispatcher ではありません。ポートを確認してください。</translation>
     </message>
     <message>
         <source>Connected to %1, but it hung up after the log-in of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 に接続しましたが、%2 のログイン後に切断されました。</translation>
     </message>
     <message>
         <source>Cannot connect to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 に接続できません: %2</translation>
     </message>
 </context>
 <context>
@@ -163,19 +163,19 @@ What the farm tells of your jobs appears here.</source>
     <name>EventColumns</name>
     <message>
         <source>Co&amp;lumns</source>
-        <translation type="unfinished"></translation>
+        <translation>列(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Sort by</source>
-        <translation type="unfinished"></translation>
+        <translation>並べ替え(&amp;S)</translation>
     </message>
     <message>
         <source>Order of arrival</source>
-        <translation type="unfinished"></translation>
+        <translation>受信順</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>リセット(&amp;R)</translation>
     </message>
 </context>
 <context>
@@ -249,120 +249,120 @@ What the farm tells of your jobs appears here.</source>
     </message>
     <message>
         <source>Acknowledged just now</source>
-        <translation type="unfinished"></translation>
+        <translation>確認済みにしたばかり</translation>
     </message>
 </context>
 <context>
     <name>FieldChecks</name>
     <message>
         <source>A port is a number from 1 to 65535</source>
-        <translation type="unfinished">ポート番号は 1～65535 の範囲で指定してください</translation>
+        <translation>ポート番号は 1～65535 の範囲で指定してください</translation>
     </message>
     <message>
         <source>Enter a number of bytes, as digits alone</source>
-        <translation type="unfinished"></translation>
+        <translation>バイト数を数字だけで入力してください</translation>
     </message>
     <message>
         <source>A gamma is a number above 0, as 2.2</source>
-        <translation type="unfinished"></translation>
+        <translation>ガンマは 0 より大きい数で指定してください (例: 2.2)</translation>
     </message>
     <message>
         <source>Enter the name or the address of a machine</source>
-        <translation type="unfinished"></translation>
+        <translation>コンピューターの名前またはアドレスを入力してください</translation>
     </message>
 </context>
 <context>
     <name>FirstRun</name>
     <message>
         <source>&amp;Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>接続(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>後で(&amp;L)</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation>接続済み</translation>
     </message>
     <message>
         <source>connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>接続中</translation>
     </message>
     <message>
         <source>not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>未接続</translation>
     </message>
     <message>
         <source>completed with errors</source>
-        <translation type="unfinished"></translation>
+        <translation>完了 (エラーあり)</translation>
     </message>
     <message>
         <source>completed with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>完了 (警告あり)</translation>
     </message>
     <message>
         <source>completed</source>
-        <translation type="unfinished"></translation>
+        <translation>完了</translation>
     </message>
     <message>
         <source>service activity or alert</source>
-        <translation type="unfinished"></translation>
+        <translation>サービスの動作またはアラート</translation>
     </message>
 </context>
 <context>
     <name>FirstRunClass</name>
     <message>
         <source>Set up the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>接続の設定</translation>
     </message>
     <message>
         <source>Where is the farm&apos;s Dispatcher, and who are you? Ask whoever runs the farm.</source>
-        <translation type="unfinished"></translation>
+        <translation>レンダーファームの Dispatcher の場所と、ログインするユーザーを入力します。わからない場合はファームの管理者に尋ねてください。</translation>
     </message>
     <message>
         <source>&amp;Server:</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバー(&amp;S):</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバー</translation>
     </message>
     <message>
         <source>&amp;Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>ポート(&amp;P):</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>ポート</translation>
     </message>
     <message>
         <source>Lo&amp;gin:</source>
-        <translation type="unfinished"></translation>
+        <translation>ログイン名(&amp;G):</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished">ログイン名</translation>
+        <translation>ログイン名</translation>
     </message>
     <message>
         <source>Pass&amp;word:</source>
-        <translation type="unfinished"></translation>
+        <translation>パスワード(&amp;W):</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished">パスワード</translation>
+        <translation>パスワード</translation>
     </message>
     <message>
         <source>&amp;Test the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>接続をテスト(&amp;T)</translation>
     </message>
     <message>
         <source>Nothing is stored by a test.</source>
-        <translation type="unfinished"></translation>
+        <translation>テストでは何も保存されません。</translation>
     </message>
     <message>
         <source>The icon in the system tray tells how the link stands and, in turn with that, the worst event that you have not looked at yet:</source>
-        <translation type="unfinished"></translation>
+        <translation>システムトレイのアイコンは、接続の状態と、まだ見ていない最も重大なイベントを交互に示します:</translation>
     </message>
 </context>
 <context>
@@ -831,46 +831,46 @@ What the farm tells of your jobs appears here.</source>
     </message>
     <message>
         <source>Side panel</source>
-        <translation type="unfinished"></translation>
+        <translation>サイドパネル</translation>
     </message>
     <message>
         <source>Show or hide the calibration and what is known of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>キャリブレーションとファイル情報の表示を切り替えます</translation>
     </message>
     <message>
         <source>Drop images or a folder here, or open them with Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>ここに画像かフォルダーをドロップするか、Ctrl+O で開きます</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル</translation>
     </message>
     <message>
         <source>Frames per second that are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>実際に表示されているフレーム/秒</translation>
     </message>
     <message>
         <source>How much of the memory for frames is in use</source>
-        <translation type="unfinished"></translation>
+        <translation>フレーム用メモリの使用率</translation>
     </message>
     <message>
         <source>Frames of the sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>連番のフレーム数</translation>
     </message>
 </context>
 <context>
     <name>IncompleteFrame</name>
     <message>
         <source>%1 of %2 chunks are damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 チャンク中 %1 チャンクが破損しています</translation>
     </message>
     <message>
         <source>%1 % written</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% 書き込み済み</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1、%2</translation>
     </message>
 </context>
 <context>
@@ -1078,30 +1078,30 @@ Log: %3</source>
     </message>
     <message>
         <source>&amp;Set up the connection…</source>
-        <translation type="unfinished"></translation>
+        <translation>接続の設定(&amp;S)…</translation>
     </message>
 </context>
 <context>
     <name>PendingCounts</name>
     <message>
         <source>%1. Click to see these alone, again to see all</source>
-        <translation type="unfinished"></translation>
+        <translation>%1。クリックするとこれだけを、もう一度クリックするとすべてを表示します</translation>
     </message>
     <message>
         <source>Pending errors: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>未確認のエラー: %1</translation>
     </message>
     <message>
         <source>Pending warnings: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>未確認の警告: %1</translation>
     </message>
     <message>
         <source>Pending successes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>未確認の成功: %1</translation>
     </message>
     <message>
         <source>Pending service events: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>未確認のサービスイベント: %1</translation>
     </message>
 </context>
 <context>
@@ -1158,11 +1158,11 @@ Log: %3</source>
     <name>QSkinnedDialogHeader</name>
     <message>
         <source>Double click: restore the window</source>
-        <translation type="unfinished"></translation>
+        <translation>ダブルクリック: ウィンドウを元のサイズに戻します</translation>
     </message>
     <message>
         <source>Drag: move the window. Double click: maximise it</source>
-        <translation type="unfinished"></translation>
+        <translation>ドラッグ: ウィンドウを移動します。ダブルクリック: 最大化します</translation>
     </message>
 </context>
 <context>
@@ -1234,11 +1234,11 @@ Log: %3</source>
     <name>StatusLine</name>
     <message>
         <source>Connect &amp;now</source>
-        <translation type="unfinished">今すぐ接続(&amp;N)</translation>
+        <translation>今すぐ接続(&amp;N)</translation>
     </message>
     <message>
         <source>Tries to connect to the Dispatcher at once</source>
-        <translation type="unfinished">すぐに Dispatcher への接続を試みます</translation>
+        <translation>すぐに Dispatcher への接続を試みます</translation>
     </message>
 </context>
 <context>
@@ -1276,11 +1276,11 @@ Log: %3</source>
     </message>
     <message>
         <source>Stop (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>停止 (スペース)</translation>
     </message>
     <message>
         <source>Play (Space)</source>
-        <translation type="unfinished">再生 (スペース)</translation>
+        <translation>再生 (スペース)</translation>
     </message>
 </context>
 <context>
@@ -1342,11 +1342,11 @@ Right-click on this icon to access the context menu or double click to raise the
     <name>WindowMenu</name>
     <message>
         <source>A&amp;bout</source>
-        <translation type="unfinished">このプログラムについて(&amp;B)</translation>
+        <translation>このプログラムについて(&amp;B)</translation>
     </message>
     <message>
         <source>Shows the version, and where the log is</source>
-        <translation type="unfinished">バージョンとログの場所を表示します</translation>
+        <translation>バージョンとログの場所を表示します</translation>
     </message>
 </context>
 <context>
@@ -1385,27 +1385,27 @@ Right-click on this icon to access the context menu or double click to raise the
     <message>
         <source>%1 of %2</source>
         <comment>budget, and what the machine has</comment>
-        <translation type="unfinished"></translation>
+        <translation>%2 中 %1</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが見つかりません</translation>
     </message>
     <message>
         <source>it is no WAV file that can be played</source>
-        <translation type="unfinished"></translation>
+        <translation>再生できる WAV ファイルではありません</translation>
     </message>
     <message>
         <source>there is no sound device</source>
-        <translation type="unfinished"></translation>
+        <translation>サウンドデバイスがありません</translation>
     </message>
     <message>
         <source>a part of the program is missing; install it again</source>
-        <translation type="unfinished"></translation>
+        <translation>プログラムの一部が見つかりません。インストールし直してください</translation>
     </message>
     <message>
         <source>Cannot play %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を再生できません: %2</translation>
     </message>
 </context>
 <context>
@@ -1624,47 +1624,47 @@ Right-click on this icon to access the context menu or double click to raise the
     </message>
     <message>
         <source>Keep the list above other windows</source>
-        <translation type="unfinished"></translation>
+        <translation>リストを他のウィンドウより手前に表示</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ</translation>
     </message>
     <message>
         <source>Notifications</source>
-        <translation type="unfinished"></translation>
+        <translation>通知</translation>
     </message>
     <message>
         <source>Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>ビューア</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワーク</translation>
     </message>
     <message>
         <source>Play the sound file for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー用サウンドファイルを再生</translation>
     </message>
     <message>
         <source>Play the sound file for warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>警告用サウンドファイルを再生</translation>
     </message>
     <message>
         <source>Play the sound file for successes</source>
-        <translation type="unfinished"></translation>
+        <translation>成功用サウンドファイルを再生</translation>
     </message>
     <message>
         <source>Play the sound file for starts of items</source>
-        <translation type="unfinished"></translation>
+        <translation>項目開始用サウンドファイルを再生</translation>
     </message>
     <message>
         <source>Play the sound file for service events</source>
-        <translation type="unfinished"></translation>
+        <translation>サービスイベント用サウンドファイルを再生</translation>
     </message>
     <message>
         <source>Show incomplete frames</source>
-        <translation type="unfinished"></translation>
+        <translation>不完全なフレームを表示</translation>
     </message>
 </context>
 </TS>

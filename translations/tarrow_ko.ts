@@ -24,7 +24,7 @@
     </message>
     <message>
         <source>Opens the menu of the tray icon and of this window (F10)</source>
-        <translation type="unfinished"></translation>
+        <translation>트레이 아이콘과 이 창의 메뉴를 엽니다(F10)</translation>
     </message>
 </context>
 <context>
@@ -88,43 +88,43 @@
     <name>ConnectionTest</name>
     <message>
         <source>Connecting to %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에 연결 중…</translation>
     </message>
     <message>
         <source>Connected to %1. Waiting whether it refuses the log-in of %2…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에 연결되었습니다. %2 사용자의 로그인이 거부되는지 기다리는 중…</translation>
     </message>
     <message>
         <source>Connected to %1 and logged in as %2: it did not refuse within 2 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에 연결되고 %2 사용자로 로그인했습니다. 2초 안에 거부되지 않았습니다.</translation>
     </message>
     <message>
         <source>Connected to %1, but it refused the log-in of %2. Check login and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에 연결되었지만 %2 사용자의 로그인이 거부되었습니다. 로그인 이름과 암호를 확인하십시오.</translation>
     </message>
     <message>
         <source>The name %1 is not known. Check the address.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 이름을 찾을 수 없습니다. 주소를 확인하십시오.</translation>
     </message>
     <message>
         <source>Nobody listens at %1. Check the port, and whether the Dispatcher runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에서 연결을 받는 프로그램이 없습니다. 포트와 Dispatcher의 실행 여부를 확인하십시오.</translation>
     </message>
     <message>
         <source>No answer from %1 within 10 seconds. Check the address.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에서 10초 안에 응답이 없습니다. 주소를 확인하십시오.</translation>
     </message>
     <message>
         <source>What answers at %1 is no Dispatcher. Check the port.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에서 응답하는 것은 Dispatcher가 아닙니다. 포트를 확인하십시오.</translation>
     </message>
     <message>
         <source>Connected to %1, but it hung up after the log-in of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에 연결되었지만 %2 사용자의 로그인 후 연결이 끊겼습니다.</translation>
     </message>
     <message>
         <source>Cannot connect to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1에 연결할 수 없습니다: %2</translation>
     </message>
 </context>
 <context>
@@ -163,19 +163,19 @@ What the farm tells of your jobs appears here.</source>
     <name>EventColumns</name>
     <message>
         <source>Co&amp;lumns</source>
-        <translation type="unfinished"></translation>
+        <translation>열(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Sort by</source>
-        <translation type="unfinished"></translation>
+        <translation>정렬 기준(&amp;S)</translation>
     </message>
     <message>
         <source>Order of arrival</source>
-        <translation type="unfinished"></translation>
+        <translation>도착 순서</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>재설정(&amp;R)</translation>
     </message>
 </context>
 <context>
@@ -249,120 +249,120 @@ What the farm tells of your jobs appears here.</source>
     </message>
     <message>
         <source>Acknowledged just now</source>
-        <translation type="unfinished"></translation>
+        <translation>방금 확인됨</translation>
     </message>
 </context>
 <context>
     <name>FieldChecks</name>
     <message>
         <source>A port is a number from 1 to 65535</source>
-        <translation type="unfinished">포트는 1에서 65535 사이의 숫자입니다</translation>
+        <translation>포트는 1에서 65535 사이의 숫자입니다</translation>
     </message>
     <message>
         <source>Enter a number of bytes, as digits alone</source>
-        <translation type="unfinished"></translation>
+        <translation>바이트 수를 숫자로만 입력하십시오</translation>
     </message>
     <message>
         <source>A gamma is a number above 0, as 2.2</source>
-        <translation type="unfinished"></translation>
+        <translation>감마는 0보다 큰 숫자입니다(예: 2.2)</translation>
     </message>
     <message>
         <source>Enter the name or the address of a machine</source>
-        <translation type="unfinished"></translation>
+        <translation>컴퓨터의 이름 또는 주소를 입력하십시오</translation>
     </message>
 </context>
 <context>
     <name>FirstRun</name>
     <message>
         <source>&amp;Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>연결(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>나중에(&amp;L)</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation>연결됨</translation>
     </message>
     <message>
         <source>connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>연결 중</translation>
     </message>
     <message>
         <source>not connected</source>
-        <translation type="unfinished"></translation>
+        <translation>연결되지 않음</translation>
     </message>
     <message>
         <source>completed with errors</source>
-        <translation type="unfinished"></translation>
+        <translation>완료(오류 있음)</translation>
     </message>
     <message>
         <source>completed with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>완료(경고 있음)</translation>
     </message>
     <message>
         <source>completed</source>
-        <translation type="unfinished"></translation>
+        <translation>완료</translation>
     </message>
     <message>
         <source>service activity or alert</source>
-        <translation type="unfinished"></translation>
+        <translation>서비스 활동 또는 경보</translation>
     </message>
 </context>
 <context>
     <name>FirstRunClass</name>
     <message>
         <source>Set up the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>연결 설정</translation>
     </message>
     <message>
         <source>Where is the farm&apos;s Dispatcher, and who are you? Ask whoever runs the farm.</source>
-        <translation type="unfinished"></translation>
+        <translation>렌더팜의 Dispatcher 주소와 로그인할 사용자를 입력하십시오. 모르는 경우 렌더팜 관리자에게 문의하십시오.</translation>
     </message>
     <message>
         <source>&amp;Server:</source>
-        <translation type="unfinished"></translation>
+        <translation>서버(&amp;S):</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>서버</translation>
     </message>
     <message>
         <source>&amp;Port:</source>
-        <translation type="unfinished"></translation>
+        <translation>포트(&amp;P):</translation>
     </message>
     <message>
         <source>Port</source>
-        <translation type="unfinished"></translation>
+        <translation>포트</translation>
     </message>
     <message>
         <source>Lo&amp;gin:</source>
-        <translation type="unfinished"></translation>
+        <translation>로그인 이름(&amp;G):</translation>
     </message>
     <message>
         <source>Login</source>
-        <translation type="unfinished">로그인 이름</translation>
+        <translation>로그인 이름</translation>
     </message>
     <message>
         <source>Pass&amp;word:</source>
-        <translation type="unfinished"></translation>
+        <translation>암호(&amp;W):</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished">암호</translation>
+        <translation>암호</translation>
     </message>
     <message>
         <source>&amp;Test the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>연결 테스트(&amp;T)</translation>
     </message>
     <message>
         <source>Nothing is stored by a test.</source>
-        <translation type="unfinished"></translation>
+        <translation>테스트할 때는 아무것도 저장되지 않습니다.</translation>
     </message>
     <message>
         <source>The icon in the system tray tells how the link stands and, in turn with that, the worst event that you have not looked at yet:</source>
-        <translation type="unfinished"></translation>
+        <translation>시스템 트레이의 아이콘은 연결 상태와 아직 보지 않은 가장 심각한 이벤트를 번갈아 표시합니다:</translation>
     </message>
 </context>
 <context>
@@ -831,46 +831,46 @@ What the farm tells of your jobs appears here.</source>
     </message>
     <message>
         <source>Side panel</source>
-        <translation type="unfinished"></translation>
+        <translation>측면 패널</translation>
     </message>
     <message>
         <source>Show or hide the calibration and what is known of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>캘리브레이션과 파일 정보를 표시하거나 숨깁니다</translation>
     </message>
     <message>
         <source>Drop images or a folder here, or open them with Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>여기에 이미지나 폴더를 끌어다 놓거나 Ctrl+O로 여십시오</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>파일</translation>
     </message>
     <message>
         <source>Frames per second that are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>실제로 표시되는 초당 프레임 수</translation>
     </message>
     <message>
         <source>How much of the memory for frames is in use</source>
-        <translation type="unfinished"></translation>
+        <translation>프레임용 메모리 사용량</translation>
     </message>
     <message>
         <source>Frames of the sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>시퀀스의 프레임 수</translation>
     </message>
 </context>
 <context>
     <name>IncompleteFrame</name>
     <message>
         <source>%1 of %2 chunks are damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>청크 %2개 중 %1개 손상됨</translation>
     </message>
     <message>
         <source>%1 % written</source>
-        <translation type="unfinished"></translation>
+        <translation>%1% 기록됨</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished">%1: %2 {1,?}</translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -1078,30 +1078,30 @@ Log: %3</source>
     </message>
     <message>
         <source>&amp;Set up the connection…</source>
-        <translation type="unfinished"></translation>
+        <translation>연결 설정(&amp;S)…</translation>
     </message>
 </context>
 <context>
     <name>PendingCounts</name>
     <message>
         <source>%1. Click to see these alone, again to see all</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. 클릭하면 이것만, 다시 클릭하면 모두 표시합니다</translation>
     </message>
     <message>
         <source>Pending errors: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>미확인 오류: %1</translation>
     </message>
     <message>
         <source>Pending warnings: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>미확인 경고: %1</translation>
     </message>
     <message>
         <source>Pending successes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>미확인 성공: %1</translation>
     </message>
     <message>
         <source>Pending service events: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>미확인 서비스 이벤트: %1</translation>
     </message>
 </context>
 <context>
@@ -1158,11 +1158,11 @@ Log: %3</source>
     <name>QSkinnedDialogHeader</name>
     <message>
         <source>Double click: restore the window</source>
-        <translation type="unfinished"></translation>
+        <translation>두 번 클릭: 창을 이전 크기로 복원</translation>
     </message>
     <message>
         <source>Drag: move the window. Double click: maximise it</source>
-        <translation type="unfinished"></translation>
+        <translation>드래그: 창 이동. 두 번 클릭: 최대화</translation>
     </message>
 </context>
 <context>
@@ -1234,11 +1234,11 @@ Log: %3</source>
     <name>StatusLine</name>
     <message>
         <source>Connect &amp;now</source>
-        <translation type="unfinished">지금 연결(&amp;N)</translation>
+        <translation>지금 연결(&amp;N)</translation>
     </message>
     <message>
         <source>Tries to connect to the Dispatcher at once</source>
-        <translation type="unfinished">즉시 Dispatcher에 연결을 시도합니다</translation>
+        <translation>즉시 Dispatcher에 연결을 시도합니다</translation>
     </message>
 </context>
 <context>
@@ -1276,11 +1276,11 @@ Log: %3</source>
     </message>
     <message>
         <source>Stop (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>정지 (스페이스)</translation>
     </message>
     <message>
         <source>Play (Space)</source>
-        <translation type="unfinished">재생 (스페이스)</translation>
+        <translation>재생 (스페이스)</translation>
     </message>
 </context>
 <context>
@@ -1342,11 +1342,11 @@ Right-click on this icon to access the context menu or double click to raise the
     <name>WindowMenu</name>
     <message>
         <source>A&amp;bout</source>
-        <translation type="unfinished">정보(&amp;B)</translation>
+        <translation>정보(&amp;B)</translation>
     </message>
     <message>
         <source>Shows the version, and where the log is</source>
-        <translation type="unfinished">버전과 로그 위치를 표시합니다</translation>
+        <translation>버전과 로그 위치를 표시합니다</translation>
     </message>
 </context>
 <context>
@@ -1385,27 +1385,27 @@ Right-click on this icon to access the context menu or double click to raise the
     <message>
         <source>%1 of %2</source>
         <comment>budget, and what the machine has</comment>
-        <translation type="unfinished"></translation>
+        <translation>%2 중 %1</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 없습니다</translation>
     </message>
     <message>
         <source>it is no WAV file that can be played</source>
-        <translation type="unfinished"></translation>
+        <translation>재생할 수 있는 WAV 파일이 아닙니다</translation>
     </message>
     <message>
         <source>there is no sound device</source>
-        <translation type="unfinished"></translation>
+        <translation>사운드 장치가 없습니다</translation>
     </message>
     <message>
         <source>a part of the program is missing; install it again</source>
-        <translation type="unfinished"></translation>
+        <translation>프로그램의 일부가 없습니다. 다시 설치하십시오</translation>
     </message>
     <message>
         <source>Cannot play %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1을(를) 재생할 수 없습니다: %2</translation>
     </message>
 </context>
 <context>
@@ -1624,47 +1624,47 @@ Right-click on this icon to access the context menu or double click to raise the
     </message>
     <message>
         <source>Keep the list above other windows</source>
-        <translation type="unfinished"></translation>
+        <translation>목록을 다른 창 위에 유지</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>페이지</translation>
     </message>
     <message>
         <source>Notifications</source>
-        <translation type="unfinished"></translation>
+        <translation>알림</translation>
     </message>
     <message>
         <source>Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>뷰어</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>네트워크</translation>
     </message>
     <message>
         <source>Play the sound file for errors</source>
-        <translation type="unfinished"></translation>
+        <translation>오류용 사운드 파일 재생</translation>
     </message>
     <message>
         <source>Play the sound file for warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>경고용 사운드 파일 재생</translation>
     </message>
     <message>
         <source>Play the sound file for successes</source>
-        <translation type="unfinished"></translation>
+        <translation>성공용 사운드 파일 재생</translation>
     </message>
     <message>
         <source>Play the sound file for starts of items</source>
-        <translation type="unfinished"></translation>
+        <translation>항목 시작용 사운드 파일 재생</translation>
     </message>
     <message>
         <source>Play the sound file for service events</source>
-        <translation type="unfinished"></translation>
+        <translation>서비스 이벤트용 사운드 파일 재생</translation>
     </message>
     <message>
         <source>Show incomplete frames</source>
-        <translation type="unfinished"></translation>
+        <translation>불완전한 프레임 표시</translation>
     </message>
 </context>
 </TS>
