@@ -9,8 +9,8 @@
 #include <system/machine.h>
 #include <ui/numbertext.h>
 #include <ui/plaintext.h>
-#include <ui/windowplacement.h>
 #include <ui/tintedicon.h>
+#include <ui/windowplacement.h>
 
 #include <QtCore/QLocale>
 #include <QtCore/QPointer>

@@ -4,11 +4,13 @@ import os
 import sys
 
 import accessible
+import farmtest
 from desktop import WINDOW, alertor, choose_in_menu, xdotool
-from farmtest import EVENT, PRODUCT, Program, check, equal, farm, run, wait_for, windows, write_settings
+from farmtest import EVENT, SETTINGS_FILE, Program, check, equal, farm, run, wait_for, windows, write_settings
 
 
 PAGES = 4
+SETUP = "Set up the connection"
 
 
 def walk(title):
@@ -34,6 +36,14 @@ def viewer_is_walked():
     program.kill()
 
 
+def first_start_is_walked():
+    os.remove(SETTINGS_FILE)
+    program = Program("the client", [farmtest.CLIENT], accessible.ENVIRONMENT)
+    wait_for(lambda: windows(SETUP), "the window that asks for the connection")
+    walk(SETUP)
+    program.quit()
+
+
 def test():
     budgets = {"imageViewerMaxGPUCache": 0, "imageViewerMaxRAMCache": 92160}
     write_settings({"behaviours": {"showBubble": "false", "autoAckOnRaise": "false"}, "imageViewer": budgets})
@@ -47,14 +57,9 @@ def test():
         walk("Alertor Preferences")  # and back to the list of pages
         xdotool("key", "Down")
     xdotool("key", "Escape")
-    wait_for(lambda: not windows("Alertor Preferences"), "the preferences to close")
-    choose_in_menu("b")
-    wait_for(lambda: windows(PRODUCT), "the box about the program")
-    xdotool("windowactivate", "--sync", windows(PRODUCT)[-1], "key", "alt+s")
-    wait_for(lambda: windows("Set up the connection"), "the window that sets up the connection")
-    walk("Set up the connection")
     program.quit()
     viewer_is_walked()
+    first_start_is_walked()
 
 
 run(test)
