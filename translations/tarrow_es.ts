@@ -163,7 +163,7 @@ Lo que la granja de render comunique sobre sus trabajos aparecerá aquí.</trans
     <name>EventColumns</name>
     <message>
         <source>Co&amp;lumns</source>
-        <translation>Co&amp;lumnas</translation>
+        <translation>Col&amp;umnas</translation>
     </message>
     <message>
         <source>&amp;Sort by</source>

@@ -92,7 +92,7 @@ def choose_in_menu(key):
     shown = client_windows()
     xdotool("windowactivate", "--sync", windows(WINDOW)[-1])
     xdotool("key", "alt+m")
-    wait_for(lambda: len(client_windows()) == len(shown) + 1, "the menu of the button")
+    wait_for(lambda: client_windows() - shown, "the menu of the button")
     xdotool("key", key)
 
 
