@@ -146,7 +146,7 @@ private Q_SLOTS:
             {"imageViewer/imageViewerMode", "0", "1"},
             {"imageViewer/imageViewer", "", "C:\\viewer.exe"},
             {"imageViewer/launchImageViewer", "false", "true"},
-            {"viewer/showIncompleteFrames", "true", "false"},
+            {"viewer/showIncompleteFrames,readAhead", "true", "false"},
         };
         QVERIFY(saveSettings(Settings()));
         QCOMPARE(QSettings().allKeys().size(), 35);
