@@ -121,11 +121,11 @@ bool pollAhead(std::uint64_t id, AheadResult<Image> &result)
 
 /// True when the job was waited for; false where loading is the way.
 template <typename Core, typename Image>
-bool takeAhead(std::uint64_t id, AheadResult<Image> &result, bool soonest)
+bool takeAhead(std::uint64_t id, AheadResult<Image> &result)
 {
     if constexpr (requires { typename Core::AheadRequest; }) {
         typename Core::AheadResult told;
-        if (!Core::TakeAhead(id, told, soonest))
+        if (!Core::TakeAhead(id, told))
             return false;
         result = {std::move(told.format), std::move(told.layers), told.image};
         return true;

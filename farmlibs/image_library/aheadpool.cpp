@@ -3,6 +3,8 @@
 #include "ctimage.h"
 #include "sourcefile.h"
 
+#include <system/machine.h>
+
 #include <algorithm>
 #include <system_error>
 #include <utility>
@@ -109,7 +111,7 @@ bool AheadPool::poll(Id id, TAheadResult &result)
     return true;
 }
 
-bool AheadPool::take(Id id, TAheadResult &result, bool soonest)
+bool AheadPool::take(Id id, TAheadResult &result)
 {
     std::unique_lock lock(m_mutex);
     const auto found = m_jobs.find(id);
@@ -117,7 +119,7 @@ bool AheadPool::take(Id id, TAheadResult &result, bool soonest)
         return false;
     const JobPointer job = found->second;
     const bool isRunning = job->state == Job::State::Running;
-    if (job->state == Job::State::Queued || (isRunning && soonest && job->isSlowerThan(m_threadCount))) {
+    if (job->state == Job::State::Queued || (isRunning && job->isSlowerThan(m_threadCount))) {
         lock.unlock();
         cancel(id);
         return false;
@@ -174,6 +176,7 @@ AheadPool::Counts AheadPool::counts() const
 
 void AheadPool::work()
 {
+    Machine::giveWay(); // what is looked at is painted in time
     std::unique_lock lock(m_mutex);
     while (JobPointer job = nextJob(lock)) {
         const std::string following = m_queue.empty() ? std::string() : m_queue.front()->request().path;

@@ -32,7 +32,7 @@ public:
     // As in IImageCore.
     Id begin(const TAheadRequest &request);
     bool poll(Id id, TAheadResult &result);
-    bool take(Id id, TAheadResult &result, bool soonest);
+    bool take(Id id, TAheadResult &result);
     void cancel(Id id);
 
     /// Ends every job and the threads; jobs that are begun later wait for ever.

@@ -271,9 +271,9 @@ bool IImageCore::PollAhead(std::uint64_t id, TAheadResult &result)
     return aheadPool().poll(id, result);
 }
 
-bool IImageCore::TakeAhead(std::uint64_t id, TAheadResult &result, bool soonest)
+bool IImageCore::TakeAhead(std::uint64_t id, TAheadResult &result)
 {
-    return aheadPool().take(id, result, soonest);
+    return aheadPool().take(id, result);
 }
 
 void IImageCore::CancelAhead(std::uint64_t id)

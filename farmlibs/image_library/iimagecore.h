@@ -58,8 +58,8 @@ public:
     /// Hands over what is done; false, at once, while it is not.
     static bool PollAhead(std::uint64_t id, TAheadResult &result);
     /// Waits for a job that is being decoded, in which the other threads join where its format allows. False where it has
-    /// not been begun, or `soonest` is set and Load() would be sooner: the job ends then.
-    static bool TakeAhead(std::uint64_t id, TAheadResult &result, bool soonest);
+    /// not been begun, or Load() would be sooner: the job ends then.
+    static bool TakeAhead(std::uint64_t id, TAheadResult &result);
     /// Returns at once; what is being decoded ends at its next step.
     static void CancelAhead(std::uint64_t id);
 

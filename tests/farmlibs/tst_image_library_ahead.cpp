@@ -66,7 +66,7 @@ private Q_SLOTS:
         QTRY_COMPARE(decoder.begun, 3);
         TAheadResult result;
         QVERIFY(!pool.poll(ids[0], result));
-        QVERIFY(!pool.take(ids[7], result, false)); // who needs it is sooner
+        QVERIFY(!pool.take(ids[7], result)); // who needs it is sooner
         decoder.allowed.release(100);
         QTRY_COMPARE(decoder.ended, 7);
         QTRY_COMPARE(pool.counts().running, 0);
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QTRY_COMPARE(pool.counts().running, 0);
         QCOMPARE(decoder.ended, 0);
         TAheadResult result;
-        QVERIFY(!pool.poll(running, result) && !pool.take(queued, result, false));
+        QVERIFY(!pool.poll(running, result) && !pool.take(queued, result));
         const AheadPool::Id last = pool.begin({"plain", {}, 0});
         decoder.allowed.release(Decoder::kSteps);
         QTRY_VERIFY(result.image || pool.poll(last, result));
@@ -120,24 +120,24 @@ private Q_SLOTS:
     {
         Decoder decoder;
         AheadPool pool(2, bound(decoder));
-        const AheadPool::Id held = pool.begin({"plain", {}, 0});
+        const AheadPool::Id held = pool.begin({"shared", {}, 0});
         QTRY_COMPARE(decoder.begun, 1);
         {
             const AheadPool::RightOfWay first(pool);
             decoder.allowed.release(100);
             QTRY_COMPARE(decoder.steps, 1);
             const AheadPool::Id waiting = pool.begin({"plain", {}, 0});
-            // What is taken goes on nevertheless; what would be slower than a load is given back, and nothing else begins.
+            // What is taken goes on nevertheless, and nothing else begins.
             TAheadResult result;
-            QVERIFY(pool.take(held, result, false));
+            QVERIFY(pool.take(held, result));
             const Image image(result.image);
             QCOMPARE(decoder.begun, 1);
-            QVERIFY(!pool.take(waiting, result, true));
+            QVERIFY(!pool.take(waiting, result));
         }
         const AheadPool::Id slow = pool.begin({"plain", {}, 0});
         QTRY_VERIFY(decoder.ended == 2);
         TAheadResult result;
-        QVERIFY(pool.take(slow, result, true));
+        QVERIFY(pool.take(slow, result));
         const Image image(result.image);
     }
 
@@ -151,7 +151,7 @@ private Q_SLOTS:
             QTRY_COMPARE(decoder.begun, 2);
             auto taken = std::async(std::launch::async, [&] {
                 TAheadResult result;
-                const bool isTaken = pool.take(id, result, true);
+                const bool isTaken = pool.take(id, result);
                 const Image image(result.image);
                 return isTaken;
             });

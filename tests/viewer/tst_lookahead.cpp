@@ -93,6 +93,25 @@ private Q_SLOTS:
         QVERIFY(isHeld);
     }
 
+    /// Faster than frames can be read: none is left out, and none is loaded while the event loop waits.
+    void playingWaitsForWhatIsComing()
+    {
+        for (int i = 1; i <= kFrames; ++i)
+            writeFrame(file(i), {512, 512});
+        open(1);
+        QList<int> shown;
+        bool isAnyLoaded = false;
+        connect(m_session.get(), &ViewerSession::loaded, this, [&] {
+            shown += m_session->frame();
+            isAnyLoaded = isAnyLoaded || m_session->lastLoad().decoded;
+        });
+        m_session->playback().setFramesPerSecond(1000);
+        m_session->togglePlaying();
+        QTRY_VERIFY(shown.size() >= kFrames);
+        QCOMPARE(shown.first(kFrames), (QList<int>{2, 3, 4, 5, 6, 7, 8, 1}));
+        QVERIFY(!isAnyLoaded);
+    }
+
     void whatWasWrittenSinceIsReadAgain()
     {
         open(1);
@@ -130,7 +149,7 @@ private Q_SLOTS:
         const std::uint64_t last = IImageCore::BeginAhead({file(1).toStdString(), {}, 0});
         TImageLibrary::TAheadResult result;
         for (std::uint64_t id = 1; id < last; ++id)
-            QVERIFY(!IImageCore::TakeAhead(id, result, false));
+            QVERIFY(!IImageCore::TakeAhead(id, result));
         IImageCore::CancelAhead(last);
     }
 

@@ -136,7 +136,7 @@ bool FrameLoader::isAsRequested(const AheadImage &ahead, const LoadRequest &requ
 /// False where there is no such image, or the file is another by now.
 bool FrameLoader::loadAhead(const LoadRequest &request, LoadResult &result)
 {
-    auto ahead = m_ahead ? m_ahead->take(request.path, request.soonest) : std::nullopt;
+    auto ahead = m_ahead ? m_ahead->take(request.path) : std::nullopt;
     if (!ahead || ahead->stamp != result.stamp || !isAsRequested(*ahead, request, result))
         return false;
     m_incomplete.clear();

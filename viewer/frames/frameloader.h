@@ -26,7 +26,6 @@ struct LoadRequest {
     TImageLibrary::TLoadProgress progress = nullptr;
     void *user = nullptr; ///< handed to `progress`
     bool showIncomplete = false; ///< what there is of a file that is no whole one
-    bool soonest = true; ///< off: frames that are being read ahead need not stand back for this one
     FrameCache::Keep isKept = nullptr; ///< frames that others make room before
 
     static constexpr std::int32_t kMaxDownsampling = 4;

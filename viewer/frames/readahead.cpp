@@ -32,11 +32,14 @@ void ReadAhead::follow(const std::vector<std::string> &paths, const Wish &wish)
     for (const std::string &path : paths) {
         if (m_jobs.size() >= mostAtOnce())
             return;
-        const bool isBegun =
-            std::any_of(m_jobs.begin(), m_jobs.end(), [&path](const Job &job) { return job.path == path; });
-        if (!isBegun && !leavesOut(path))
+        if (!isComing(path) && !leavesOut(path))
             begin(path, wish);
     }
+}
+
+bool ReadAhead::isComing(const std::string &path) const
+{
+    return std::any_of(m_jobs.begin(), m_jobs.end(), [&path](const Job &job) { return job.path == path; });
 }
 
 void ReadAhead::begin(const std::string &path, const Wish &wish)
@@ -70,7 +73,7 @@ std::optional<AheadImage> ReadAhead::collect()
     return std::nullopt;
 }
 
-std::optional<AheadImage> ReadAhead::take(const std::string &path, bool soonest)
+std::optional<AheadImage> ReadAhead::take(const std::string &path)
 {
     const auto job =
         std::find_if(m_jobs.begin(), m_jobs.end(), [&path](const Job &other) { return other.path == path; });
@@ -79,7 +82,7 @@ std::optional<AheadImage> ReadAhead::take(const std::string &path, bool soonest)
     Job taken = std::move(*job);
     m_jobs.erase(job);
     Result result;
-    if (!FarmHelpers::takeAhead<IImageCore>(taken.id, result, soonest) || !result.image)
+    if (!FarmHelpers::takeAhead<IImageCore>(taken.id, result) || !result.image)
         return std::nullopt;
     return AheadImage{std::move(taken.path),    taken.stamp,
                       std::move(result.format), std::move(result.layers),

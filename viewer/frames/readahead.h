@@ -45,9 +45,10 @@ public:
 
     /// Hands over one image that is ready.
     std::optional<AheadImage> collect();
-    /// Hands over the image of a file that is needed now, and waits for it; nothing where loading it is the way. With `soonest`
-    /// also where that is quicker, at the cost of the others.
-    std::optional<AheadImage> take(const std::string &path, bool soonest);
+    /// Whether the file was begun with.
+    bool isComing(const std::string &path) const;
+    /// Hands over the image of a file that is needed now, and waits for it; nothing where loading it is the way.
+    std::optional<AheadImage> take(const std::string &path);
 
     /// Asks for the file no more.
     void leaveOut(const std::string &path) { m_leftOut.insert(path); }

@@ -10,6 +10,7 @@
 namespace {
 
 constexpr std::chrono::milliseconds kLook(5);
+constexpr std::chrono::milliseconds kLookForAwaited(1);
 
 } // namespace
 
@@ -33,6 +34,25 @@ void LookAhead::end()
     m_kept.clear();
     m_framesThere = 0;
     m_isSettled = false;
+    tellWaiting();
+}
+
+bool LookAhead::waitFor(const std::string &path)
+{
+    if (!m_ahead.isComing(path))
+        return false;
+    m_awaited = path;
+    m_timer.setInterval(kLookForAwaited);
+    return true;
+}
+
+void LookAhead::tellWaiting()
+{
+    if (m_awaited.empty() || m_ahead.isComing(m_awaited))
+        return;
+    m_awaited.clear();
+    m_timer.setInterval(kLook);
+    Q_EMIT waitedFor();
 }
 
 void LookAhead::goOn(const Place &place)
@@ -89,6 +109,7 @@ void LookAhead::follow()
     m_isSettled = wanted.empty() && room > 0;
     m_settledVersion = m_cache.version();
     m_ahead.follow(wanted, {m_place.layers, m_priority});
+    tellWaiting();
 }
 
 void LookAhead::look()

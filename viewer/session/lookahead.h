@@ -42,6 +42,8 @@ public:
     /// Of several that read ahead at once the higher one comes first.
     void setPriority(int priority) { m_priority = priority; }
 
+    /// True where the file is being read; then waitedFor() comes when it may no longer be.
+    bool waitFor(const std::string &path);
     bool isReading() const { return m_isOn && m_ahead.count() > 0; }
     /// Frames that are there from the one on show on, without it and without a gap.
     std::size_t framesThere() const { return m_framesThere; }
@@ -51,10 +53,12 @@ public:
 Q_SIGNALS:
     /// A frame has come into the cache.
     void arrived();
+    void waitedFor();
 
 private:
     void look();
     void follow();
+    void tellWaiting();
     std::uint64_t room() const;
     std::vector<std::int32_t> loopFrames(std::size_t most) const;
     std::vector<std::int32_t> framesAround() const;
@@ -68,6 +72,7 @@ private:
     Place m_place;
     std::vector<std::int32_t>
         m_order; // of need, from m_place on; where others make room, as many as there is room for
+    std::string m_awaited; // a file that is coming
     std::set<std::string> m_kept; // made when it is first asked for
     std::size_t m_framesThere = 0;
     std::uint64_t m_settledVersion = 0; // of the cache, when every frame was there

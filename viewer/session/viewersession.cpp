@@ -41,6 +41,8 @@ ViewerSession::ViewerSession(CacheTotals &totals, FrameDisplay &display, QObject
     connect(&m_playback, &Playback::playingChanged, this, &ViewerSession::lookOn);
     connect(&m_watch, &FrameWatch::mayBeThere, this, &ViewerSession::lookAgain);
     connect(&m_lookAhead, &LookAhead::arrived, this, &ViewerSession::readAhead);
+    // A frame that has come is painted in another turn of the event loop than it is uploaded in.
+    connect(&m_lookAhead, &LookAhead::waitedFor, &m_playback, &Playback::goOn, Qt::QueuedConnection);
 }
 
 void ViewerSession::setJob(JobFrames job)
@@ -139,11 +141,19 @@ bool ViewerSession::step()
     return true;
 }
 
+/// A frame that is on its way is waited for in the event loop, not in a load.
 void ViewerSession::playStep()
 {
-    if (m_held || step() || m_played.empty() || m_played.front() == m_frame)
+    if (m_held || m_played.empty())
         return;
-    moveTo(m_played.front());
+    const std::int64_t next = steppedFrame(m_played, m_frame, m_range.step).value_or(m_frame);
+    const auto frame = std::int32_t(next == m_frame ? m_played.front() : next);
+    if (frame == m_frame)
+        return;
+    if (m_lookAhead.waitFor(m_sequence.fileOf(frame)))
+        m_playback.postpone();
+    else
+        moveTo(frame);
 }
 
 void ViewerSession::setRange(const PlaybackRange &range)
@@ -222,7 +232,6 @@ LoadRequest ViewerSession::loadRequest()
     request.showIncomplete = m_showIncomplete;
     request.progress = &ViewerSession::progressed;
     request.user = this;
-    request.soonest = !m_playback.isPlaying();
     if (m_lookAhead.isOn() && m_playback.isPlaying())
         request.isKept = [this](const std::string &path) { return m_lookAhead.keeps(path); };
     return request;
