@@ -361,6 +361,6 @@ bool ImageViewer::event(QEvent *event)
         retranslate();
     // Of several viewers, the one in use reads first.
     if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate)
-        m_session->setReadAheadPriority(event->type() == QEvent::WindowActivate ? 1 : 0);
+        m_session->lookAhead().setPriority(event->type() == QEvent::WindowActivate ? 1 : 0);
     return QSkinnedDialog::event(event);
 }

@@ -1,5 +1,6 @@
 #include "readahead.h"
 
+#include <helpers/aheadextras.h>
 #include <image_library/iimagecore.h>
 
 #include <algorithm>

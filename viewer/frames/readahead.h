@@ -2,7 +2,6 @@
 
 #include "filestamp.h"
 
-#include <helpers/imageextras.h>
 #include <helpers/imagepointer.h>
 
 #include <cstdint>

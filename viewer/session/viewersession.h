@@ -79,8 +79,7 @@ public:
     void setShowIncomplete(bool on);
     /// Reads frames before they are due; off at first.
     void setReadAhead(bool on);
-    /// Of several sessions that read ahead at once the higher one comes first.
-    void setReadAheadPriority(int priority) { m_lookAhead.setPriority(priority); }
+    LookAhead &lookAhead() { return m_lookAhead; }
     /// Forgets every frame that was loaded, and loads the one on show.
     void loadAnew();
     /// Halvings of width and height.
@@ -111,9 +110,8 @@ Q_SIGNALS:
     /// A load has ended, as lastLoad() says.
     void loaded();
     void marksChanged();
-    /// Frames have left the cache without a load.
+    // Frames have left the cache, or one was read ahead into it, without a load.
     void cacheTrimmed();
-    /// A frame that was read ahead has come into the cache.
     void readAhead();
 
 private:
