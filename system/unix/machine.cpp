@@ -59,7 +59,7 @@ void Machine::giveWay()
 {
 #ifdef __linux__
     // Only here a thread has a priority of its own.
-    constexpr int kLower = 5;
+    constexpr int kLower = 2;
     setpriority(PRIO_PROCESS, 0, getpriority(PRIO_PROCESS, 0) + kLower);
 #endif
 }

@@ -92,8 +92,6 @@ std::optional<AheadImage> ReadAhead::take(const std::string &path)
 
 void ReadAhead::clear()
 {
-    for (const Job &job : m_jobs)
-        FarmHelpers::cancelAhead<IImageCore>(job.id);
-    m_jobs.clear();
+    follow({}, {});
     m_leftOut.clear();
 }

@@ -4,13 +4,14 @@
 
 #include <algorithm>
 #include <chrono>
-#include <iterator>
 #include <utility>
 
 namespace {
 
 constexpr std::chrono::milliseconds kLook(5);
 constexpr std::chrono::milliseconds kLookForAwaited(1);
+/// Frames that are looked for on either side: a job may name a million that nobody has rendered.
+constexpr std::size_t kFarthest = 1000;
 
 } // namespace
 
@@ -67,10 +68,8 @@ void LookAhead::goOn(const Place &place)
         return;
     m_isSettled = false;
     m_kept.clear();
-    const std::uint64_t most = room();
-    m_order.clear();
-    if (most > 0)
-        m_order = place.isPlaying ? loopFrames(std::size_t(most)) : framesAround();
+    const auto most = std::size_t(std::min<std::uint64_t>(room(), kFarthest));
+    m_order = place.isPlaying ? loopFrames(most) : framesAround(most);
     // A picture that has just been loaded is painted before others are read.
     if (place.isPlaying || m_ahead.count() > 0)
         follow();
@@ -87,7 +86,8 @@ std::uint64_t LookAhead::room() const
     return m_cache.roomFor(m_place.frameBytes, [&shown](const std::string &path) { return path == shown; });
 }
 
-void LookAhead::follow()
+/// False when nothing more is wanted.
+bool LookAhead::follow()
 {
     std::vector<std::string> wanted;
     std::uint64_t room = this->room();
@@ -106,10 +106,11 @@ void LookAhead::follow()
             continue; // takes none of the room
         --room;
     }
-    m_isSettled = wanted.empty() && room > 0;
+    m_isSettled = wanted.empty() && room > 0 && m_played.size() <= kFarthest;
     m_settledVersion = m_cache.version();
     m_ahead.follow(wanted, {m_place.layers, m_priority});
     tellWaiting();
+    return !wanted.empty();
 }
 
 void LookAhead::look()
@@ -125,9 +126,9 @@ void LookAhead::look()
         else
             m_ahead.leaveOut(path);
     }
-    if (before == 0 || m_ahead.count() != before)
-        follow();
-    if (m_ahead.count() == 0)
+    // Files that are not there make no jobs, which those behind them may.
+    const bool isAnyWanted = (before == 0 || m_ahead.count() != before) && follow();
+    if (m_ahead.count() == 0 && !isAnyWanted)
         m_timer.stop();
 }
 
@@ -156,23 +157,22 @@ std::vector<std::int32_t> LookAhead::loopFrames(std::size_t most) const
     return frames;
 }
 
-std::vector<std::int32_t> LookAhead::framesAround() const
+/// Those after the one on show, then those before it that a loop would come by, the nearest first.
+std::vector<std::int32_t> LookAhead::framesAround(std::size_t most) const
 {
     std::vector<std::int32_t> frames;
-    const auto after = [&](std::int64_t at, std::int64_t end) {
-        for (;;) {
-            const std::int64_t next = steppedFrame(m_played, at, m_place.step).value_or(at);
-            if (next == at || next >= end)
+    const auto append = [&](std::int64_t at, std::int64_t step) {
+        for (std::size_t count = 0; count < most; ++count) {
+            const std::int64_t next = steppedFrame(m_played, at, step).value_or(at);
+            if (next == at)
                 return;
             at = next;
             frames.push_back(std::int32_t(at));
         }
     };
-    after(m_place.frame, INT64_MAX);
-    const auto behind = std::ptrdiff_t(frames.size());
-    if (m_played.front() < m_place.frame)
-        frames.push_back(m_played.front());
-    after(m_played.front(), m_place.frame);
-    std::reverse(frames.begin() + behind, frames.end());
+    append(m_place.frame, m_place.step);
+    const std::int64_t first = m_played.front();
+    const std::int64_t steps = (m_place.frame - first + m_place.step - 1) / m_place.step;
+    append(first + steps * m_place.step, -m_place.step);
     return frames;
 }

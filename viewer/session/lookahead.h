@@ -57,11 +57,11 @@ Q_SIGNALS:
 
 private:
     void look();
-    void follow();
+    bool follow();
     void tellWaiting();
     std::uint64_t room() const;
     std::vector<std::int32_t> loopFrames(std::size_t most) const;
-    std::vector<std::int32_t> framesAround() const;
+    std::vector<std::int32_t> framesAround(std::size_t most) const;
 
     FrameCache &m_cache;
     FrameLoader &m_loader;

@@ -162,6 +162,7 @@ void ViewerSession::setRange(const PlaybackRange &range)
         return;
     m_range = range;
     listPlayed();
+    m_lookAhead.end(); // another range may have as many frames
     Q_EMIT rangeChanged();
     const long within = std::clamp(long(m_frame), range.start, range.end);
     if (within != m_frame)
