@@ -43,7 +43,7 @@ inline void useOpenGl()
 
 /// A ramp with the grain of a rendered picture, which does not shrink to nothing in its file.
 inline void writeFrame(const QString &path, QSize size, int number,
-                       Imf::Compression compression = Imf::ZIP_COMPRESSION)
+                       Imf::Compression compression = Imf::PIZ_COMPRESSION)
 {
     Imf::RgbaOutputFile file(path.toLocal8Bit().constData(), size.width(), size.height(), Imf::WRITE_RGBA,
                              1.0F, Imath::V2f(0.0F, 0.0F), 1.0F, Imf::INCREASING_Y, compression);
