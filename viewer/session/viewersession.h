@@ -7,9 +7,6 @@
 #include "playback.h"
 #include "playbackrange.h"
 
-#include <viewer/frames/framecache.h>
-#include <viewer/frames/frameloader.h>
-#include <viewer/frames/framesequence.h>
 #include <viewer/frames/framestates.h>
 #include <viewer/frames/loadprogress.h>
 
@@ -18,7 +15,6 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <vector>
 
 /// What one viewer window shows, without the window: the sequence, the frame of it on show, the range that plays, the layer,
 /// the marks. It loads frames onto a display, from its cache or from their files, and again when one that was missing,
