@@ -1,6 +1,7 @@
 # Everything comes from the system's packages: scripts/packages.txt lists them.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets DBus Network Multimedia Svg OpenGL)
 find_package(ZLIB REQUIRED)
+find_package(Threads REQUIRED)
 
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTOUIC ON)

@@ -61,12 +61,13 @@ void ViewerWindows::setSettings(const Settings &settings)
     m_totals.videoMemoryBudget = settings.imageViewerMaxGPUCache;
     m_totals.mainMemoryBudget = settings.imageViewerMaxRAMCache;
     m_settings = {settings.imageViewerExrImportGamma, settings.imageViewerDefaultImportGamma,
-                  settings.viewerShowIncompleteFrames};
+                  settings.viewerShowIncompleteFrames, settings.viewerReadAhead};
     for (const QPointer<ImageViewer> &viewer : std::as_const(m_viewers)) {
         if (!viewer)
             continue;
         viewer->session().applyBudgets();
         viewer->session().setShowIncomplete(m_settings.showIncomplete);
+        viewer->session().setReadAhead(m_settings.readAhead);
     }
 }
 

@@ -34,7 +34,7 @@ public:
     explicit ViewerWindows(QWidget &owner);
     ~ViewerWindows() override;
 
-    /// Applies the budgets and what is shown of incomplete frames at once, the rest to windows to come.
+    /// Applies the budgets, what is shown of incomplete frames and what is read ahead at once, the rest to windows to come.
     void setSettings(const Settings &settings);
     /// Makes a viewer window, not shown yet, which deletes itself when closed; null without OpenGL, which the message says
     /// in front of `asker`. It is a window of its own: neither kept above the list nor gone with it.

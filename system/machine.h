@@ -24,6 +24,9 @@ std::uint64_t memorySize();
 /// Names the system as folders of compiled packages have it: "linux", "windows".
 std::string platformName();
 
+/// Has the system run the calling thread behind the program's others where there are not processors for all.
+void giveWay();
+
 /// Tells how long this machine has slept since it was started; zero where the system does not tell.
 std::chrono::milliseconds timeAsleep();
 

@@ -20,6 +20,9 @@ public:
     /// Nothing unless the path names a regular file.
     static std::optional<State> stateOf(const std::filesystem::path &path);
 
+    /// Has the system fetch a regular file that will be read soon, where it can.
+    static void announce(const std::filesystem::path &path);
+
     /// Does not wait for the writer of a pipe.
     explicit OpenFile(const std::filesystem::path &path);
     ~OpenFile();

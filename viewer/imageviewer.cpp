@@ -65,6 +65,7 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     giveIcons(*m_ui);
     m_session = std::make_unique<ViewerSession>(totals, picture());
     m_session->setShowIncomplete(settings.showIncomplete);
+    m_session->setReadAhead(settings.readAhead);
     m_zoom = new ZoomControl({m_ui->image, m_ui->horizontalScrollBar, m_ui->verticalScrollBar,
                               m_ui->fitPixelSize, m_ui->setPixelSize});
     m_transport = std::make_unique<TransportControls>(*m_ui, *m_session);
@@ -153,6 +154,8 @@ void ImageViewer::connectSession()
         m_zoom->refresh();
         m_ui->infoLabel->setText(m_totals.statusText() + m_loadStatus->shownText());
     });
+    connect(m_session.get(), &ViewerSession::readAhead, this,
+            [this] { m_ui->infoLabel->setText(m_totals.statusText() + m_loadStatus->shownText()); });
     connect(m_session.get(), &ViewerSession::cacheTrimmed, this,
             [this] { m_ui->infoLabel->setText(m_totals.statusText()); });
 }
@@ -356,5 +359,8 @@ bool ImageViewer::event(QEvent *event)
         content()->setStyleSheet(textSheet());
     if (event->type() == QEvent::LanguageChange || event->type() == QEvent::ApplicationFontChange)
         retranslate();
+    // Of several viewers, the one in use reads first.
+    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate)
+        m_session->lookAhead().setPriority(event->type() == QEvent::WindowActivate ? 1 : 0);
     return QSkinnedDialog::event(event);
 }

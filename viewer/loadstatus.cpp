@@ -91,6 +91,11 @@ QString LoadStatus::shownText() const
     if (load.shown() && load.forcedHalvings != 0)
         texts +=
             tr("Too large for OpenGL: shown at 1/%1 of its size").arg(qulonglong(1) << load.forcedHalvings);
+    const LookAhead &ahead = m_session.lookAhead();
+    if (ahead.isReading())
+        texts +=
+            tr("%1 s ahead")
+                .arg(double(ahead.framesThere()) / double(m_session.playback().framesPerSecond()), 0, 'f', 1);
     return texts.join(u' ');
 }
 

@@ -48,7 +48,8 @@ TransportControls::TransportControls(const Ui::ImageViewerClass &form, ViewerSes
         if (!m_session.lastLoad().shown() || m_session.lastLoad().decoded)
             m_form.imageAllocation->update();
     });
-    connect(&m_session, &ViewerSession::cacheTrimmed, m_form.imageAllocation, qOverload<>(&QWidget::update));
+    for (const auto changed : {&ViewerSession::cacheTrimmed, &ViewerSession::readAhead})
+        connect(&m_session, changed, m_form.imageAllocation, qOverload<>(&QWidget::update));
     showSequence();
 }
 

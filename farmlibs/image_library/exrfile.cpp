@@ -120,22 +120,24 @@ std::string prefixOf(const Imf::Header &header, const std::vector<ExrChannel> &c
 
 } // namespace
 
-ExrFile ExrFile::open(const SourceFile &file)
+ExrFile ExrFile::open(const SourceFile &file, const Progress *progress)
 {
     try {
         checkHeaders(file);
-        return ExrFile(file);
+        return ExrFile(file, progress);
     } catch (const std::exception &) {
         refuseNewCompression(file);
         throw;
     }
 }
 
-ExrFile::ExrFile(const SourceFile &file)
+ExrFile::ExrFile(const SourceFile &file, const Progress *progress)
     : m_source(file)
+    , m_progress(progress)
+    , m_threads(progress && progress->isAhead() ? 0 : exrPoolThreads())
     , m_stream(file)
     // A table of chunks that is not there is not rebuilt: the writer has not finished, or the file is cut.
-    , m_parts(m_stream, exrPoolThreads(), false)
+    , m_parts(m_stream, m_threads, false)
     , m_tablesEnd(m_stream.tellg())
 {
     listChannels(false);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "exrstream.h"
+#include "progress.h"
 #include "sourcefile.h"
 
 #include <ImathVec.h>
@@ -34,14 +35,20 @@ struct ExrChannel {
 /// Reads the headers of an OpenEXR file. Deep parts count where their pixels can be flattened.
 class ExrFile final {
 public:
-    /// Throws when the headers are damaged or of a newer OpenEXR, or there is nothing to show.
-    static ExrFile open(const SourceFile &file);
+    /// Throws when the headers are damaged or of a newer OpenEXR, or there is nothing to show. `progress` is of the load that
+    /// it is opened for, and outlives it; null for other uses.
+    static ExrFile open(const SourceFile &file, const Progress *progress = nullptr);
 
     /// Part after part, the deep ones last, each part's in the order of its header.
     const std::vector<ExrChannel> &channels() const { return m_channels; }
     const SourceFile &source() const { return m_source; }
     const Imf::Header &header(int part) const { return m_parts.header(part); }
     Imf::MultiPartInputFile &parts() { return m_parts; }
+    const Progress *progress() const { return m_progress; }
+    /// Whether its load keeps to one thread for now.
+    bool isAlone() const { return m_progress && m_progress->isAlone(); }
+    /// Chunks that OpenEXR decodes at once, 0 for one after the other.
+    int threads() const { return m_threads; }
 
     int version() const { return m_parts.version(); }
     int partCount() const { return m_parts.parts(); }
@@ -62,10 +69,12 @@ public:
     std::string nameOf(int part) const;
 
 private:
-    explicit ExrFile(const SourceFile &file);
+    ExrFile(const SourceFile &file, const Progress *progress);
     void listChannels(bool deep);
 
     const SourceFile &m_source;
+    const Progress *m_progress;
+    int m_threads;
     ExrStream m_stream;
     Imf::MultiPartInputFile m_parts;
     std::uint64_t m_tablesEnd;

@@ -125,7 +125,7 @@ std::set<std::string> ExrLoader::layers(const SourceFile &file, const std::strin
 CTImage ExrLoader::load(const SourceFile &file, const std::string &, const std::set<std::string> &names,
                         Progress &progress) const
 {
-    ExrFile exr = ExrFile::open(file);
+    ExrFile exr = ExrFile::open(file, &progress);
     Targets targets = planPlanes(exr, names, false);
     readParts(exr, targets, progress, nullptr);
     return imageOf(exr, std::move(targets));
@@ -134,7 +134,7 @@ CTImage ExrLoader::load(const SourceFile &file, const std::string &, const std::
 CTImage ExrLoader::loadPartial(const SourceFile &file, const std::set<std::string> &names, Progress &progress,
                                TPartialLoad &load) const
 {
-    ExrFile stored = ExrFile::open(file);
+    ExrFile stored = ExrFile::open(file, &progress);
     Targets targets = planPlanes(stored, names, true);
     const ExrSurvey survey(stored);
     std::map<int, PresentChunks> present;
@@ -144,7 +144,7 @@ CTImage ExrLoader::loadPartial(const SourceFile &file, const std::set<std::strin
         readParts(stored, targets, progress, &present);
     } else {
         const SourceFile repaired = survey.repaired();
-        ExrFile exr = ExrFile::open(repaired);
+        ExrFile exr = ExrFile::open(repaired, &progress);
         readParts(exr, targets, progress, &present);
     }
 

@@ -184,7 +184,7 @@ private:
     {
         constexpr std::int64_t kBands = 16;
         constexpr std::int64_t kChunksPerThread = 8;
-        const std::int64_t threads = std::max(exrPoolThreads(), 1);
+        const std::int64_t threads = std::max(m_file.threads(), 1);
         const std::int64_t chunkRows = m_file.chunkRows(m_part);
         const std::int64_t chunkLines = (m_data.max.y - m_data.min.y) / chunkRows + 1;
         const std::int64_t busy = (threads * kChunksPerThread - 1) / m_rows->chunksPerRow() + 1;
@@ -284,7 +284,7 @@ private:
     /// The file once more, for chunks one by one.
     struct Again {
         explicit Again(const PartReader &reader)
-            : file(ExrFile::open(reader.m_file.source()))
+            : file(ExrFile::open(reader.m_file.source(), reader.m_file.progress()))
             , rows(reader.rowsOf(file))
         { }
 

@@ -219,7 +219,8 @@ bool unpackPart(const ExrFile &file, int part, const std::vector<ExrTarget *> &t
         };
     };
     const std::size_t chunkBytes = grid.pixelsOfOne() * placer.pixelBytes();
-    shareWork({grid.count(), chunksAtOnce(grid.count(), chunkBytes)}, makeStep, report);
+    shareWork({grid.count(), chunksAtOnce(grid.count(), chunkBytes), [&file] { return file.isAlone(); }},
+              makeStep, report);
     return true;
 }
 

@@ -1,15 +1,19 @@
 #include "iimagecore.h"
 
+#include "aheadpool.h"
 #include "imageerror.h"
 #include "imageloader.h"
 #include "imagemodules.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <exception>
 #include <memory>
+#include <mutex>
 #include <new>
 #include <optional>
 #include <stdexcept>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -146,6 +150,46 @@ const ImageLoader &loaderOf(const char *format)
                      "not an image of a known format");
 }
 
+AheadPool &aheadPool();
+
+/// The decoders keep things that end with the program, made when a format is first read: the pool ends before these.
+void endPoolBefore(const std::string &format)
+{
+    static std::mutex mutex;
+    static std::set<std::string> formats;
+    const std::lock_guard lock(mutex);
+    if (formats.insert(format).second)
+        std::atexit([] { aheadPool().stop(); });
+}
+
+void decodeAhead(const TAheadRequest &request, AheadControl &control, TAheadResult &result)
+{
+    const char *path = request.path.c_str();
+    Progress progress(control);
+    result.image = guarded(path, [&]() -> CTImage * {
+        const SourceFile file = SourceFile::open(path);
+        const char *format = firstAnswer([&file](const ImageLoader &loader) { return loader.probe(file); });
+        if (!format)
+            failUnknown(file);
+        const ImageLoader &loader = loaderOf(format);
+        result.format = format;
+        control.goOn(0.0);
+        result.layers = loader.layers(file, format);
+        control.goOn(0.0);
+        auto image = std::make_unique<CTImage>(loader.load(file, format, request.layers, progress));
+        endPoolBefore(format);
+        return image.release();
+    });
+    result.failure = lastFailure();
+}
+
+AheadPool &aheadPool()
+{
+    constexpr unsigned kMostThreads = 16;
+    static AheadPool pool(int(std::min(std::thread::hardware_concurrency(), kMostThreads)), decodeAhead);
+    return pool;
+}
+
 } // namespace
 
 IImageCore *IImageCore::GetUniqueClass()
@@ -190,6 +234,7 @@ bool IImageCore::LoadLayers(const char *path, const char *format, std::set<std::
 CTImage *IImageCore::Load(const char *path, const char *format, const std::set<std::string> &names,
                           TLoadProgress progress, void *user)
 {
+    const AheadPool::RightOfWay first(aheadPool());
     Progress reported(progress, user);
     return guarded(path, [&]() -> CTImage * {
         const ImageLoader &loader = loaderOf(format);
@@ -201,6 +246,7 @@ CTImage *IImageCore::Load(const char *path, const char *format, const std::set<s
 CTImage *IImageCore::LoadPartial(const char *path, const char *format, const std::set<std::string> &names,
                                  TPartialLoad &load)
 {
+    const AheadPool::RightOfWay first(aheadPool());
     Progress reported(load.progress, load.user);
     load = {};
     return guarded(path, [&]() -> CTImage * {
@@ -208,6 +254,31 @@ CTImage *IImageCore::LoadPartial(const char *path, const char *format, const std
         const SourceFile file = LastSource::take(path);
         return std::make_unique<CTImage>(loader.loadPartial(file, names, reported, load)).release();
     });
+}
+
+int IImageCore::GetAheadThreads()
+{
+    return aheadPool().threads();
+}
+
+std::uint64_t IImageCore::BeginAhead(const TAheadRequest &request)
+{
+    return aheadPool().begin(request);
+}
+
+bool IImageCore::PollAhead(std::uint64_t id, TAheadResult &result)
+{
+    return aheadPool().poll(id, result);
+}
+
+bool IImageCore::TakeAhead(std::uint64_t id, TAheadResult &result)
+{
+    return aheadPool().take(id, result);
+}
+
+void IImageCore::CancelAhead(std::uint64_t id)
+{
+    aheadPool().cancel(id);
 }
 
 const TLoadFailure &IImageCore::GetLoadFailure()

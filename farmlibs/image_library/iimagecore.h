@@ -2,9 +2,11 @@
 
 #include "ctextensionsiterator.h"
 #include "ctimage.h"
+#include "taheadload.h"
 #include "tloadfailure.h"
 #include "tpartialload.h"
 
+#include <cstdint>
 #include <set>
 #include <string>
 
@@ -43,6 +45,23 @@ public:
     static CTImage *LoadPartial(const char *path, const char *format, const std::set<std::string> &names,
                                 TPartialLoad &load);
     using PartialLoad = TPartialLoad;
+
+    // Decoding ahead: images that will be needed soon, in threads of the library's own, each by one of them. Load() and
+    // LoadPartial() have the right of way. An addition to the interface: a farm's own library need not have it.
+
+    using AheadRequest = TAheadRequest;
+    using AheadResult = TAheadResult;
+    /// Images that are decoded at once.
+    static int GetAheadThreads();
+    /// Gives the job's number, never 0, which stands until it is handed over or cancelled.
+    static std::uint64_t BeginAhead(const TAheadRequest &request);
+    /// Hands over what is done; false, at once, while it is not.
+    static bool PollAhead(std::uint64_t id, TAheadResult &result);
+    /// Waits for a job that is being decoded, in which the other threads join where its format allows. False where it has
+    /// not been begun, or Load() would be sooner: the job ends then.
+    static bool TakeAhead(std::uint64_t id, TAheadResult &result);
+    /// Returns at once; what is being decoded ends at its next step.
+    static void CancelAhead(std::uint64_t id);
 
     /// Ends an image; null does nothing.
     static void DestroyImage(CTImage *image);

@@ -5,6 +5,7 @@
 #include "planes.h"
 
 #include <algorithm>
+#include <exception>
 #include <stdexcept>
 #include <utility>
 
@@ -12,11 +13,22 @@ namespace TImageLibrary {
 
 namespace {
 
-/// OpenImageIO's callback; true would stop it.
-bool reportProgress(void *progress, float fraction)
+/// Nothing is thrown through OpenImageIO.
+struct Report {
+    Progress &progress;
+    std::exception_ptr failure = nullptr;
+};
+
+/// OpenImageIO's callback; true stops it.
+bool reportProgress(void *user, float fraction)
 {
-    static_cast<Progress *>(progress)->report(double(fraction));
-    return false;
+    auto *report = static_cast<Report *>(user);
+    try {
+        report->progress.report(double(fraction));
+    } catch (...) {
+        report->failure = std::current_exception();
+    }
+    return report->failure != nullptr;
 }
 
 [[noreturn]] void fail(const OIIO::ImageInput &input)
@@ -169,9 +181,14 @@ void OiioFile::readInto(CTImageChannel &pixels, Progress &progress)
 {
     const TPlaneFormat &format = pixels.format();
     m_input->geterror(); // of the opening, which went well enough
+    if (progress.isAhead())
+        m_input->threads(1);
+    Report report{progress};
     const bool done = m_input->read_image(0, 0, 0, m_spec.nchannels, sampleType(format), pixels.data(),
                                           OIIO::stride_t(format.pixelBytes()), OIIO::AutoStride,
-                                          OIIO::AutoStride, reportProgress, &progress);
+                                          OIIO::AutoStride, reportProgress, &report);
+    if (report.failure)
+        std::rethrow_exception(report.failure);
     // Some decoders only mention that pixels were missing.
     if (!done || m_input->has_error())
         fail(*m_input);

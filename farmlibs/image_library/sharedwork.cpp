@@ -89,6 +89,15 @@ private:
     std::shared_ptr<Step> m_step;
 };
 
+/// Has as many of the pool's threads take part as there are turns for.
+void askPool(Work &work, const Steps &steps, IlmThread::TaskGroup &group)
+{
+    const auto turns = (steps.count + steps.atOnce - 1) / steps.atOnce;
+    const auto threads = std::size_t(IlmThread::ThreadPool::globalThreadPool().numThreads());
+    for (std::size_t i = 1; i < std::min(threads, turns); ++i)
+        IlmThread::ThreadPool::addGlobalTask(new PoolTask(&group, work, std::make_shared<Step>()));
+}
+
 } // namespace
 
 void shareWork(const Steps &steps, const std::function<Step()> &makeStep,
@@ -98,13 +107,19 @@ void shareWork(const Steps &steps, const std::function<Step()> &makeStep,
     {
         // Waits at its end for the tasks.
         IlmThread::TaskGroup group;
-        const auto turns = (steps.count + steps.atOnce - 1) / steps.atOnce;
-        const auto threads = std::size_t(IlmThread::ThreadPool::globalThreadPool().numThreads());
-        for (std::size_t i = 1; i < std::min(threads, turns); ++i)
-            IlmThread::ThreadPool::addGlobalTask(new PoolTask(&group, work, std::make_shared<Step>()));
         Step step;
-        while (work.goOn(step))
-            report(work.fractionDone());
+        bool isShared = false;
+        try {
+            do {
+                if (!isShared && !(steps.isAlone && steps.isAlone())) {
+                    isShared = true;
+                    askPool(work, steps, group);
+                }
+                report(work.fractionDone());
+            } while (work.goOn(step));
+        } catch (...) {
+            work.fail(std::current_exception());
+        }
     }
     work.rethrow();
 }

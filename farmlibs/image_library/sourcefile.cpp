@@ -76,6 +76,11 @@ SourceFile SourceFile::open(const char *path)
     return file;
 }
 
+void SourceFile::announce(const std::string &path)
+{
+    OpenFile::announce(nativePath(path));
+}
+
 bool SourceFile::isStill(const char *path) const
 {
     return path && m_path == path && OpenFile::stateOf(m_nativePath) == m_state;

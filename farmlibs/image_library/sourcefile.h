@@ -17,6 +17,9 @@ public:
     /// Opens a file. Throws when the path (UTF-8) names no regular file that can be read, or an empty one.
     static SourceFile open(const char *path);
 
+    /// Tells the system that the file, if it is one, will be read soon.
+    static void announce(const std::string &path);
+
     /// Whether the path still names this file, and nothing has been written to it since it was opened.
     bool isStill(const char *path) const;
 

@@ -12,6 +12,7 @@ constexpr SettingsRow kRows[] = {
     {"imageViewer/launchImageViewer", &Settings::launchImageViewer},
 
     {"viewer/showIncompleteFrames", &Settings::viewerShowIncompleteFrames},
+    {"viewer/readAhead", &Settings::viewerReadAhead},
 };
 
 } // namespace

@@ -45,6 +45,7 @@ struct Settings {
     QString imageViewer;
     bool launchImageViewer = false;
     bool viewerShowIncompleteFrames = true;
+    bool viewerReadAhead = true;
 
     bool operator==(const Settings &) const = default;
 

@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include <pwd.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 std::filesystem::path Machine::userSettingsFolder()
@@ -52,6 +53,15 @@ std::uint64_t Machine::memorySize()
     const long pages = sysconf(_SC_PHYS_PAGES);
     const long size = sysconf(_SC_PAGESIZE);
     return pages > 0 && size > 0 ? std::uint64_t(pages) * std::uint64_t(size) : 0;
+}
+
+void Machine::giveWay()
+{
+#ifdef __linux__
+    // Only here a thread has a priority of its own.
+    constexpr int kLower = 2;
+    setpriority(PRIO_PROCESS, 0, getpriority(PRIO_PROCESS, 0) + kLower);
+#endif
 }
 
 std::chrono::milliseconds Machine::timeAsleep()

@@ -22,6 +22,19 @@ std::optional<OpenFile::State> OpenFile::stateOf(const std::filesystem::path &pa
                  std::uint64_t(found.st_ino)};
 }
 
+void OpenFile::announce(const std::filesystem::path &path)
+{
+#ifdef POSIX_FADV_WILLNEED
+    if (!stateOf(path))
+        return;
+    const OpenFile file(path);
+    if (file.isOpen())
+        ::posix_fadvise(int(file.m_handle), 0, 0, POSIX_FADV_WILLNEED);
+#else
+    static_cast<void>(path);
+#endif
+}
+
 OpenFile::OpenFile(const std::filesystem::path &path)
     : m_handle(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
 { }

@@ -64,6 +64,11 @@ std::uint64_t Machine::memorySize()
     return GlobalMemoryStatusEx(&status) ? status.ullTotalPhys : 0;
 }
 
+void Machine::giveWay()
+{
+    SetThreadPriority(GetCurrentThread(), THREAD_PRIORITY_BELOW_NORMAL);
+}
+
 std::chrono::milliseconds Machine::timeAsleep()
 {
     ULONGLONG awake = 0; // in 100 ns

@@ -19,6 +19,8 @@ std::optional<OpenFile::State> OpenFile::stateOf(const std::filesystem::path &pa
                  std::int64_t(joined(changed.dwHighDateTime, changed.dwLowDateTime)), 0};
 }
 
+void OpenFile::announce(const std::filesystem::path &) { }
+
 OpenFile::OpenFile(const std::filesystem::path &path)
     : m_handle(reinterpret_cast<std::intptr_t>(
         CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,

@@ -146,10 +146,10 @@ private Q_SLOTS:
             {"imageViewer/imageViewerMode", "0", "1"},
             {"imageViewer/imageViewer", "", "C:\\viewer.exe"},
             {"imageViewer/launchImageViewer", "false", "true"},
-            {"viewer/showIncompleteFrames", "true", "false"},
+            {"viewer/showIncompleteFrames,readAhead", "true", "false"},
         };
         QVERIFY(saveSettings(Settings()));
-        QCOMPARE(QSettings().allKeys().size(), 35);
+        QCOMPARE(QSettings().allKeys().size(), 36);
         for (const auto &[names, byDefault, changed] : keys) {
             const QStringList group = QString::fromLatin1(names).split(u'/');
             for (const QString &name : group[1].split(u',')) {

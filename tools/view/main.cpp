@@ -115,8 +115,10 @@ int run(const ViewOptions &options)
     // What is grabbed is taken for the picture.
     const bool showIncomplete =
         options.grab.isEmpty() ? settings.viewerShowIncompleteFrames : options.incomplete;
-    auto *viewer = new ImageViewer(
-        totals, {settings.imageViewerExrImportGamma, settings.imageViewerDefaultImportGamma, showIncomplete});
+    const bool readAhead = options.grab.isEmpty() && settings.viewerReadAhead;
+    auto *viewer = new ImageViewer(totals,
+                                   {settings.imageViewerExrImportGamma,
+                                    settings.imageViewerDefaultImportGamma, showIncomplete, readAhead});
     if (options.grab.isEmpty()) {
         viewer->show();
         // A fault shows in the window, which can open something else.

@@ -1,7 +1,9 @@
 #include "framecache.h"
 
+#include <algorithm>
 #include <iterator>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -47,7 +49,22 @@ ImageFrame &FrameCache::insert(std::unique_ptr<ImageFrame> frame, const std::str
 {
     remove(path);
     place(*frame);
+    return keep(std::move(frame), path);
+}
 
+bool FrameCache::insert(std::unique_ptr<ImageFrame> frame, const std::string &path, Memory memory)
+{
+    remove(path);
+    frame->inVideoMemory = memory == Memory::Video;
+    if (!frame->inVideoMemory && !keepInMainMemory(*frame))
+        return false;
+    keep(std::move(frame), path);
+    return true;
+}
+
+ImageFrame &FrameCache::keep(std::unique_ptr<ImageFrame> frame, const std::string &path)
+{
+    ++m_version;
     ImageFrame &inserted = *frame;
     const auto entry = m_frames.emplace(path, Entry{std::move(frame), {}}).first;
     Queue &queue = queueOf(inserted);
@@ -80,6 +97,58 @@ bool FrameCache::trim(const std::string &keptPath)
     return m_frames.size() < before;
 }
 
+/// Bytes of the frames that stay.
+std::uint64_t FrameCache::kept(const Queue &queue, const Keep &isKept) const
+{
+    std::uint64_t bytes = 0;
+    for (const std::string *path : queue)
+        bytes += !isKept || isKept(*path) ? m_frames.find(*path)->second.frame->byteSize : 0;
+    return bytes;
+}
+
+std::uint64_t FrameCache::roomFor(std::uint64_t bytes, const Keep &isKept) const
+{
+    const auto room = [&](const Queue &queue, std::uint64_t used, std::uint64_t budget) {
+        const std::uint64_t others = used - kept(queue, nullptr);
+        const std::uint64_t staying = others + kept(queue, isKept);
+        return budget > staying ? (budget - staying) / std::max<std::uint64_t>(bytes, 1) : 0;
+    };
+    // Halves, so that their sum is a number too.
+    return std::min(room(m_videoMemory, m_totals.videoMemoryUsed, m_totals.videoMemoryBudget), UINT64_MAX / 2)
+        + std::min(room(m_mainMemory, m_totals.mainMemoryUsed, m_totals.mainMemoryBudget), UINT64_MAX / 2);
+}
+
+std::optional<FrameCache::Memory> FrameCache::makeRoom(std::uint64_t bytes, const Keep &isKept)
+{
+    struct Place {
+        Memory memory;
+        Queue &queue;
+        const std::uint64_t &used;
+        std::uint64_t budget;
+
+        bool fits(std::uint64_t more) const { return budget >= more && used <= budget - more; }
+    };
+    const Place places[] = {
+        {Memory::Video, m_videoMemory, m_totals.videoMemoryUsed, m_totals.videoMemoryBudget},
+        {Memory::Main, m_mainMemory, m_totals.mainMemoryUsed, m_totals.mainMemoryBudget}};
+    for (const Place &place : places) {
+        if (place.fits(bytes))
+            return place.memory;
+    }
+    for (const Place &place : places) {
+        const std::uint64_t leaving = isKept ? kept(place.queue, nullptr) - kept(place.queue, isKept) : 0;
+        if (bytes > place.budget || place.used - leaving > place.budget - bytes)
+            continue;
+        for (auto path = place.queue.begin(); path != place.queue.end() && !place.fits(bytes);) {
+            const auto entry = m_frames.find(**path++);
+            if (!isKept(entry->first))
+                destroy(entry);
+        }
+        return place.memory;
+    }
+    return std::nullopt;
+}
+
 void FrameCache::clear()
 {
     m_display.showFrame(nullptr);
@@ -104,6 +173,7 @@ void FrameCache::place(ImageFrame &frame)
 
 void FrameCache::destroy(Frames::iterator entry)
 {
+    ++m_version;
     ImageFrame &frame = *entry->second.frame;
     m_display.frameDies(frame);
     frame.deleteTextures();

@@ -6,9 +6,12 @@
 
 #include <QtCore/QtGlobal>
 
+#include <cstdint>
+#include <functional>
 #include <list>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 /// The decoded frames of one viewer window by their file path. A frame stays in video memory as textures or in main
@@ -29,6 +32,19 @@ public:
     /// Takes a frame whose planes are still there, in place of the one under that path, and decides which memory it
     /// stays in. Other frames may die.
     ImageFrame &insert(std::unique_ptr<ImageFrame> frame, const std::string &path);
+    enum class Memory { Video, Main };
+    /// Says which frames stay; none keeps all.
+    using Keep = std::function<bool(const std::string &path)>;
+    /// How many frames of a size fit within the budgets, each whole, when all go that are not kept.
+    std::uint64_t roomFor(std::uint64_t bytes, const Keep &isKept) const;
+    /// Drops the oldest frames that are not kept until one of a size fits within a budget, which it names; where that cannot
+    /// be, it drops none.
+    std::optional<Memory> makeRoom(std::uint64_t bytes, const Keep &isKept);
+    /// Takes a frame as above, into the memory where there is room for it; false where the system has none. Others stay.
+    bool insert(std::unique_ptr<ImageFrame> frame, const std::string &path, Memory memory);
+    /// Another number after each change.
+    std::uint64_t version() const { return m_version; }
+
     /// False when there is no such frame.
     bool remove(const std::string &path);
     /// Drops the oldest frames until the budgets hold, but for the one under `keptPath`. True when any went.
@@ -46,6 +62,8 @@ private:
     using Frames = std::map<std::string, Entry>;
 
     void place(ImageFrame &frame);
+    ImageFrame &keep(std::unique_ptr<ImageFrame> frame, const std::string &path);
+    std::uint64_t kept(const Queue &queue, const Keep &isKept) const;
     void destroy(Frames::iterator entry);
     Queue &queueOf(const ImageFrame &frame);
     std::uint64_t &usedBy(const ImageFrame &frame);
@@ -55,4 +73,5 @@ private:
     Frames m_frames;
     Queue m_videoMemory;
     Queue m_mainMemory;
+    std::uint64_t m_version = 0;
 };

@@ -1,8 +1,8 @@
 #include "frameloader.h"
 
 #include "framebuilder.h"
-#include "framecache.h"
 #include "framedisplay.h"
+#include "readahead.h"
 #include "viewerlog.h"
 
 #include <framework/filesystem.h>
@@ -98,6 +98,8 @@ LoadResult FrameLoader::load(const LoadRequest &request)
         result.outcome = LoadOutcome::NotFound;
         return result;
     }
+    if (loadAhead(request, result))
+        return result;
     const char *format = IImageCore::Probe(request.path.c_str());
     if (!format) {
         m_display.showFrame(nullptr);
@@ -109,14 +111,58 @@ LoadResult FrameLoader::load(const LoadRequest &request)
         result.outcome = failure(request, result);
         return result;
     }
+    chooseLayer(request, names, result);
+    result.outcome = loadLayer(request, format, result);
+    result.decoded = result.shown();
+    return result;
+}
+
+void FrameLoader::chooseLayer(const LoadRequest &request, const std::set<std::string> &names,
+                              LoadResult &result)
+{
     LayerList layers = listLayers(names);
     if (!m_lastLayers || layers != *m_lastLayers)
         m_lastLayers = std::make_shared<const LayerList>(std::move(layers));
     result.layers = m_lastLayers;
     result.layer = result.layers->resolved(request.layer);
-    result.outcome = loadLayer(request, format, result);
+}
+
+bool FrameLoader::isAsRequested(const AheadImage &ahead, const LoadRequest &request, LoadResult &result)
+{
+    chooseLayer(request, ahead.names, result);
+    return result.layers->members(result.layer) == ahead.asked;
+}
+
+/// False where there is no such image, or the file is another by now.
+bool FrameLoader::loadAhead(const LoadRequest &request, LoadResult &result)
+{
+    auto ahead = m_ahead ? m_ahead->take(request.path) : std::nullopt;
+    if (!ahead || ahead->stamp != result.stamp || !isAsRequested(*ahead, request, result))
+        return false;
+    m_incomplete.clear();
+    result.outcome = showImage(std::move(ahead->image), request, ahead->format, result);
     result.decoded = result.shown();
-    return result;
+    return true;
+}
+
+bool FrameLoader::keep(AheadImage &&ahead, const LoadRequest &request)
+{
+    LoadResult result;
+    result.stamp = ahead.stamp;
+    LoadRequest own = request;
+    own.path = ahead.path;
+    auto frame =
+        isAsRequested(ahead, request, result) ? makeFrame(ahead.image, own, ahead.format, result) : nullptr;
+    const auto memory = frame ? m_cache.makeRoom(frame->byteSize, request.isKept) : std::nullopt;
+    if (!memory)
+        return false;
+    if (memory == FrameCache::Memory::Video)
+        m_display.uploadTextures(*frame);
+    ImageFrame &made = *frame;
+    if (made.refusal != Refusal::None || !m_cache.insert(std::move(frame), ahead.path, *memory))
+        return false;
+    made.planes.clear(); // they go with the image
+    return true;
 }
 
 /// A frame in main memory is uploaded anew, which may be refused this time: it is read again then, which fits it.
@@ -169,15 +215,19 @@ Image FrameLoader::loadImage(const LoadRequest &request, const std::string &form
 LoadOutcome FrameLoader::loadLayer(const LoadRequest &request, const std::string &format, LoadResult &result)
 {
     Image image = loadImage(request, format, result);
-    if (!image)
-        return outcomeOf(result.failure);
+    return image ? showImage(std::move(image), request, format, result) : outcomeOf(result.failure);
+}
+
+std::unique_ptr<ImageFrame> FrameLoader::makeFrame(Image &image, const LoadRequest &request,
+                                                   const std::string &format, LoadResult &result)
+{
     const std::int32_t wanted = std::clamp(request.downsampling, 0, LoadRequest::kMaxDownsampling);
     result.forcedHalvings = halvingsToFit(*image, wanted, m_display.longestSide());
     const PlaneSize full{image->GetWidth(), image->GetHeight()};
     image = downsampled(std::move(image), wanted + result.forcedHalvings);
     auto frame = image ? buildFrame(*image, *result.layers, result.layer) : nullptr;
     if (!frame)
-        return LoadOutcome::NothingShown;
+        return nullptr;
     scale(result.partial, full, frame->planeSizes.front());
 
     frame->layers = result.layers;
@@ -189,10 +239,21 @@ LoadOutcome FrameLoader::loadLayer(const LoadRequest &request, const std::string
     frame->forcedHalvings = result.forcedHalvings;
     frame->partial = result.partial;
     frame->display = &m_display;
+    return frame;
+}
+
+LoadOutcome FrameLoader::showImage(Image image, const LoadRequest &request, const std::string &format,
+                                   LoadResult &result)
+{
+    auto frame = makeFrame(image, request, format, result);
+    if (!frame)
+        return LoadOutcome::NothingShown;
     m_display.uploadTextures(*frame);
     result.refusal = frame->refusal;
     if (result.refusal != Refusal::None)
         return LoadOutcome::Refused;
+    if (request.isKept)
+        m_cache.makeRoom(frame->byteSize, request.isKept);
     ImageFrame &kept = m_cache.insert(std::move(frame), request.path);
     m_display.showFrame(&kept);
     kept.planes.clear(); // they go with the image

@@ -2,6 +2,7 @@
 
 #include "compositelayers.h"
 #include "filestamp.h"
+#include "framecache.h"
 #include "imageframe.h"
 
 #include <helpers/imageextras.h>
@@ -13,8 +14,8 @@
 #include <set>
 #include <string>
 
-class FrameCache;
-class FrameDisplay;
+class ReadAhead;
+struct AheadImage;
 
 /// Asks for one frame.
 struct LoadRequest {
@@ -25,6 +26,7 @@ struct LoadRequest {
     TImageLibrary::TLoadProgress progress = nullptr;
     void *user = nullptr; ///< handed to `progress`
     bool showIncomplete = false; ///< what there is of a file that is no whole one
+    FrameCache::Keep isKept = nullptr; ///< frames that others make room before
 
     static constexpr std::int32_t kMaxDownsampling = 4;
 };
@@ -68,20 +70,34 @@ class FrameLoader final {
 public:
     /// Both must outlive the loader.
     FrameLoader(FrameCache &cache, FrameDisplay &display);
+    /// Has images that were read ahead, or are about to be, taken from there; it outlives the loader.
+    void takeFrom(ReadAhead &ahead) { m_ahead = &ahead; }
 
     LoadResult load(const LoadRequest &request);
+    /// Puts an image that was read ahead into the cache, as the request, whose path does not matter, would load it. False
+    /// where it has no room beside what is kept, or is not what the request would load.
+    bool keep(AheadImage &&ahead, const LoadRequest &request);
 
 private:
     bool showCached(ImageFrame &frame, LoadResult &result);
     FarmHelpers::ImagePointer loadImage(const LoadRequest &request, const std::string &format,
                                         LoadResult &result);
     LoadOutcome loadLayer(const LoadRequest &request, const std::string &format, LoadResult &result);
+    bool loadAhead(const LoadRequest &request, LoadResult &result);
+    void chooseLayer(const LoadRequest &request, const std::set<std::string> &names, LoadResult &result);
+    bool isAsRequested(const AheadImage &ahead, const LoadRequest &request, LoadResult &result);
+    /// A frame on the image, which takes another size; null when nothing of it can be shown.
+    std::unique_ptr<ImageFrame> makeFrame(FarmHelpers::ImagePointer &image, const LoadRequest &request,
+                                          const std::string &format, LoadResult &result);
+    LoadOutcome showImage(FarmHelpers::ImagePointer image, const LoadRequest &request,
+                          const std::string &format, LoadResult &result);
     /// Tells why in the result, and once for each reason in the log.
     LoadOutcome failure(const LoadRequest &request, LoadResult &result);
     void noteFailure(const LoadRequest &request, LoadResult &result);
 
     FrameCache &m_cache;
     FrameDisplay &m_display;
+    ReadAhead *m_ahead = nullptr;
     std::shared_ptr<const LayerList> m_lastLayers; // most frames of a sequence have the same
     std::set<std::string> m_logged;
     std::string m_incomplete; // the file that was loaded last, where it was no whole one

@@ -19,10 +19,15 @@ Playback::Playback(QObject *parent)
 
 Playback::~Playback() = default;
 
+double Playback::period() const
+{
+    return std::min(kMillisecondsPerSecond / double(m_framesPerSecond),
+                    double(std::numeric_limits<int>::max()));
+}
+
 int Playback::interval() const
 {
-    const double milliseconds = kMillisecondsPerSecond / double(m_framesPerSecond);
-    return int(std::min(milliseconds, double(std::numeric_limits<int>::max())));
+    return int(period());
 }
 
 void Playback::setFramesPerSecond(float framesPerSecond)
@@ -39,7 +44,10 @@ void Playback::start()
     m_timer->setSingleShot(true);
     m_timer->setTimerType(Qt::PreciseTimer);
     connect(m_timer.get(), &QTimer::timeout, this, &Playback::step);
-    m_timer->start(interval());
+    m_isPostponed = false;
+    m_clock.start();
+    m_due = 0.0;
+    wait();
     m_measured.start();
     m_steps = 0;
     Q_EMIT playingChanged(true);
@@ -54,14 +62,31 @@ void Playback::stop()
     Q_EMIT playingChanged(false);
 }
 
+void Playback::goOn()
+{
+    if (m_timer && m_isPostponed)
+        step();
+}
+
 void Playback::step()
 {
     const QPointer<Playback> self(this);
+    m_isPostponed = false;
     Q_EMIT stepDue();
-    if (!self || !m_timer)
+    if (!self || !m_timer || m_isPostponed)
         return;
     measure();
-    m_timer->start(interval());
+    wait();
+}
+
+/// For the end of the period that has begun, with its fraction of a millisecond; late by a period or more, from now on.
+void Playback::wait()
+{
+    const double now = double(m_clock.nsecsElapsed()) * 1e-6;
+    m_due += period();
+    if (now - m_due > period())
+        m_due = now;
+    m_timer->start(int(std::lround(std::clamp(m_due - now, 0.0, double(std::numeric_limits<int>::max())))));
 }
 
 void Playback::measure()

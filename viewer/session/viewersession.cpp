@@ -38,7 +38,11 @@ ViewerSession::ViewerSession(CacheTotals &totals, FrameDisplay &display, QObject
     , m_progress(&seconds)
 {
     connect(&m_playback, &Playback::stepDue, this, &ViewerSession::playStep);
+    connect(&m_playback, &Playback::playingChanged, this, &ViewerSession::lookOn);
     connect(&m_watch, &FrameWatch::mayBeThere, this, &ViewerSession::lookAgain);
+    connect(&m_lookAhead, &LookAhead::arrived, this, &ViewerSession::readAhead);
+    // A frame that has come is painted in another turn of the event loop than it is uploaded in.
+    connect(&m_lookAhead, &LookAhead::waitedFor, &m_playback, &Playback::goOn, Qt::QueuedConnection);
 }
 
 void ViewerSession::setJob(JobFrames job)
@@ -71,7 +75,9 @@ void ViewerSession::show(OpenedFrames found, bool another)
 {
     m_playback.stop();
     m_watch.stop();
+    m_lookAhead.end();
     m_cache.clear();
+    m_frameBytes = 0;
     m_states.clear();
     const FrameSequence before = std::exchange(m_sequence, std::move(found.sequence));
     m_frame = found.frame;
@@ -135,11 +141,19 @@ bool ViewerSession::step()
     return true;
 }
 
+/// A frame that is on its way is waited for in the event loop, not in a load.
 void ViewerSession::playStep()
 {
-    if (m_held || step() || m_played.empty() || m_played.front() == m_frame)
+    if (m_held || m_played.empty())
         return;
-    moveTo(m_played.front());
+    const std::int64_t next = steppedFrame(m_played, m_frame, m_range.step).value_or(m_frame);
+    const auto frame = std::int32_t(next == m_frame ? m_played.front() : next);
+    if (frame == m_frame)
+        return;
+    if (m_lookAhead.waitFor(m_sequence.fileOf(frame)))
+        m_playback.postpone();
+    else
+        moveTo(frame);
 }
 
 void ViewerSession::setRange(const PlaybackRange &range)
@@ -148,10 +162,13 @@ void ViewerSession::setRange(const PlaybackRange &range)
         return;
     m_range = range;
     listPlayed();
+    m_lookAhead.end(); // another range may have as many frames
     Q_EMIT rangeChanged();
     const long within = std::clamp(long(m_frame), range.start, range.end);
     if (within != m_frame)
         moveTo(within);
+    else
+        lookOn();
 }
 
 void ViewerSession::listPlayed()
@@ -181,6 +198,12 @@ void ViewerSession::setShowIncomplete(bool on)
         loadAnew();
 }
 
+void ViewerSession::setReadAhead(bool on)
+{
+    m_lookAhead.setOn(on);
+    lookOn();
+}
+
 void ViewerSession::setDownsampling(std::int32_t halvings)
 {
     m_downsampling = halvings;
@@ -191,26 +214,44 @@ void ViewerSession::applyBudgets()
 {
     if (m_cache.trim(file()))
         Q_EMIT cacheTrimmed();
+    lookOn();
 }
 
 void ViewerSession::loadAnew()
 {
+    m_lookAhead.end();
     m_cache.clear();
     load(false);
 }
 
-void ViewerSession::load(bool fresh)
+LoadRequest ViewerSession::loadRequest()
 {
     LoadRequest request;
-    request.path = file();
-    if (request.path.empty())
-        return;
     request.layer = m_chosenLayer;
     request.premultiplied = m_premultiplied;
     request.downsampling = m_downsampling;
     request.showIncomplete = m_showIncomplete;
     request.progress = &ViewerSession::progressed;
     request.user = this;
+    if (m_lookAhead.isOn() && m_playback.isPlaying())
+        request.isKept = [this](const std::string &path) { return m_lookAhead.keeps(path); };
+    return request;
+}
+
+void ViewerSession::lookOn()
+{
+    const ImageFrame *frame = m_cache.find(file());
+    m_frameBytes = frame ? frame->byteSize : m_frameBytes;
+    m_lookAhead.goOn({m_frame, std::int32_t(m_range.step), m_playback.isPlaying(), m_frameBytes,
+                      m_layers->members(m_layers->resolved(m_chosenLayer)), loadRequest()});
+}
+
+void ViewerSession::load(bool fresh)
+{
+    LoadRequest request = loadRequest();
+    request.path = file();
+    if (request.path.empty())
+        return;
     // Which file a mask's first will be nobody knows: its folder tells of any.
     const QString path = QString::fromStdString(request.path);
     const QString watched = m_sequence.isAwaited ? QFileInfo(path).absolutePath() : path;
@@ -231,6 +272,7 @@ void ViewerSession::load(bool fresh)
         m_watch.watch(watched, m_sequence.isAwaited ? folder : m_lastLoad.stamp);
     else
         m_watch.stop();
+    lookOn();
     if (shown && !std::exchange(m_anyShown, true))
         Q_EMIT firstFrameShown();
     Q_EMIT loaded();

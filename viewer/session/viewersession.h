@@ -2,13 +2,11 @@
 
 #include "framewatch.h"
 #include "jobframes.h"
+#include "lookahead.h"
 #include "marking.h"
 #include "playback.h"
 #include "playbackrange.h"
 
-#include <viewer/frames/framecache.h>
-#include <viewer/frames/frameloader.h>
-#include <viewer/frames/framesequence.h>
 #include <viewer/frames/framestates.h>
 #include <viewer/frames/loadprogress.h>
 
@@ -17,7 +15,6 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <vector>
 
 /// What one viewer window shows, without the window: the sequence, the frame of it on show, the range that plays, the layer,
 /// the marks. It loads frames onto a display, from its cache or from their files, and again when one that was missing,
@@ -48,10 +45,12 @@ public:
     const std::string &chosenLayer() const { return m_chosenLayer; }
     const LoadResult &lastLoad() const { return m_lastLoad; }
     const FrameCache &cache() const { return m_cache; }
+    const LookAhead &lookAhead() const { return m_lookAhead; }
     /// What is known of the frames that were looked at.
     const FrameStates &states() const { return m_states; }
     const Marking &marking() const { return m_marking; }
     Playback &playback() { return m_playback; }
+    const Playback &playback() const { return m_playback; }
     /// True where the frame on show can be marked: there is a job.
     bool canMark() const { return m_job.isSet() && !m_sequence.framesPath.empty(); }
 
@@ -74,6 +73,9 @@ public:
     void setPremultiplied(bool on);
     /// Shows what there is of frames that are being written or damaged; else they count as broken.
     void setShowIncomplete(bool on);
+    /// Reads frames before they are due; off at first.
+    void setReadAhead(bool on);
+    LookAhead &lookAhead() { return m_lookAhead; }
     /// Forgets every frame that was loaded, and loads the one on show.
     void loadAnew();
     /// Halvings of width and height.
@@ -104,8 +106,9 @@ Q_SIGNALS:
     /// A load has ended, as lastLoad() says.
     void loaded();
     void marksChanged();
-    /// Frames have left the cache without a load.
+    // Frames have left the cache, or one was read ahead into it, without a load.
     void cacheTrimmed();
+    void readAhead();
 
 private:
     FramesOrigin origin() const;
@@ -116,6 +119,8 @@ private:
     /// `fresh` for the first frame of a path: a layer that it lacks is chosen no longer.
     void load(bool fresh);
     void playStep();
+    LoadRequest loadRequest();
+    void lookOn();
     static void progressed(float fraction, void *session);
 
     FrameDisplay &m_display;
@@ -140,4 +145,6 @@ private:
     bool m_showIncomplete = true;
     bool m_anyShown = false; // of the sequence
     bool m_held = false;
+    std::uint64_t m_frameBytes = 0; // in memory, of the frame shown last
+    LookAhead m_lookAhead{m_cache, m_loader, m_sequence, m_played};
 };
