@@ -1030,6 +1030,10 @@ Was die Renderfarm von Ihren Jobs meldet, erscheint hier.</translation>
         <source>What is wrong: %1</source>
         <translation>Was nicht stimmt: %1</translation>
     </message>
+    <message>
+        <source>%1 s ahead</source>
+        <translation>%1 s voraus</translation>
+    </message>
 </context>
 <context>
     <name>MarkingControls</name>

@@ -1030,6 +1030,10 @@ Lo que la granja de render comunique sobre sus trabajos aparecerá aquí.</trans
         <source>What is wrong: %1</source>
         <translation>Qué falla: %1</translation>
     </message>
+    <message>
+        <source>%1 s ahead</source>
+        <translation>%1 s por delante</translation>
+    </message>
 </context>
 <context>
     <name>MarkingControls</name>

@@ -1030,6 +1030,10 @@ Ce que la ferme de rendu signale au sujet de vos jobs apparaît ici.</translatio
         <source>What is wrong: %1</source>
         <translation>Problème&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>%1 s ahead</source>
+        <translation>%1 s d&apos;avance</translation>
+    </message>
 </context>
 <context>
     <name>MarkingControls</name>

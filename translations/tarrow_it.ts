@@ -1030,6 +1030,10 @@ Ciò che la render farm comunica sui propri job appare qui.</translation>
         <source>What is wrong: %1</source>
         <translation>Problema: %1</translation>
     </message>
+    <message>
+        <source>%1 s ahead</source>
+        <translation>%1 s di anticipo</translation>
+    </message>
 </context>
 <context>
     <name>MarkingControls</name>

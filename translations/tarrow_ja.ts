@@ -1030,6 +1030,10 @@ What the farm tells of your jobs appears here.</source>
         <source>What is wrong: %1</source>
         <translation>問題点: %1</translation>
     </message>
+    <message>
+        <source>%1 s ahead</source>
+        <translation>%1 秒先まで準備済み</translation>
+    </message>
 </context>
 <context>
     <name>MarkingControls</name>

@@ -1030,6 +1030,10 @@ What the farm tells of your jobs appears here.</source>
         <source>What is wrong: %1</source>
         <translation>문제: %1</translation>
     </message>
+    <message>
+        <source>%1 s ahead</source>
+        <translation>%1초 앞까지 준비됨</translation>
+    </message>
 </context>
 <context>
     <name>MarkingControls</name>

@@ -1030,6 +1030,10 @@ What the farm tells of your jobs appears here.</source>
         <source>What is wrong: %1</source>
         <translation>问题：%1</translation>
     </message>
+    <message>
+        <source>%1 s ahead</source>
+        <translation>已预读 %1 秒</translation>
+    </message>
 </context>
 <context>
     <name>MarkingControls</name>
