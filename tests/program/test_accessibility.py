@@ -46,7 +46,8 @@ def first_start_is_walked():
 
 def test():
     budgets = {"imageViewerMaxGPUCache": 0, "imageViewerMaxRAMCache": 92160}
-    write_settings({"behaviours": {"showBubble": "false", "autoAckOnRaise": "false"}, "imageViewer": budgets})
+    write_settings({"behaviours": {"showBubble": "false", "autoAckOnRaise": "false"}, "imageViewer": budgets,
+                    "viewer": {"readAhead": "false"}})
     night = farm("--jobs", "1", "--rate", "400", "--once")
     program = alertor("-server", "127.0.0.1", "-port", str(night.port), **accessible.ENVIRONMENT)
     program.expect(EVENT, int(night.expect(r"^sent (\d+) events$").group(1)))
