@@ -64,12 +64,5 @@ void Look::installPalette()
 void Look::follow()
 {
     QApplication::setFont(font());
-    installStyleSheet();
-}
-
-void Look::installStyleSheet()
-{
-    const QString sheet = StyleSheets::forProgram(QApplication::palette());
-    if (!sheet.isEmpty())
-        m_application.setStyleSheet(sheet);
+    StyleSheets::install(m_application, QApplication::palette());
 }

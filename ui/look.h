@@ -27,7 +27,6 @@ public:
 private:
     void follow();
     void installPalette();
-    void installStyleSheet();
 
     QApplication &m_application;
     DesktopAppearance m_appearance;

@@ -4,12 +4,19 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
+#include <QtGui/QFont>
 #include <QtGui/QPalette>
+#include <QtWidgets/QApplication>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace {
+
+constexpr double kSmallestPoints = 9;
+constexpr double kViewerStep = 0.75; // of the other windows' text
 
 constexpr std::array<std::pair<const char *, QPalette::ColorRole>, 16> kRoles{{
     {"window", QPalette::Window},
@@ -72,6 +79,35 @@ QString resolved(QString sheet, const QPalette &palette)
     return result += QStringView(sheet).mid(done);
 }
 
+/// The sheet for what lies within others alone.
+QString within(const QString &outer, QString sheet)
+{
+    static const QRegularExpression comment(QStringLiteral("/\\*.*?\\*/"),
+                                            QRegularExpression::DotMatchesEverythingOption);
+    QString result;
+    for (const QString &rule : sheet.remove(comment).split(u'}', Qt::SkipEmptyParts)) {
+        const qsizetype body = rule.indexOf(u'{');
+        if (body < 0)
+            continue;
+        QStringList selectors = rule.left(body).split(u',');
+        for (QString &selector : selectors)
+            selector = outer + selector.trimmed();
+        result += selectors.join(u',') + rule.mid(body) + u'}';
+    }
+    return result;
+}
+
+/// A step smaller than in the other windows, but no smaller than a desktop's usual size. A rule, since under a sheet a
+/// widget's font does not reach its children.
+QString viewerText()
+{
+    const double size = QApplication::font().pointSizeF();
+    const double wanted = std::round(std::max(kSmallestPoints, size * kViewerStep));
+    return wanted < size ? QStringLiteral("ImageViewer QWidget{font-size:%1pt}").arg(wanted) : QString();
+}
+
+bool isViewerWanted = false;
+
 } // namespace
 
 QString StyleSheets::forProgram(const QPalette &palette)
@@ -82,8 +118,22 @@ QString StyleSheets::forProgram(const QPalette &palette)
 QString StyleSheets::forViewer()
 {
     static const QString sheet =
-        resolved(textOf(QStringLiteral("tarrow.qss")) + textOf(QStringLiteral("shared.qss"))
-                     + textOf(QStringLiteral("viewer.qss")),
-                 Theme::neutral());
-    return sheet;
+        within(QStringLiteral("ImageViewer "),
+               resolved(textOf(QStringLiteral("tarrow.qss")) + textOf(QStringLiteral("shared.qss"))
+                            + textOf(QStringLiteral("viewer.qss")),
+                        Theme::neutral()));
+    return sheet + viewerText();
+}
+
+void StyleSheets::install(QApplication &application, const QPalette &palette)
+{
+    const QString sheet = forProgram(palette) + (isViewerWanted ? forViewer() : QString());
+    if (!sheet.isEmpty())
+        application.setStyleSheet(sheet);
+}
+
+void StyleSheets::wantViewer(QApplication &application)
+{
+    if (!std::exchange(isViewerWanted, true))
+        application.setStyleSheet(application.styleSheet() + forViewer());
 }

@@ -2,6 +2,7 @@
 
 #include <QtCore/QString>
 
+class QApplication;
 class QPalette;
 
 /// The program's style sheets in the colours of a palette.
@@ -13,7 +14,13 @@ namespace StyleSheets {
 
 /// For every window: tarrow.qss, then shared.qss. Empty when neither can be read.
 QString forProgram(const QPalette &palette);
-/// For the picture viewer's windows and what opens from them, over the program's: in neutral greys.
+/// For the picture viewer's windows and what opens from them, behind the program's: in neutral greys, and in a size of text
+/// that leaves the room to the picture.
 QString forViewer();
+
+/// Gives the program its sheets; those for the viewer from the first wantViewer() on, which comes before a viewer is made:
+/// a start does not pay for them.
+void install(QApplication &application, const QPalette &palette);
+void wantViewer(QApplication &application);
 
 } // namespace StyleSheets

@@ -59,8 +59,7 @@ ImageViewer::ImageViewer(CacheTotals &totals, const ViewerSettings &settings, QW
     setName(QStringLiteral("imageViewer"));
     setShowSetSize(true);
     setPalette(Theme::neutral());
-    setStyleSheet(StyleSheets::forViewer());
-    content()->setStyleSheet(textSheet());
+    StyleSheets::wantViewer(*qApp);
     m_ui->setupUi(content());
     giveIcons(*m_ui);
     m_session = std::make_unique<ViewerSession>(totals, picture());
@@ -355,8 +354,6 @@ void ImageViewer::closeEvent(QCloseEvent *event)
 
 bool ImageViewer::event(QEvent *event)
 {
-    if (event->type() == QEvent::ApplicationFontChange)
-        content()->setStyleSheet(textSheet());
     if (event->type() == QEvent::LanguageChange || event->type() == QEvent::ApplicationFontChange)
         retranslate();
     // Of several viewers, the one in use reads first.

@@ -3,30 +3,13 @@
 #include "ui_imageviewer.h"
 #include "viewericons.h"
 
-#include <QtGui/QFont>
-#include <QtWidgets/QApplication>
-
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
-constexpr double kSmallestPoints = 9;
-constexpr double kSmallestPixels = 12;
-constexpr double kStep = 0.75; // of the other windows' text
 constexpr int kSmallestIcon = 16;
 
 } // namespace
-
-QString textSheet()
-{
-    const QFont font = QApplication::font();
-    const bool inPixels = font.pixelSize() > 0;
-    const double size = inPixels ? std::max(kSmallestPixels, font.pixelSize() * kStep)
-                                 : std::max(kSmallestPoints, font.pointSizeF() * kStep);
-    return QStringLiteral("QWidget { font-size: %1%2; }")
-        .arg(QString::number(std::round(size)), inPixels ? QStringLiteral("px") : QStringLiteral("pt"));
-}
 
 void giveIcons(const Ui::ImageViewerClass &form)
 {
