@@ -70,6 +70,7 @@ constexpr CheckBox kCheckBoxes[] = {
     {&Form::playServiceSound, &Settings::playServiceSound},
     {&Form::launchImageViewer, &Settings::launchImageViewer},
     {&Form::showIncompleteFrames, &Settings::viewerShowIncompleteFrames},
+    {&Form::readAhead, &Settings::viewerReadAhead},
     {&Form::skipDirectoryAuthentication, &Settings::skipDirectoryAuthentication},
     {&Form::showBubble, &Settings::showBubble},
     {&Form::autoAckOnRaise, &Settings::autoAckOnRaise},

@@ -1670,5 +1670,9 @@ Ein Rechtsklick auf dieses Symbol öffnet das Kontextmenü, ein Doppelklick holt
         <source>Show incomplete frames</source>
         <translation>Unvollständige Frames zeigen</translation>
     </message>
+    <message>
+        <source>Read ahead</source>
+        <translation>Vorauslesen</translation>
+    </message>
 </context>
 </TS>

@@ -1670,5 +1670,9 @@ Haga clic derecho en este icono para abrir el menú o doble clic para mostrar la
         <source>Show incomplete frames</source>
         <translation>Mostrar fotogramas incompletos</translation>
     </message>
+    <message>
+        <source>Read ahead</source>
+        <translation>Leer por adelantado</translation>
+    </message>
 </context>
 </TS>

@@ -1670,5 +1670,9 @@ Cliquez avec le bouton droit sur cette icône pour le menu contextuel ou double-
         <source>Show incomplete frames</source>
         <translation>Afficher les images incomplètes</translation>
     </message>
+    <message>
+        <source>Read ahead</source>
+        <translation>Charger à l&apos;avance</translation>
+    </message>
 </context>
 </TS>

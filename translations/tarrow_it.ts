@@ -1670,5 +1670,9 @@ Fare clic destro su questa icona per il menu contestuale o doppio clic per mostr
         <source>Show incomplete frames</source>
         <translation>Mostra fotogrammi incompleti</translation>
     </message>
+    <message>
+        <source>Read ahead</source>
+        <translation>Leggi in anticipo</translation>
+    </message>
 </context>
 </TS>

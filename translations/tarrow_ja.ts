@@ -1670,5 +1670,9 @@ Right-click on this icon to access the context menu or double click to raise the
         <source>Show incomplete frames</source>
         <translation>不完全なフレームを表示</translation>
     </message>
+    <message>
+        <source>Read ahead</source>
+        <translation>先読み</translation>
+    </message>
 </context>
 </TS>

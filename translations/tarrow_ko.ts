@@ -1670,5 +1670,9 @@ Right-click on this icon to access the context menu or double click to raise the
         <source>Show incomplete frames</source>
         <translation>불완전한 프레임 표시</translation>
     </message>
+    <message>
+        <source>Read ahead</source>
+        <translation>미리 읽기</translation>
+    </message>
 </context>
 </TS>

@@ -1670,5 +1670,9 @@ Right-click on this icon to access the context menu or double click to raise the
         <source>Show incomplete frames</source>
         <translation>显示不完整的帧</translation>
     </message>
+    <message>
+        <source>Read ahead</source>
+        <translation>预读</translation>
+    </message>
 </context>
 </TS>
