@@ -11,6 +11,17 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 
+/// All entries, or those that can be chosen.
+inline QString textsOf(const QMenu *menu, bool enabled = false)
+{
+    QStringList texts;
+    for (const QAction *action : menu->actions()) {
+        if (!enabled || (action->isEnabled() && !action->isSeparator()))
+            texts += action->isSeparator() ? QStringLiteral("-") : action->text();
+    }
+    return texts.join(u'|');
+}
+
 /// The window on a link of its own.
 struct Farm {
     static void prepare()

@@ -21,10 +21,7 @@ class TranslationsTest final : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        m_look = std::make_unique<Look>(*qApp);
-    }
+    void initTestCase() { m_look = std::make_unique<Look>(*qApp); }
     void cleanup()
     {
         qDeleteAll(qApp->findChildren<QTranslator *>());
@@ -49,7 +46,8 @@ private Q_SLOTS:
 
     void everyLanguage_data()
     {
-        addTable<int>({"none"}, {{"de", 0}, {"es", 0}, {"fr", 0}, {"it", 0}, {"ja", 0}, {"ko", 0}, {"zh_CN", 0}});
+        addTable<int>({"none"},
+                      {{"de", 0}, {"es", 0}, {"fr", 0}, {"it", 0}, {"ja", 0}, {"ko", 0}, {"zh_CN", 0}});
     }
     /// Its mnemonics are unique and its texts are shown whole.
     void everyLanguage()
