@@ -20,7 +20,7 @@ constexpr int kAcknowledgedWidth = 30;
 constexpr int kMeasured = 60; // of the rows that came at once, the last
 constexpr int kStep = 4; // digits of other widths do not move the columns
 constexpr int kLargest = 10'000; // that a stored width may say
-constexpr int kLeastMessage = 11; // mean letters
+constexpr int kLeastMessage = 22; // mean letters
 
 struct Column {
     const char *name; // in the settings

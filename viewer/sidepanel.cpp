@@ -64,7 +64,7 @@ void SidePanel::tellFile()
     for (QString &line : lines)
         line = label.fontMetrics().elidedText(shortened(line), Qt::ElideMiddle, width);
     label.setText(lines.join(u'\n'));
-    const QSize size(width, int(lines.size()) * label.fontMetrics().lineSpacing());
+    const QSize size(width, label.sizeHint().height());
     if (label.size() != size || label.minimumSize() != size)
         label.setFixedSize(size);
     m_form.fileTitle->setHidden(lines.isEmpty());
