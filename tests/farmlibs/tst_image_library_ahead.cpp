@@ -220,7 +220,7 @@ private:
         };
     }
 
-    const ImageFolder m_folder;
+    ImageFolder m_folder;
 };
 
 QTEST_GUILESS_MAIN(ImageLibraryAheadTest)
