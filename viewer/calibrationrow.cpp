@@ -2,6 +2,7 @@
 
 #include <ui/numbertext.h>
 
+#include <QtCore/QLocale>
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
@@ -110,7 +111,7 @@ void CalibrationRow::fieldEdited()
 
 QString CalibrationRow::fieldText() const
 {
-    return QString::number(double(m_value), 'f', kDecimals);
+    return QLocale().toString(double(m_value), 'f', kDecimals);
 }
 
 void CalibrationRow::writeField()

@@ -6,6 +6,7 @@
 #include <ui/numbertext.h>
 #include <viewer/session/viewersession.h>
 
+#include <QtCore/QLocale>
 #include <QtCore/QSignalBlocker>
 
 #include <algorithm>
@@ -87,8 +88,9 @@ void TransportControls::connectFields()
     m_form.fps->setText(QString::number(double(playback.framesPerSecond())));
     connect(m_form.playAndStop, &QAbstractButton::clicked, &m_session, &ViewerSession::togglePlaying);
     connect(&playback, &Playback::playingChanged, this, &TransportControls::showPlaying);
-    connect(&playback, &Playback::rateMeasured, this,
-            [this](double rate) { m_form.playbackRate->setText(tr("%1 fps").arg(rate, 0, 'f', 1)); });
+    connect(&playback, &Playback::rateMeasured, this, [this](double rate) {
+        m_form.playbackRate->setText(tr("%1 fps").arg(QLocale().toString(rate, 'f', 1)));
+    });
 }
 
 void TransportControls::retranslate()
